@@ -1,0 +1,180 @@
+#include "base/day.h"
+
+#include <array>
+#include <cstdio>
+
+using namespace std::chrono;
+
+namespace kurbo {
+namespace {
+
+struct Clock {
+    int hour;
+    int minute;
+    int second;
+};
+
+Clock clockOf(Moment moment) {
+    const auto inDay = static_cast<int>((moment - dayOf(moment)).count());
+    return {inDay / 3600, inDay / 60 % 60, inDay % 60};
+}
+
+QString printed(Day day, const char* format) {
+    const auto date = civil(day);
+    return QString::asprintf(format, static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+                             static_cast<unsigned>(date.day()));
+}
+
+// A run of 1 to `most` digits at `from`, which moves behind it.
+std::optional<int> digits(QStringView text, qsizetype& from, int most) {
+    int value = 0;
+    int count = 0;
+    while (from < text.size() && count < most && text[from] >= u'0' && text[from] <= u'9') {
+        value = value * 10 + (text[from].unicode() - u'0');
+        ++from;
+        ++count;
+    }
+    return count > 0 ? std::optional(value) : std::nullopt;
+}
+
+bool skip(QStringView text, qsizetype& from, QChar expected) {
+    if (from >= text.size() || text[from] != expected) return false;
+    ++from;
+    return true;
+}
+
+std::optional<Day> slashDateAt(QStringView text, qsizetype& from) {
+    const auto year = digits(text, from, 4);
+    if (!year || !skip(text, from, u'/')) return {};
+    const auto month = digits(text, from, 2);
+    if (!month || !skip(text, from, u'/')) return {};
+    const auto day = digits(text, from, 2);
+    return day ? makeDay(*year, *month, *day) : std::nullopt;
+}
+
+std::optional<seconds> clockAt(QStringView text, qsizetype& from) {
+    const auto hour = digits(text, from, 2);
+    if (!hour || *hour > 23 || !skip(text, from, u':')) return {};
+    const auto minute = digits(text, from, 2);
+    if (!minute || *minute > 59) return {};
+    int second = 0;
+    if (skip(text, from, u':')) {
+        const auto read = digits(text, from, 2);
+        if (!read || *read > 59) return {};
+        second = *read;
+    }
+    return hours{*hour} + minutes{*minute} + seconds{second};
+}
+
+// The number in text[from, from + length), or -1 when it is not all digits.
+int number(std::string_view text, std::size_t from, std::size_t length) {
+    int value = 0;
+    for (const char c : text.substr(from, length)) {
+        if (c < '0' || c > '9') return -1;
+        value = value * 10 + (c - '0');
+    }
+    return value;
+}
+
+} // namespace
+
+std::optional<Day> makeDay(int year, int month, int day) {
+    if (year < 100 || year > 9999 || month < 1 || month > 12 || day < 1) return {};
+    const year_month_day date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
+                              std::chrono::day{static_cast<unsigned>(day)}};
+    if (!date.ok()) return {};
+    return Day{date};
+}
+
+Moment at(Day day, int hour, int minute, int second) {
+    return Moment{day} + hours{hour} + minutes{minute} + seconds{second};
+}
+
+int yearOf(Day day) {
+    return static_cast<int>(civil(day).year());
+}
+
+int dayOfMonth(Day day) {
+    return static_cast<int>(static_cast<unsigned>(civil(day).day()));
+}
+
+Day addMonths(Day day, int count) {
+    const auto moved = civil(day) + months{count};
+    if (moved.ok()) return Day{moved};
+    return Day{moved.year() / moved.month() / last};
+}
+
+QString dateId(Day day) {
+    return printed(day, "%04d%02u%02u");
+}
+
+QString slashDate(Day day) {
+    return printed(day, "%04d/%02u/%02u");
+}
+
+QString slashMoment(Moment moment) {
+    const auto clock = clockOf(moment);
+    return slashDate(dayOf(moment)) + QString::asprintf(" %02d:%02d:%02d", clock.hour, clock.minute, clock.second);
+}
+
+std::string isoText(Moment moment) {
+    const auto date = civil(dayOf(moment));
+    const auto clock = clockOf(moment);
+    std::array<char, 40> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d:%02d",
+                                     static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+                                     static_cast<unsigned>(date.day()), clock.hour, clock.minute, clock.second);
+    return {text.data(), static_cast<std::size_t>(length)};
+}
+
+QString clockText(Moment moment) {
+    static constexpr std::array names{u'日', u'月', u'火', u'水', u'木', u'金', u'土'};
+    const Day day = dayOf(moment);
+    const auto date = civil(day);
+    const auto clock = clockOf(moment);
+    return QStringLiteral("%1年%2月%3日(%4)  %5:%6:%7")
+        .arg(static_cast<int>(date.year()), 4, 10, QChar(u'0'))
+        .arg(static_cast<unsigned>(date.month()), 2, 10, QChar(u'0'))
+        .arg(static_cast<unsigned>(date.day()), 2, 10, QChar(u'0'))
+        .arg(QChar(names[weekday{day}.c_encoding()]))
+        .arg(clock.hour)
+        .arg(clock.minute, 2, 10, QChar(u'0'))
+        .arg(clock.second, 2, 10, QChar(u'0'));
+}
+
+std::optional<Day> parseDateId(QStringView text) {
+    qsizetype from = 0;
+    const auto value = text.size() == 8 ? digits(text, from, 8) : std::nullopt;
+    if (!value || from != 8) return {};
+    return makeDay(*value / 10000, *value / 100 % 100, *value % 100);
+}
+
+std::optional<Day> parseSlashDate(QStringView text) {
+    qsizetype from = 0;
+    const auto day = slashDateAt(text, from);
+    return from == text.size() ? day : std::nullopt;
+}
+
+std::optional<Moment> parseSlashMoment(QStringView text) {
+    qsizetype from = 0;
+    const auto day = slashDateAt(text, from);
+    if (!day) return {};
+    if (from == text.size()) return Moment{*day};
+    if (!skip(text, from, u' ')) return {};
+    const auto clock = clockAt(text, from);
+    if (!clock || from != text.size()) return {};
+    return Moment{*day} + *clock;
+}
+
+std::optional<Moment> parseIso(std::string_view text) {
+    if (text.size() != 19 || text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
+        return {};
+    const int hour = number(text, 11, 2);
+    const int minute = number(text, 14, 2);
+    const int second = number(text, 17, 2);
+    const auto day = makeDay(number(text, 0, 4), number(text, 5, 2), number(text, 8, 2));
+    if (!day || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) return {};
+    return at(*day, hour, minute, second);
+}
+
+} // namespace kurbo

@@ -1,0 +1,32 @@
+#include "base/error_log.h"
+
+#include "base/code_page.h"
+#include "base/files.h"
+
+#include <QFile>
+
+namespace kurbo {
+namespace {
+
+QString quoted(const QString& text) {
+    return u'"' + text + u'"';
+}
+
+QString lineOf(const ErrorRecord& record) {
+    return quoted(slashDate(record.date)) + u',' + quoted(record.module) + u',' + quoted(record.procedure) + u',' +
+           quoted(record.source) + u',' + QString::number(record.number) + u',' + quoted(record.description) +
+           QStringLiteral("\r\n");
+}
+
+} // namespace
+
+void LogError(const QString& folder, const ErrorRecord& record) noexcept {
+    try {
+        QFile file(addSlash(folder) + QStringLiteral("Error.log"));
+        if (!file.open(QIODevice::Append)) return;
+        file.write(toCodePageVisibly(lineOf(record)));
+    } catch (...) { // NOLINT(bugprone-empty-catch): a failed log never stops the program
+    }
+}
+
+} // namespace kurbo

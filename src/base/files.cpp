@@ -1,0 +1,90 @@
+#include "base/files.h"
+
+#include "base/failure.h"
+#include "base/file_lock.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace kurbo {
+namespace {
+
+void writeAll(int descriptor, const QByteArray& bytes, const QString& path) {
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written =
+            ::write(descriptor, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) throw fileFault(errno, path);
+        done += written;
+    }
+}
+
+void syncFolderOf(const QString& path) {
+    const Descriptor folder{
+        ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    if (folder.get() >= 0) ::fsync(folder.get());
+}
+
+} // namespace
+
+QString addSlash(const QString& folder) {
+    QString result = folder.trimmed();
+    if (!result.endsWith(u'/')) result += u'/';
+    return result;
+}
+
+bool CheckPath(QString& path, bool folder) {
+    path = path.trimmed();
+    if (path.isEmpty()) return false;
+    const QFileInfo info(path);
+    return folder ? info.isDir() : info.isFile();
+}
+
+QByteArray readFile(const QString& path) {
+    const QByteArray name = QFile::encodeName(path);
+    const Descriptor file{::open(name.constData(), O_RDONLY | O_CLOEXEC)};
+    if (file.get() < 0) throw fileFault(errno, path);
+    QByteArray bytes;
+    QByteArray block(65536, Qt::Uninitialized);
+    for (;;) {
+        const ssize_t got = ::read(file.get(), block.data(), static_cast<std::size_t>(block.size()));
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) throw fileFault(errno, path);
+        if (got == 0) return bytes;
+        bytes.append(block.constData(), got);
+    }
+}
+
+void replaceFile(const QString& path, const QByteArray& bytes) {
+    const QString fresh = path + QStringLiteral(".new");
+    const QByteArray name = QFile::encodeName(fresh);
+    try {
+        const Descriptor file{::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)};
+        if (file.get() < 0) throw fileFault(errno, path);
+        writeAll(file.get(), bytes, path);
+        if (::fsync(file.get()) != 0) throw fileFault(errno, path);
+        renameOver(fresh, path);
+    } catch (...) {
+        ::unlink(name.constData());
+        throw;
+    }
+}
+
+void renameOver(const QString& from, const QString& to) {
+    if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        throw fileFault(errno, to);
+    syncFolderOf(to);
+}
+
+void makeWritable(const QString& path) {
+    const auto permissions = QFile::permissions(path);
+    if (permissions.testFlag(QFile::WriteOwner)) return;
+    QFile::setPermissions(path, permissions | QFile::WriteOwner | QFile::WriteUser);
+}
+
+} // namespace kurbo

@@ -1,0 +1,100 @@
+#include "punch/punch_clock.h"
+
+#include "punch/record.h"
+#include "punch/state.h"
+#include "store/readers.h"
+
+namespace kurbo {
+namespace {
+
+void warnNoEnter(const Context& context) {
+    context.prompts.exclaim(lines(QStringLiteral("本日の出社時打刻を行っていない可能性があります。"),
+                                  QStringLiteral("管理者にタイムカードの修正を依頼して下さい。")));
+}
+
+void warnNoLeave(const Context& context, const QString& date) {
+    context.prompts.exclaim(
+        lines(date + QStringLiteral("の退社時打刻及び本日の出社時打刻を行っていない可能性があります。"),
+              QStringLiteral("管理者にタイムカードの修正を依頼して下さい。")));
+}
+
+bool continues(const Context& context, const QString& date) {
+    return context.prompts.confirm(
+        lines(date + QStringLiteral("の退社打刻がありません。"), date + QStringLiteral("からの継続勤務ですか？")));
+}
+
+PunchResult refuse(const Context& context, const StatusCode& status) {
+    context.prompts.exclaim(status.is(u"AE") ? QStringLiteral("既に出社打刻済です。打刻できません。")
+                                             : QStringLiteral("既に退社打刻済です。打刻できません。"));
+    return PunchResult::Refused;
+}
+
+PunchResult ended(bool written) {
+    return written ? PunchResult::Done : PunchResult::Stopped;
+}
+
+// One punch in the making.
+struct Press {
+    const Context& context;
+    Connection& connection;
+    const QString& staff;
+    Moment when;
+
+    [[nodiscard]] PunchResult enter(const StatusCode& status) const {
+        if (status.is(u"AE") || status.is(u"AL")) return refuse(context, status);
+        const bool newRow = status.is(u"NE") || status.is(u"ND") || status.is(u"NR");
+        return ended(RecordEnter(context, connection, staff, when, newRow, false));
+    }
+
+    [[nodiscard]] PunchResult leave(const StatusCode& status) const {
+        if (status.is(u"AL")) return refuse(context, status);
+        const bool newRow = status.is(u"NE") || status.is(u"NR") || status.is(u"ND");
+        const QString day = newRow ? QString() : dateId(dayOf(when));
+        if (status.is(u"AE")) return ended(leaveOn(day));
+        const bool open = status.is(u"RD") || status.is(u"ND");
+        if (open && continues(context, status.date())) return ended(leaveOn(status.dateId()));
+        if (!leaveOn(day)) return PunchResult::Stopped;
+        open ? warnNoLeave(context, status.date()) : warnNoEnter(context);
+        return PunchResult::Done;
+    }
+
+    [[nodiscard]] PunchResult outOrIn(const StatusCode& status, Punch kind) const {
+        if (status.is(u"ID")) return ended(outing(kind, status.cardId()));
+        const bool open = status.is(u"ND");
+        if (open && continues(context, status.date())) return ended(outing(kind, status.cardId()));
+        if (!RecordEnter(context, connection, staff, when, true, true)) return PunchResult::Stopped;
+        const StatusCode made = GetKurboID(context, connection, staff, when);
+        if (made.failed() || !outing(kind, made.cardId())) return PunchResult::Stopped;
+        open ? warnNoLeave(context, status.date()) : warnNoEnter(context);
+        return PunchResult::Done;
+    }
+
+    [[nodiscard]] bool leaveOn(const QString& day) const { return RecordLeave(context, connection, staff, when, day); }
+
+    [[nodiscard]] bool outing(Punch kind, std::int64_t cardId) const {
+        return kind == Punch::Out ? RecordGoOut(context, connection, cardId, when)
+                                  : RecordComeIn(context, connection, cardId, when);
+    }
+};
+
+Moment punchTime(const Context& context, const Puncher& puncher, Punch kind) {
+    const Moment now = context.clock.now();
+    if (kind == Punch::Enter) return now - std::chrono::seconds(puncher.EnterDelay);
+    if (kind == Punch::Leave) return now + std::chrono::seconds(puncher.LeaveGain);
+    return now;
+}
+
+} // namespace
+
+PunchResult punch(const Context& context, Connection& connection, const Puncher& puncher, Punch kind) {
+    const Press press{context, connection, puncher.staff, punchTime(context, puncher, kind)};
+    if (!hasCalendar(context, connection, dayOf(press.when))) return PunchResult::Stopped;
+    const bool onCard = kind == Punch::Enter || kind == Punch::Leave;
+    const StatusCode status = onCard ? TimeCardStatus(context, connection, puncher.staff, press.when)
+                                     : GetKurboID(context, connection, puncher.staff, press.when);
+    if (status.failed()) return PunchResult::Stopped;
+    if (kind == Punch::Enter) return press.enter(status);
+    return kind == Punch::Leave ? press.leave(status) : press.outOrIn(status, kind);
+}
+
+} // namespace kurbo

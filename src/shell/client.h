@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/guard.h"
+#include "store/access.h"
+#include "store/connection.h"
+
+#include <QString>
+
+namespace kurbo {
+
+// Who works at the window, "ADMIN" in both for the administrator.
+struct Session {
+    QString SessionSection;
+    QString SessionStaff;
+    AccessRights access;
+    int EnterDelay = 0;
+    int LeaveGain = 0;
+};
+
+// What the whole running client shares.
+class Client final {
+  public:
+    explicit Client(const Context& surroundings) : context(surroundings), CurrentConnection(&HomeConnection) {}
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+
+    const Context& context;
+    QString DbPath;
+    bool DbUsable = true;
+    Connection HomeConnection;
+    Connection OtherConnection;
+    // An alias, never a connection of its own.
+    Connection* CurrentConnection;
+    Session session;
+
+    // Opens the home database on DbPath and works on it; throws.
+    void openHome();
+    void closeConnections();
+};
+
+} // namespace kurbo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/guard.h"
+#include "store/connection.h"
+
+namespace kurbo {
+
+// The set-up tests: each is true when its setting has been made. False also after a reported failure.
+[[nodiscard]] bool IsCorpOK(const Context& context, Connection& connection);
+[[nodiscard]] bool IsSectionOK(const Context& context, Connection& connection);
+[[nodiscard]] bool IsStaffOK(const Context& context, Connection& connection);
+[[nodiscard]] bool IsWorkStyleOK(const Context& context, Connection& connection);
+[[nodiscard]] bool IsWorkTimeOK(const Context& context, Connection& connection);
+[[nodiscard]] bool IsAdjustOK(const Context& context, Connection& connection);
+[[nodiscard]] bool IsAccessOK(const Context& context, Connection& connection);
+
+// The administrator's settings screens, in the order in which a new site fills them.
+enum class Setting { Corp, Section, Staff, WorkStyle, WorkTime, Access, User, Calendar };
+
+// Whether the screen may open. What has to be set before it is told otherwise.
+[[nodiscard]] bool settingAllowed(const Context& context, Connection& connection, Setting setting);
+
+// Whether the card and totals screens may open: the calendar's first month must have more than 30 days. Says so if not.
+[[nodiscard]] bool cardAllowed(const Context& context, Connection& connection);
+// Whether there are days to move. Says so if not.
+[[nodiscard]] bool moveAllowed(const Context& context, Connection& connection);
+
+} // namespace kurbo

@@ -1,0 +1,284 @@
+#include "store/connection.h"
+
+#include "store/dialect.h"
+#include "store/engine_fault.h"
+#include "store/schema.h"
+#include "store/sql_functions.h"
+#include "store/text_order.h"
+
+#include <sqlite3.h>
+
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <thread>
+
+namespace kurbo {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr milliseconds betweenNotices{100};
+
+void bind(sqlite3_stmt* statement, int place, const Value& value) {
+    const auto bindText = [&](const char* bytes, qsizetype size) {
+        sqlite3_bind_text64(statement, place, bytes, static_cast<sqlite3_uint64>(size), SQLITE_TRANSIENT, SQLITE_UTF8);
+    };
+    const auto& data = value.data();
+    if (const auto* number = std::get_if<std::int64_t>(&data)) {
+        sqlite3_bind_int64(statement, place, *number);
+    } else if (const auto* real = std::get_if<double>(&data)) {
+        sqlite3_bind_double(statement, place, *real);
+    } else if (const auto* text = std::get_if<QString>(&data)) {
+        const QByteArray bytes = text->toUtf8();
+        bindText(bytes.constData(), bytes.size());
+    } else if (const auto* moment = std::get_if<Moment>(&data)) {
+        const std::string stored = isoText(*moment);
+        bindText(stored.data(), static_cast<qsizetype>(stored.size()));
+    } else {
+        sqlite3_bind_null(statement, place);
+    }
+}
+
+std::vector<bool> dateColumns(sqlite3_stmt* statement) {
+    std::vector<bool> dates(static_cast<std::size_t>(sqlite3_column_count(statement)));
+    for (std::size_t i = 0; i < dates.size(); ++i) {
+        const char* type = sqlite3_column_decltype(statement, static_cast<int>(i));
+        dates[i] = type && std::string_view(type) == dateTimeType;
+    }
+    return dates;
+}
+
+// The engine reports an empty or missing file only later, and in other words.
+void checkFile(const QString& path) {
+    struct stat file {};
+    if (::stat(QFile::encodeName(path).constData(), &file) != 0) throw missingFault(errno, path);
+    if (!S_ISREG(file.st_mode) || file.st_size == 0) throw storeFault(StoreError::NotMdb, path);
+}
+
+} // namespace
+
+Connection::Connection() = default;
+
+Connection::~Connection() {
+    close();
+}
+
+void Connection::open(const QString& path, const QString& password) {
+    openFile(path, password, false);
+}
+
+void Connection::openAlone(const QString& path, const QString& password) {
+    openFile(path, password, true);
+}
+
+void Connection::openFile(const QString& path, const QString& password, bool alone) {
+    close();
+    checkFile(path);
+    path_ = path;
+    alone_ = alone;
+    try {
+        if (!alone) (void)lock_.join(path, patience(), notice_);
+        openEngine();
+        checkIdentity(password);
+    } catch (...) {
+        close();
+        throw;
+    }
+}
+
+void Connection::openEngine() {
+    const int result = sqlite3_open_v2(QFile::encodeName(path_).constData(), &database_,
+                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+    if (result != SQLITE_OK) fail(result);
+    sqlite3_busy_handler(database_, onBusy, this);
+    sqlite3_db_config(database_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(database_, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    installTextOrder(database_);
+    installFunctions(database_);
+    engine("PRAGMA foreign_keys=ON; PRAGMA synchronous=FULL; PRAGMA temp_store=MEMORY; PRAGMA cell_size_check=ON;"
+           "PRAGMA cache_size=-16000;");
+}
+
+void Connection::checkIdentity(const QString& password) {
+    const Reading reading(*this);
+    const auto pragma = [this](const char* sql) {
+        sqlite3_stmt* statement = nullptr;
+        int result = sqlite3_prepare_v2(database_, sql, -1, &statement, nullptr);
+        if (result == SQLITE_OK) result = sqlite3_step(statement);
+        const int value = result == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
+        sqlite3_finalize(statement);
+        if (result != SQLITE_ROW) fail(result);
+        return value;
+    };
+    if (pragma("PRAGMA application_id") != applicationId) throw storeFault(StoreError::NotMdb, path_);
+    if (pragma("PRAGMA user_version") > schemaVersion) throw storeFault(StoreError::Newer, path_);
+    const auto seal = firstValue(QStringLiteral("SELECT F_Seal FROM S_Seal"));
+    if (!seal || !sealMatches(seal->text(), password)) throw storeFault(StoreError::WrongPassword, path_);
+}
+
+void Connection::close() {
+    for (auto& shelves : shelves_) {
+        for (const auto& [statement, shelf] : shelves)
+            for (const auto& prepared : shelf) sqlite3_finalize(prepared->statement);
+        shelves.clear();
+    }
+    sqlite3_close_v2(std::exchange(database_, nullptr));
+    lock_.leave();
+    lost_ = false;
+    outOfTurn_ = false;
+    turns_ = 0;
+    transactions_ = 0;
+}
+
+bool Connection::readOnly() const {
+    return (!alone_ && !lock_.joined()) || sqlite3_db_readonly(database_, "main") == 1;
+}
+
+void Connection::fail(int result) {
+    const Fault fault = engineFault(database_, result, path_);
+    lost_ = lost_ || (result & 0xff) == SQLITE_IOERR || (result & 0xff) == SQLITE_CANTOPEN;
+    throw fault;
+}
+
+void Connection::engine(const QByteArray& sql) {
+    const int result = sqlite3_exec(database_, sql.constData(), nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK) fail(result);
+}
+
+int Connection::onBusy(void* self, int count) {
+    auto& connection = *static_cast<Connection*>(self);
+    const auto now = steady_clock::now();
+    if (count == 0) {
+        connection.busyUntil_ = connection.patience();
+        connection.nextNotice_ = now + betweenNotices;
+    }
+    if (connection.outOfTurn_ || now >= connection.busyUntil_) return 0;
+    if (connection.notice_ && now >= connection.nextNotice_) {
+        connection.notice_();
+        connection.nextNotice_ = now + betweenNotices;
+    }
+    // Short and uneven, so that waiting clients do not come back together.
+    const int longest = std::min(500 + count * 250, 5000);
+    std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(250, longest)));
+    return 1;
+}
+
+Prepared& Connection::prepare(Form form, const QString& statement) {
+    if (!database_) throw storeFault(StoreError::NoFile, path_);
+    Shelf& shelf = shelves_[static_cast<std::size_t>(form)][statement];
+    for (const auto& prepared : shelf)
+        if (!prepared->busy) return *prepared;
+    const Translation translation = form == Form::FromLast ? translatedFromLast(statement)
+                                    : form == Form::WithId ? translatedWithRowId(statement)
+                                                           : translated(statement);
+    auto prepared = std::make_unique<Prepared>();
+    const int result = sqlite3_prepare_v3(database_, translation.sql.constData(), -1, SQLITE_PREPARE_PERSISTENT,
+                                          &prepared->statement, nullptr);
+    if (result != SQLITE_OK) fail(result);
+    prepared->dates = dateColumns(prepared->statement);
+    prepared->table = translation.table;
+    return *shelf.emplace_back(std::move(prepared));
+}
+
+Rows Connection::bound(Prepared& prepared, const Values& values) {
+    prepared.busy = true;
+    Rows rows(*this, prepared);
+    if (sqlite3_bind_parameter_count(prepared.statement) != values.size()) throw syntaxFault({});
+    for (qsizetype i = 0; i < values.size(); ++i) bind(prepared.statement, static_cast<int>(i) + 1, values[i]);
+    return rows;
+}
+
+Rows Connection::rows(const QString& statement, const Values& values) {
+    return bound(prepare(Form::Plain, statement), values);
+}
+
+Rows Connection::rowsFromLast(const QString& statement, const Values& values) {
+    return bound(prepare(Form::FromLast, statement), values);
+}
+
+Rows Connection::rowsWithId(const QString& statement, const Values& values) {
+    return bound(prepare(Form::WithId, statement), values);
+}
+
+std::optional<Value> Connection::firstValue(const QString& statement, const Values& values) {
+    Rows found = rows(statement, values);
+    return found.next() ? std::optional(found.value(0)) : std::nullopt;
+}
+
+std::optional<Value> Connection::lastValue(const QString& statement, const Values& values) {
+    Rows found = rowsFromLast(statement, values);
+    return found.next() ? std::optional(found.value(0)) : std::nullopt;
+}
+
+bool Connection::hasRow(const QString& statement, const Values& values) {
+    return rows(statement, values).next();
+}
+
+std::int64_t Connection::execute(const QString& statement, const Values& values) {
+    Transaction transaction(*this);
+    {
+        Rows running = rows(statement, values);
+        while (running.next()) {
+        }
+    }
+    const std::int64_t changed = sqlite3_changes64(database_);
+    transaction.commit();
+    return changed;
+}
+
+std::int64_t Connection::lastRowId() const {
+    return sqlite3_last_insert_rowid(database_);
+}
+
+void Connection::beginTurn() {
+    // The queue is a courtesy and the engine's lock decides: a client that stands still in its place stops nobody.
+    if (turns_++ == 0) outOfTurn_ = !lock_.waitTurn(patience(), notice_);
+}
+
+void Connection::endTurn() {
+    if (turns_ > 0 && --turns_ == 0) lock_.endTurn();
+}
+
+Turn::Turn(Connection& connection) : connection_(connection) {
+    connection_.beginTurn();
+}
+
+Turn::~Turn() {
+    connection_.endTurn();
+}
+
+Transaction::Transaction(Connection& connection) : connection_(connection), turn_(connection) {
+    if (connection_.transactions_ == 0) {
+        if (connection_.readOnly()) throw storeFault(StoreError::ReadOnly, connection_.path());
+        connection_.engine("BEGIN IMMEDIATE");
+    }
+    ++connection_.transactions_;
+}
+
+Transaction::~Transaction() {
+    if (!open_) return;
+    --connection_.transactions_;
+    // The engine may have rolled back by itself; a failure here has been reported by its cause.
+    if (connection_.transactions_ == 0 && connection_.database_)
+        sqlite3_exec(connection_.database_, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+void Transaction::commit() {
+    if (connection_.transactions_ == 1) connection_.engine("COMMIT");
+    --connection_.transactions_;
+    open_ = false;
+}
+
+Reading::Reading(Connection& connection) : connection_(connection), own_(!connection.inTransaction()) {
+    if (own_) connection_.engine("BEGIN");
+}
+
+Reading::~Reading() {
+    if (own_ && connection_.database_) sqlite3_exec(connection_.database_, "COMMIT", nullptr, nullptr, nullptr);
+}
+
+} // namespace kurbo

@@ -1,0 +1,131 @@
+#include "store/lock_file.h"
+
+#include "store/engine_fault.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kurbo {
+namespace {
+
+// Far behind the eight bytes that hold the next ticket's number.
+constexpr std::int64_t presenceByte = 0x40000000;
+constexpr std::int64_t handOutByte = presenceByte + 1;
+constexpr std::int64_t firstTicketByte = presenceByte + 0x100;
+constexpr std::uint64_t ticketBytes = 4096;
+
+std::int64_t byteOf(std::uint64_t ticket) {
+    return firstTicketByte + static_cast<std::int64_t>(ticket % ticketBytes);
+}
+
+// The path with its last ".mdb" replaced, in the case of its own first letter.
+QString withSuffix(const QString& path, QLatin1StringView suffix) {
+    const QString known = QStringLiteral(".mdb");
+    const qsizetype dot = path.lastIndexOf(known, -1, Qt::CaseInsensitive);
+    if (dot < 0 || path.indexOf(u'/', dot) >= 0) return path + u'.' + QString(suffix).toLower();
+    const bool upper = path[dot + 1].isUpper();
+    return path.left(dot + 1) + (upper ? QString(suffix) : QString(suffix).toLower()) + path.mid(dot + known.size());
+}
+
+bool sameFile(int descriptor, const char* path) {
+    struct stat opened {};
+    struct stat named {};
+    return ::fstat(descriptor, &opened) == 0 && ::stat(path, &named) == 0 && opened.st_ino == named.st_ino &&
+           opened.st_dev == named.st_dev;
+}
+
+// Whoever may write the database may write its lock file.
+void shareLike(int descriptor, const QString& databasePath) {
+    struct stat database {};
+    if (::stat(QFile::encodeName(databasePath).constData(), &database) == 0)
+        ::fchmod(descriptor, database.st_mode & 0666U);
+}
+
+} // namespace
+
+QString LockFile::nameFor(const QString& databasePath) {
+    return withSuffix(databasePath, QLatin1StringView("LDB"));
+}
+
+QString LockFile::copyNameFor(const QString& databasePath) {
+    return withSuffix(databasePath, QLatin1StringView("BAK"));
+}
+
+bool LockFile::join(const QString& databasePath, Patience until, const WaitNotice& notice) {
+    const QString path = nameFor(databasePath);
+    const QByteArray name = QFile::encodeName(path);
+    for (;;) {
+        Descriptor file{::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)};
+        if (file.get() < 0 && (errno == EACCES || errno == EPERM || errno == EROFS)) return false;
+        if (file.get() < 0 && (errno == ENOSPC || errno == EDQUOT)) throw storeFault(StoreError::DiskFull);
+        if (file.get() < 0) throw missingFault(errno, path);
+        shareLike(file.get(), databasePath);
+        if (!lockWithin(file.get(), presenceByte, LockKind::Shared, until, notice)) throw storeFault(StoreError::Busy);
+        // Between opening and locking, the last one out may have removed this very file.
+        if (!sameFile(file.get(), name.constData())) continue;
+        path_ = path;
+        file_ = std::move(file);
+        return true;
+    }
+}
+
+void LockFile::leave() {
+    if (!joined()) return;
+    endTurn();
+    if (tryLock(file_.get(), presenceByte, LockKind::Exclusive)) ::unlink(QFile::encodeName(path_).constData());
+    file_.reset();
+}
+
+std::uint64_t LockFile::takeTicket() {
+    std::uint64_t ticket = 0;
+    if (::pread(file_.get(), &ticket, sizeof ticket, 0) != sizeof ticket) ticket = 0;
+    const std::uint64_t next = ticket + 1;
+    // On a full disk the number may stay: two writers then share a ticket, and its byte keeps them apart.
+    (void)!::pwrite(file_.get(), &next, sizeof next, 0);
+    return ticket;
+}
+
+bool LockFile::waitTurn(Patience until, const WaitNotice& notice) {
+    if (!joined()) return true;
+    if (!lockWithin(file_.get(), handOutByte, LockKind::Exclusive, until, notice)) return false;
+    const std::uint64_t ticket = takeTicket();
+    const bool own = tryLock(file_.get(), byteOf(ticket), LockKind::Exclusive);
+    unlock(file_.get(), handOutByte);
+    if (!own && !lockWithin(file_.get(), byteOf(ticket), LockKind::Exclusive, until, notice)) return false;
+    ticketByte_ = byteOf(ticket);
+    const std::int64_t before = byteOf(ticket + ticketBytes - 1);
+    const bool mine = lockWithin(file_.get(), before, LockKind::Shared, until, notice);
+    if (mine) unlock(file_.get(), before);
+    if (!mine) endTurn();
+    return mine;
+}
+
+void LockFile::endTurn() {
+    if (ticketByte_ >= 0) unlock(file_.get(), std::exchange(ticketByte_, -1));
+}
+
+bool LockFile::claim(const QString& databasePath) {
+    const QString path = nameFor(databasePath);
+    Descriptor file{::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666)};
+    if (file.get() < 0 && errno == EEXIST) return false;
+    if (file.get() < 0) throw fileFault(errno, path);
+    shareLike(file.get(), databasePath);
+    if (!tryLock(file.get(), presenceByte, LockKind::Exclusive)) return false;
+    path_ = path;
+    file_ = std::move(file);
+    return true;
+}
+
+void LockFile::removeStale(const QString& databasePath) {
+    const QByteArray name = QFile::encodeName(nameFor(databasePath));
+    const Descriptor file{::open(name.constData(), O_RDWR | O_CLOEXEC)};
+    if (file.get() >= 0 && tryLock(file.get(), presenceByte, LockKind::Exclusive) &&
+        sameFile(file.get(), name.constData()))
+        ::unlink(name.constData());
+}
+
+} // namespace kurbo
