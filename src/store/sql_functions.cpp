@@ -53,18 +53,36 @@ void cdate(sqlite3_context* context, Arguments arguments) {
     give(context, QString::fromStdString(isoText(*moment)));
 }
 
+// Parts of a date by their letters: yyyy, mm, dd, hh, nn, ss.
+QString formattedMoment(Moment moment, QString pattern) {
+    const QString stored = QString::fromStdString(isoText(moment));
+    struct Part {
+        const char16_t* letters;
+        int from;
+    };
+    for (const auto& [letters, from] :
+         {Part{u"yyyy", 0}, Part{u"mm", 5}, Part{u"dd", 8}, Part{u"hh", 11}, Part{u"nn", 14}, Part{u"ss", 17}})
+        pattern.replace(QString::fromUtf16(letters), stored.mid(from, QStringView(letters).size()));
+    return pattern;
+}
+
 // A run of "0" is the number with at least so many digits; every other character stands for itself.
-void format(sqlite3_context* context, Arguments arguments) {
-    bool ok = false;
-    const qint64 number = qRound64(textOf(arguments[0]).trimmed().toDouble(&ok));
-    if (!ok) return give(context, textOf(arguments[0]));
-    QString pattern = textOf(arguments[1]);
+QString formattedNumber(qint64 number, QString pattern) {
     const qsizetype from = pattern.indexOf(u'0');
     qsizetype past = from;
     while (past >= 0 && past < pattern.size() && pattern[past] == u'0') ++past;
-    if (from < 0) return sqlite3_result_error(context, "Format: the pattern has no place for a number", -1);
+    if (from < 0) return pattern;
     const QString digits = QString::number(qAbs(number)).rightJustified(past - from, u'0');
-    give(context, pattern.replace(from, past - from, number < 0 ? u'-' + digits : digits));
+    return pattern.replace(from, past - from, number < 0 ? u'-' + digits : digits);
+}
+
+void format(sqlite3_context* context, Arguments arguments) {
+    const QString text = textOf(arguments[0]);
+    const QString pattern = textOf(arguments[1]);
+    if (const auto moment = parseIso(text.toStdString())) return give(context, formattedMoment(*moment, pattern));
+    bool ok = false;
+    const qint64 number = qRound64(text.trimmed().toDouble(&ok));
+    give(context, ok ? formattedNumber(number, pattern) : text);
 }
 
 template <void (*body)(sqlite3_context*, Arguments)>

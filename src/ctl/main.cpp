@@ -1,0 +1,80 @@
+#include "base/failure.h"
+#include "base/product.h"
+#include "ctl/commands.h"
+#include "ctl/console.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <exception>
+
+namespace kurbo {
+namespace {
+
+struct Command {
+    const char16_t* name;
+    Exit (*run)(const QStringList&);
+    const char16_t* usage;
+};
+
+constexpr std::array commands{
+    Command{u"new", runNew, u"new FILE"},
+    Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
+    Command{u"punch", runPunch,
+            u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "
+            u"hh:nn:ss\"]"},
+    Command{u"check", runCheck, u"check FILE"},
+    Command{u"compact", runCompact, u"compact FILE"},
+};
+
+QString usage() {
+    QString text = QStringLiteral("usage: kurboctl COMMAND FILE ...\n");
+    for (const Command& command : commands) text += QStringLiteral("  ") + QString::fromUtf16(command.usage) + u'\n';
+    return text + QStringLiteral("every command: --today yyyy/mm/dd, --at \"yyyy/mm/dd hh:nn:ss\", --app-folder DIR\n"
+                                 "exit status: 0 done, 1 refused, 2 wrong use, 3 fault");
+}
+
+// The failures that reach the top are said here, once.
+Exit run(const Command& command, const QStringList& arguments) {
+    try {
+        return command.run(arguments);
+    } catch (const WrongUse& wrong) {
+        complain(QStringLiteral("kurboctl: ") + wrong.what + u'\n' + usage());
+        return Exit::WrongUse;
+    } catch (const Complaint& complaint) {
+        complain(complaint.description());
+        return Exit::Refused;
+    } catch (const Fault& fault) {
+        complain(lines(QStringLiteral("エラー番号：") + QString::number(fault.number()), fault.description()));
+        return Exit::Fault;
+    } catch (const std::exception& error) {
+        complain(QString::fromUtf8(error.what()));
+        return Exit::Fault;
+    }
+}
+
+Exit runNamed(const QStringList& arguments) {
+    const QString name = arguments.value(1);
+    if (name == u"--help" || name == u"help") {
+        say(usage());
+        return Exit::Done;
+    }
+    if (name == u"--version") {
+        say(QStringLiteral("kurboctl ") + productVersion());
+        return Exit::Done;
+    }
+    const auto known = std::ranges::find_if(commands, [&](const Command& c) { return name == QStringView(c.name); });
+    if (known != commands.end()) return run(*known, arguments.mid(2));
+    complain(usage());
+    return Exit::WrongUse;
+}
+
+} // namespace
+} // namespace kurbo
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("kurbo"));
+    return static_cast<int>(kurbo::runNamed(QCoreApplication::arguments()));
+}

@@ -1,0 +1,55 @@
+#include "ctl/options.h"
+
+namespace kurbo {
+
+Options::Options() {
+    parser_.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
+    add(QStringLiteral("format"), QStringLiteral("table, tsv, csv or json"));
+    add(QStringLiteral("today"), QStringLiteral("the day that counts as today, yyyy/mm/dd"));
+    add(QStringLiteral("at"), QStringLiteral("the moment that counts as now, yyyy/mm/dd hh:nn:ss"));
+    add(QStringLiteral("app-folder"), QStringLiteral("folder of Error.log"));
+}
+
+void Options::add(const QString& name, const QString& description) {
+    parser_.addOption(QCommandLineOption(name, description, QStringLiteral("value")));
+}
+
+void Options::addSwitch(const QString& name, const QString& description) {
+    parser_.addOption(QCommandLineOption(name, description));
+}
+
+void Options::read(const QStringList& arguments, qsizetype places) {
+    if (!parser_.parse(QStringList(QStringLiteral("kurboctl")) + arguments)) throw WrongUse{parser_.errorText()};
+    const qsizetype given = parser_.positionalArguments().size();
+    if (given < places) throw WrongUse{QStringLiteral("an argument is missing")};
+    if (given > places) throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
+}
+
+int Options::number(const QString& name, int otherwise, int least, int most) const {
+    if (!has(name)) return otherwise;
+    bool ok = false;
+    const int number = value(name).toInt(&ok);
+    if (!ok || number < least || number > most)
+        throw WrongUse{QStringLiteral("--%1 takes a whole number from %2 to %3").arg(name).arg(least).arg(most)};
+    return number;
+}
+
+std::optional<Day> Options::day(const QString& name) const {
+    if (!has(name)) return {};
+    const auto day = parseSlashDate(value(name));
+    if (!day) throw WrongUse{QStringLiteral("--%1 takes a date, yyyy/mm/dd").arg(name)};
+    return day;
+}
+
+std::unique_ptr<Clock> Options::clock() const {
+    const QString at = QStringLiteral("at");
+    if (has(at)) {
+        const auto moment = parseSlashMoment(value(at));
+        if (!moment) throw WrongUse{QStringLiteral("--at takes a moment, \"yyyy/mm/dd hh:nn:ss\"")};
+        return std::make_unique<FixedClock>(*moment);
+    }
+    if (const auto today = day(QStringLiteral("today"))) return std::make_unique<ShiftedClock>(*today);
+    return std::make_unique<SystemClock>();
+}
+
+} // namespace kurbo

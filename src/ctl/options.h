@@ -1,0 +1,43 @@
+#pragma once
+
+#include "base/clock.h"
+
+#include <QCommandLineParser>
+#include <QStringList>
+
+#include <memory>
+
+namespace kurbo {
+
+// The command line does not fit the command; `what` says why.
+struct WrongUse {
+    QString what;
+};
+
+// The options of one command, and those that every command takes: --format, --today, --at, --app-folder.
+class Options final {
+  public:
+    Options();
+    // An option with a value.
+    void add(const QString& name, const QString& description);
+    // An option without one.
+    void addSwitch(const QString& name, const QString& description);
+    // Reads the arguments, of which `places` are no options. Throws WrongUse.
+    void read(const QStringList& arguments, qsizetype places);
+
+    [[nodiscard]] QString place(qsizetype index) const { return parser_.positionalArguments().at(index); }
+    [[nodiscard]] bool has(const QString& name) const { return parser_.isSet(name); }
+    [[nodiscard]] QString value(const QString& name) const { return parser_.value(name); }
+    // A whole number from `least` to `most`; `otherwise` without the option. Throws WrongUse.
+    [[nodiscard]] int number(const QString& name, int otherwise, int least, int most) const;
+    // "yyyy/mm/dd"; nothing without the option. Throws WrongUse.
+    [[nodiscard]] std::optional<Day> day(const QString& name) const;
+
+    // The system's time, or what --today and --at make of it. Throws WrongUse.
+    [[nodiscard]] std::unique_ptr<Clock> clock() const;
+
+  private:
+    QCommandLineParser parser_;
+};
+
+} // namespace kurbo

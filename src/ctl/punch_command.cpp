@@ -1,0 +1,86 @@
+#include "ctl/commands.h"
+#include "ctl/console.h"
+#include "punch/punch_clock.h"
+#include "shell/login.h"
+#include "store/database_file.h"
+#include "store/readers.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kurbo {
+namespace {
+
+struct Word {
+    const char16_t* word;
+    Punch punch;
+};
+
+constexpr std::array words{Word{u"enter", Punch::Enter}, Word{u"leave", Punch::Leave}, Word{u"out", Punch::Out},
+                           Word{u"in", Punch::In}};
+
+Punch punchNamed(const QString& name) {
+    const auto found = std::ranges::find_if(words, [&](const Word& word) { return name == QStringView(word.word); });
+    if (found == words.end()) throw WrongUse{QStringLiteral("punch takes enter, leave, out or in")};
+    return found->punch;
+}
+
+std::optional<Answer> continuedAnswer(const Options& options) {
+    const QString name = QStringLiteral("continued");
+    if (!options.has(name)) return {};
+    if (options.value(name) == u"yes") return Answer::Yes;
+    if (options.value(name) == u"no") return Answer::No;
+    throw WrongUse{QStringLiteral("--continued takes yes or no")};
+}
+
+QString needed(const Options& options, const QString& name) {
+    if (!options.has(name)) throw WrongUse{QStringLiteral("--%1 is missing").arg(name)};
+    return options.value(name);
+}
+
+// The name shown in the login list, for messages; the code where there is none.
+QString nameOf(Connection& connection, const QString& staff) {
+    const auto name =
+        connection.firstValue(QStringLiteral("SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = ?);"), {staff});
+    return name && !name->isNull() ? name->text() : staff;
+}
+
+Exit refused(const Console& console) {
+    return console.prompts().sawFault() ? Exit::Fault : Exit::Refused;
+}
+
+Exit logInAndPunch(const Console& console, const Options& options, Punch kind) {
+    const QString staff = needed(options, QStringLiteral("staff"));
+    Client client(console.context());
+    client.DbPath = options.place(0);
+    client.openHome();
+    Login login(client);
+    const Credentials credentials{
+        {}, staff, nameOf(client.HomeConnection, staff), needed(options, QStringLiteral("password"))};
+    if (login.attempt(credentials) != LoginResult::Open) return refused(console);
+    if (!client.session.access.CanPunch)
+        throw Complaint(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
+    const Puncher puncher{client.session.SessionStaff, client.session.EnterDelay, client.session.LeaveGain};
+    return punch(console.context(), client.HomeConnection, puncher, kind) == PunchResult::Done ? Exit::Done
+                                                                                               : refused(console);
+}
+
+} // namespace
+
+Exit runPunch(const QStringList& arguments) {
+    Options options;
+    options.add(QStringLiteral("staff"), QStringLiteral("staff code"));
+    options.add(QStringLiteral("password"), QStringLiteral("the person's password"));
+    options.add(QStringLiteral("continued"), QStringLiteral("yes or no: the open day goes on"));
+    options.read(arguments, 2);
+    const Punch kind = punchNamed(options.place(1));
+    const Console console(options, continuedAnswer(options));
+    try {
+        return logInAndPunch(console, options, kind);
+    } catch (const Unanswered&) {
+        complain(QStringLiteral("--continued yes または --continued no を指定して下さい。"));
+        return Exit::Refused;
+    }
+}
+
+} // namespace kurbo

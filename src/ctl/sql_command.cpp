@@ -1,0 +1,53 @@
+#include "ctl/commands.h"
+#include "ctl/console.h"
+#include "ctl/result_output.h"
+#include "store/connection.h"
+#include "store/database_file.h"
+#include "store/dialect.h"
+#include "store/dialect_lexer.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace kurbo {
+namespace {
+
+QString standardInput() {
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(input.readAll());
+}
+
+void runStatement(Connection& connection, const QString& statement, Format format) {
+    if (!translated(statement).reads) {
+        connection.execute(statement);
+        return;
+    }
+    Rows rows = connection.rows(statement);
+    print(rows, format);
+}
+
+} // namespace
+
+Exit runSql(const QStringList& arguments) {
+    Options options;
+    options.read(arguments, 1);
+    const Format format = formatNamed(options.value(QStringLiteral("format")));
+    const QStringList statements = splitStatements(standardInput());
+    const auto reads = [](const QString& statement) { return translated(statement).reads; };
+    Connection connection;
+    connection.open(options.place(0), databasePassword());
+    // A question alone also works where nothing can be written.
+    if (std::ranges::all_of(statements, reads)) {
+        const Reading reading(connection);
+        for (const QString& statement : statements) runStatement(connection, statement, format);
+        return Exit::Done;
+    }
+    Transaction transaction(connection);
+    for (const QString& statement : statements) runStatement(connection, statement, format);
+    transaction.commit();
+    return Exit::Done;
+}
+
+} // namespace kurbo
