@@ -1,0 +1,136 @@
+#include "base/files.h"
+#include "store/database_file.h"
+#include "support/kurboctl.h"
+#include "support/sample_company.h"
+
+#include <QFileInfo>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace kurbo::test {
+namespace {
+
+class Kurboctl : public SampleCompany {
+  protected:
+    Kurboctl() { connection.close(); }
+    Outcome punched(const QStringList& more, const QString& at = u"2026/04/15 08:55:10"_q,
+                    const std::function<void()>& inChild = {}) {
+        return kurboctl(QStringList({u"punch"_q, path, u"--staff"_q, u"1001"_q, u"--at"_q, at, u"--app-folder"_q,
+                                     desk.folder.path()}) +
+                            more,
+                        {}, inChild);
+    }
+    QString sql(const QString& statements, const QString& format = u"tsv"_q) {
+        const Outcome outcome = kurboctl({u"sql"_q, path, u"--format"_q, format}, statements);
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+        return outcome.out;
+    }
+    const QStringList pw{u"--password"_q, u"kurbo1"_q};
+};
+
+} // namespace
+
+TEST_F(Kurboctl, WrongUseIsTwo) {
+    for (const QStringList& arguments : {QStringList{},
+                                         {u"fly"_q},
+                                         {u"new"_q},
+                                         {u"new"_q, u"a"_q, u"b"_q},
+                                         {u"sql"_q, path, u"--format"_q, u"xml"_q},
+                                         {u"punch"_q, path, u"enter"_q},
+                                         {u"punch"_q, path, u"dance"_q, u"--staff"_q, u"1"_q, u"--password"_q, u"x"_q},
+                                         {u"check"_q, path, u"--nonsense"_q},
+                                         {u"punch"_q, path, u"enter"_q, u"--at"_q, u"noon"_q}}) {
+        const Outcome outcome = kurboctl(arguments);
+        EXPECT_EQ(outcome.exit, 2) << arguments.join(u' ');
+        EXPECT_TRUE(outcome.err.contains(u"usage: kurboctl"_q));
+        EXPECT_EQ(outcome.out, QString());
+    }
+    EXPECT_EQ(kurboctl({u"--help"_q}).exit, 0);
+}
+
+TEST_F(Kurboctl, NewCheckAndCompact) {
+    const QString fresh = desk.file(u"新しい.mdb"_q);
+    EXPECT_EQ(kurboctl({u"new"_q, fresh}).exit, 0);
+    EXPECT_EQ(kurboctl({u"new"_q, fresh}).exit, 1);
+    EXPECT_EQ(kurboctl({u"new"_q, desk.file(u"no/x.mdb"_q)}).exit, 3);
+    EXPECT_EQ(kurboctl({u"check"_q, fresh}).out, u"OK\n"_q);
+    EXPECT_EQ(kurboctl({u"compact"_q, fresh}).out, u"OK\n"_q);
+    replaceFile(desk.file(u"新しい.ldb"_q), {});
+    const Outcome held = kurboctl({u"compact"_q, fresh});
+    EXPECT_EQ(held.out, u"ExistLdb\n"_q);
+    EXPECT_EQ(held.exit, 1);
+    EXPECT_EQ(kurboctl({u"check"_q, desk.file(u"none.mdb"_q)}).exit, 3);
+}
+
+TEST_F(Kurboctl, SqlPrintsInEveryForm) {
+    const QString statement = u"SELECT F_StaffCode, F_Birth, F_Order / 2.0 AS Half, F_StaffName FROM C03_Staff "
+                              "WHERE F_StaffCode = '1002';"_q;
+    sql(u"UPDATE C03_Staff SET F_Birth = #1990/01/02#, F_Order = 3, F_StaffName = '\"鈴木\", 花子' "
+        "WHERE F_StaffCode = '1002';"_q);
+    EXPECT_EQ(sql(statement, u"json"_q), u"[{\"F_StaffCode\":\"1002\",\"F_Birth\":\"1990-01-02 00:00:00\","
+                                         "\"Half\":1.5,\"F_StaffName\":\"\\\"鈴木\\\", 花子\"}]\n"_q);
+    EXPECT_EQ(sql(statement, u"csv"_q),
+              u"F_StaffCode,F_Birth,Half,F_StaffName\n1002,1990-01-02 00:00:00,1.5,\"\"\"鈴木\"\", 花子\"\n"_q);
+    EXPECT_EQ(sql(statement, u"tsv"_q),
+              u"F_StaffCode\tF_Birth\tHalf\tF_StaffName\n1002\t1990-01-02 00:00:00\t1.5\t\"鈴木\", 花子\n"_q);
+    EXPECT_EQ(sql(u"SELECT F_SectionName AS N, F_Order AS O FROM C02_Section ORDER BY F_Order"_q, u"table"_q),
+              u"N           O\n新しい部課  0\n総務部      1\n"_q);
+    EXPECT_EQ(sql(u"SELECT F_DestCode FROM T04_Destination; SELECT F_Fax, F_Order FROM C02_Section WHERE F_Order=0;"_q,
+                  u"json"_q),
+              u"[]\n[{\"F_Fax\":null,\"F_Order\":0}]\n"_q);
+}
+
+TEST_F(Kurboctl, SqlIsOneTransaction) {
+    const Outcome outcome =
+        kurboctl({u"sql"_q, path}, u"DELETE * FROM C01_Corp; INSERT INTO T02_Kurbo (F_KurboID, F_DateID) VALUES "
+                                   "(1, '20260401'), (1, '20260402');"_q);
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_TRUE(outcome.err.startsWith(u"エラー番号：3022\nインデックス、主キー、"_q)) << outcome.err;
+    EXPECT_EQ(sql(u"SELECT Count(*) AS N FROM C01_Corp"_q), u"N\n1\n"_q);
+}
+
+TEST_F(Kurboctl, PunchTellsHowItWent) {
+    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}).exit, 0);
+    const Outcome again = punched(pw + QStringList{u"enter"_q});
+    EXPECT_EQ(again.exit, 1);
+    EXPECT_EQ(again.err, u"既に出社打刻済です。打刻できません。\n"_q);
+    EXPECT_EQ(punched({u"--password"_q, u"x"_q, u"enter"_q}).err,
+              u"不正なパスワードです。正しいパスワードを入力して下さい。\n"_q);
+    const QString next = u"2026/04/16 07:00"_q;
+    const Outcome unanswered = punched(pw + QStringList{u"leave"_q}, next);
+    EXPECT_EQ(unanswered.exit, 1);
+    EXPECT_TRUE(unanswered.err.contains(u"からの継続勤務ですか？"_q));
+    EXPECT_EQ(punched(pw + QStringList{u"leave"_q, u"--continued"_q, u"yes"_q}, next).exit, 0);
+    const Outcome warned = punched(pw + QStringList{u"out"_q}, next);
+    EXPECT_EQ(warned.exit, 0);
+    EXPECT_TRUE(warned.err.startsWith(u"本日の出社時打刻を行っていない"_q));
+    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2031/01/01 09:00"_q).exit, 1) << "no calendar";
+    EXPECT_EQ(sql(u"SELECT F_DateID, F_Enter, F_Leave FROM T02_Kurbo ORDER BY F_KurboID"_q),
+              u"F_DateID\tF_Enter\tF_Leave\n20260415\t2026-04-15 08:54:40\t2026-04-16 07:01:00\n20260416\t\t\n"_q);
+    EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"ADMIN"_q, u"--password"_q, u"ADMIN"_q, u"enter"_q}).exit, 1);
+}
+
+TEST_F(Kurboctl, AFullDiskLosesNothingAndSaysSo) {
+    const auto full = [size = QFileInfo(path).size()] {
+        ::signal(SIGXFSZ, SIG_IGN);
+        const struct rlimit limit { static_cast<rlim_t>(size), static_cast<rlim_t>(size) };
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    };
+    const auto tiny = [] {
+        ::signal(SIGXFSZ, SIG_IGN);
+        const struct rlimit limit { 2048, 2048 };
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    };
+    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2026/04/15 08:55"_q, full).exit, 0)
+        << "there is room in the file";
+    const QByteArray before = readFile(path);
+    const Outcome outcome = punched(pw + QStringList{u"enter"_q}, u"2026/04/16 08:55"_q, tiny);
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_TRUE(outcome.err.contains(u"ディスクの空き容量が不足しているため"_q)) << outcome.err;
+    EXPECT_EQ(kurboctl({u"check"_q, path}).out, u"OK\n"_q);
+    EXPECT_EQ(readFile(path), before);
+    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2026/04/16 08:55"_q).exit, 0) << "again with room";
+}
+
+} // namespace kurbo::test

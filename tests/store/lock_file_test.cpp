@@ -1,0 +1,133 @@
+#include "store/lock_file.h"
+
+#include "base/failure.h"
+#include "base/files.h"
+#include "store/is_db_ok.h"
+#include "support/desk.h"
+
+#include <QFileInfo>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kurbo::test {
+namespace {
+
+Patience in(int milliseconds) {
+    return std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+}
+
+class Locks : public ::testing::Test {
+  protected:
+    Locks() { replaceFile(database, "x"); }
+    [[nodiscard]] bool there() const { return QFileInfo::exists(desk.file(u"store.ldb"_q)); }
+
+    Desk desk;
+    QString database = desk.file(u"store.mdb"_q);
+    LockFile first;
+    LockFile second;
+};
+
+// Another process that is connected until it is killed.
+class Client final {
+  public:
+    explicit Client(const QString& database) {
+        int ready[2] = {};
+        if (::pipe(ready) != 0) ADD_FAILURE();
+        process_ = ::fork();
+        if (process_ == 0) {
+            LockFile lock;
+            const bool joined = lock.join(database, in(1000), {}) && lock.waitTurn(in(1000), {});
+            (void)!::write(ready[1], joined ? "y" : "n", 1);
+            for (;;) ::pause();
+        }
+        char answer = 'n';
+        (void)!::read(ready[0], &answer, 1);
+        EXPECT_EQ(answer, 'y');
+        ::close(ready[0]);
+        ::close(ready[1]);
+    }
+    ~Client() { kill(); }
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+    void kill() {
+        if (process_ <= 0) return;
+        ::kill(process_, SIGKILL);
+        ::waitpid(process_, nullptr, 0);
+        process_ = 0;
+    }
+
+  private:
+    pid_t process_ = 0;
+};
+
+} // namespace
+
+TEST(LockNames, KeepTheFolderAndTheCase) {
+    EXPECT_EQ(LockFile::nameFor(u"/a.mdb/Store.mdb"_q), u"/a.mdb/Store.ldb"_q);
+    EXPECT_EQ(LockFile::nameFor(u"/a/STORE.MDB"_q), u"/a/STORE.LDB"_q);
+    EXPECT_EQ(LockFile::copyNameFor(u"/a/store.mdb"_q), u"/a/store.bak"_q);
+    EXPECT_EQ(LockFile::nameFor(u"/a.mdb/store.db"_q), u"/a.mdb/store.db.ldb"_q);
+}
+
+TEST_F(Locks, TheLastOneOutRemovesTheFile) {
+    ASSERT_TRUE(first.join(database, in(1000), {}));
+    ASSERT_TRUE(second.join(database, in(1000), {}));
+    first.leave();
+    EXPECT_TRUE(there());
+    second.leave();
+    EXPECT_FALSE(there());
+}
+
+TEST_F(Locks, AStaleFileIsRemovedAndAHeldOneStays) {
+    replaceFile(desk.file(u"store.ldb"_q), "left by a crash");
+    RemoveStaleLock(database);
+    EXPECT_FALSE(there());
+    RemoveStaleLock(database);
+    Client client(database);
+    RemoveStaleLock(database);
+    EXPECT_TRUE(there());
+    client.kill();
+    EXPECT_TRUE(there()) << "a crash leaves it";
+    ASSERT_TRUE(first.join(database, in(1000), {}));
+    first.leave();
+    EXPECT_FALSE(there()) << "a client that comes and goes clears it away";
+}
+
+TEST_F(Locks, ClaimIsForOneAloneAndOthersWait) {
+    ASSERT_TRUE(first.claim(database));
+    EXPECT_FALSE(second.claim(database));
+    EXPECT_THROW((void)second.join(database, in(150), {}), Fault);
+    first.leave();
+    ASSERT_TRUE(second.join(database, in(1000), {}));
+    EXPECT_FALSE(first.claim(database));
+}
+
+TEST_F(Locks, WritersComeInTheirOrder) {
+    LockFile third;
+    for (LockFile* lock : {&first, &second, &third}) ASSERT_TRUE(lock->join(database, in(1000), {}));
+    ASSERT_TRUE(first.waitTurn(in(1000), {}));
+    EXPECT_FALSE(second.waitTurn(in(150), {})) << "gives its place back";
+    first.endTurn();
+    ASSERT_TRUE(third.waitTurn(in(1000), {}));
+    third.endTurn();
+    ASSERT_TRUE(second.waitTurn(in(1000), {}));
+}
+
+TEST_F(Locks, AKilledWriterGivesItsTurnBack) {
+    ASSERT_TRUE(first.join(database, in(1000), {}));
+    Client client(database);
+    EXPECT_FALSE(first.waitTurn(in(150), {}));
+    client.kill();
+    EXPECT_TRUE(first.waitTurn(in(1000), {}));
+}
+
+TEST_F(Locks, AFolderWithoutTheRightToWriteHasNoLockFile) {
+    const AsNobody nobody;
+    EXPECT_FALSE(first.join(database, in(1000), {}));
+    EXPECT_FALSE(first.joined());
+    EXPECT_TRUE(first.waitTurn(in(100), {}));
+}
+
+} // namespace kurbo::test

@@ -1,0 +1,90 @@
+#include "store/readers.h"
+
+#include "support/sample_company.h"
+
+namespace kurbo::test {
+
+using Readers = SampleCompany;
+
+TEST_F(Readers, DbPathOfASection) {
+    connection.execute(u"UPDATE C02_Section SET F_DB = '/srv/Other.mdb' WHERE F_SectionCode = 'S01'"_q);
+    EXPECT_EQ(GetDbPath(desk.context, connection, u"s01"_q), u"/srv/Other.mdb"_q);
+    desk.prompts.expect(u"選択した部課のＤＢパスが入力されていません。"_q)
+        .expect(u"選択した部課が登録されていません。"_q);
+    EXPECT_EQ(GetDbPath(desk.context, connection, u"NEW"_q), u"ERROR"_q);
+    EXPECT_EQ(GetDbPath(desk.context, connection, u"S99"_q), u"ERROR"_q);
+}
+
+TEST_F(Readers, NextCardId) {
+    EXPECT_EQ(GenerateKurboID(desk.context, connection), 1);
+    addCard(7, today, u"09:00"_q, QString());
+    addCard(3, today, u"09:00"_q, QString());
+    EXPECT_EQ(GenerateKurboID(desk.context, connection), 8);
+    connection.close();
+    desk.prompts.expect(u"エラー番号："_q);
+    EXPECT_EQ(GenerateKurboID(desk.context, connection), -1);
+    EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－GenerateKurboID"_q);
+}
+
+TEST_F(Readers, NameOfTheDay) {
+    EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2026, 4, 29)), u"昭和の日"_q);
+    EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2026, 4, 28)), QString());
+    desk.prompts.expect(u"2031 年のカレンダーが作成されていません。\r\n管理者に"_q);
+    EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2031, 1, 1)), u"ERROR"_q);
+}
+
+TEST_F(Readers, CalendarRowsOfASpan) {
+    EXPECT_EQ(ExistCalendar(desk.context, connection, *makeDay(2025, 12, 1), *makeDay(2026, 1, 31)), 31);
+    EXPECT_EQ(ExistCalendar(desk.context, connection, *makeDay(2031, 1, 1), *makeDay(2031, 1, 1)), 0);
+    EXPECT_EQ(GetFirstDate(desk.context, connection), makeDay(2026, 1, 1));
+    connection.execute(u"DELETE * FROM T01_Calendar;"_q);
+    EXPECT_EQ(GetFirstDate(desk.context, connection), today);
+}
+
+TEST_F(Readers, ShiftOverTheBorder) {
+    addCard(1, *makeDay(2026, 4, 10), u"22:00"_q, QString());
+    connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/11 07:00#"_q);
+    const auto end = [&](int day, int hour) {
+        return EndAllNight(desk.context, connection, u"1001"_q, at(*makeDay(2026, 4, day), hour, 0));
+    };
+    EXPECT_EQ(end(11, 6), at(*makeDay(2026, 4, 11), 7, 0));
+    EXPECT_FALSE(end(11, 7)) << "not later than the border";
+    EXPECT_FALSE(end(10, 6)) << "the row of the day itself does not count";
+    addCard(2, *makeDay(2026, 4, 12), u"09:00"_q, QString());
+    EXPECT_FALSE(end(13, 6)) << "only the last row counts, and it is open";
+}
+
+TEST_F(Readers, SpansOfRecords) {
+    EXPECT_EQ(RecordedDays(desk.context, connection), 0);
+    addCard(1, *makeDay(2026, 1, 1), u"09:00"_q, QString());
+    addCard(2, *makeDay(2026, 12, 31), u"09:00"_q, QString());
+    EXPECT_EQ(RecordedDays(desk.context, connection), 364);
+    EXPECT_EQ(GetFirstMonth(desk.context, connection), makeDay(2026, 4, 1));
+    connection.execute(u"INSERT INTO T05_Approved (F_Year, F_Month) VALUES ('2025', '11'), ('2026', '02')"_q);
+    EXPECT_EQ(GetFirstMonth(desk.context, connection), makeDay(2025, 11, 1));
+}
+
+TEST_F(Readers, ComboListOfAGridColumn) {
+    const QString statement =
+        u"SELECT F_StaffCode, F_StaffName FROM C03_Staff WHERE F_Order = 0 ORDER BY F_StaffCode"_q;
+    const auto list = [&](const QString& code, bool blank) {
+        return VfgComboList(desk.context, connection, statement, u"F_StaffName"_q, code, blank);
+    };
+    EXPECT_EQ(list(u"F_StaffCode"_q, false), u"#ADMIN;ADMIN|#NEW;新しい社員"_q);
+    EXPECT_EQ(list(QString(), true), u"ADMIN|新しい社員|"_q);
+    EXPECT_EQ(VfgComboList(desk.context, connection, u"SELECT F_DestName FROM T04_Destination"_q, u"F_DestName"_q,
+                           QString(), true),
+              QString());
+}
+
+TEST_F(Readers, LoginListsShowWhoMayPunchHere) {
+    connection.execute(
+        u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) VALUES "
+        "('S02', '支店', '/srv/Other.mdb', 2, True), ('S03', '旧部', 'カレントデータベース', 3, False)"_q);
+    EXPECT_EQ(loginSections(connection), (QList<CodeName>{{u"S01"_q, u"総務部"_q}}));
+    connection.execute(u"DELETE * FROM M02_StaffInfo WHERE F_StaffCode = '1002'"_q);
+    EXPECT_EQ(loginStaff(connection, u"S01"_q),
+              (QList<CodeName>{{u"1001"_q, u"山田太郎"_q}, {u"1003"_q, u"佐藤次郎"_q}}));
+}
+
+} // namespace kurbo::test

@@ -1,0 +1,37 @@
+#include "support/scripted_prompts.h"
+
+#include <gtest/gtest.h>
+
+namespace kurbo::test {
+
+ScriptedPrompts::~ScriptedPrompts() {
+    for (const auto& left : script_) ADD_FAILURE() << "never asked: " << left.textPart.toStdString();
+    EXPECT_TRUE(files_.isEmpty()) << "a file dialog never came";
+}
+
+ScriptedPrompts& ScriptedPrompts::expect(const QString& textPart, Answer answer) {
+    script_.append({textPart, answer});
+    return *this;
+}
+
+ScriptedPrompts& ScriptedPrompts::expectFile(std::optional<QString> path) {
+    files_.append(std::move(path));
+    return *this;
+}
+
+Answer ScriptedPrompts::ask(const Message& message) {
+    seen_.append(message);
+    if (script_.isEmpty() || !message.text.contains(script_.first().textPart)) {
+        ADD_FAILURE() << "unexpected message: " << message.text.toStdString();
+        return message.preset;
+    }
+    return script_.takeFirst().answer;
+}
+
+std::optional<QString> ScriptedPrompts::openFile(const QString& filter) {
+    if (!files_.isEmpty()) return files_.takeFirst();
+    ADD_FAILURE() << "unexpected file dialog: " << filter.toStdString();
+    return {};
+}
+
+} // namespace kurbo::test

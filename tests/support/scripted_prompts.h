@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/prompts.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace kurbo::test {
+
+// Answers as the test has written down, in its order. An unexpected message and an expectation left over both fail the
+// test.
+class ScriptedPrompts final : public Prompts {
+  public:
+    ~ScriptedPrompts() override;
+
+    // The next message holds `textPart`; it gets `answer`.
+    ScriptedPrompts& expect(const QString& textPart, Answer answer = Answer::Ok);
+    ScriptedPrompts& expectFile(std::optional<QString> path);
+
+    Answer ask(const Message& message) override;
+    std::optional<QString> openFile(const QString& filter) override;
+
+    // All that was asked, for looking at titles, icons and buttons.
+    [[nodiscard]] const QList<Message>& seen() const { return seen_; }
+    [[nodiscard]] const Message& last() const { return seen_.last(); }
+
+  private:
+    struct Expectation {
+        QString textPart;
+        Answer answer;
+    };
+    QList<Expectation> script_;
+    QList<std::optional<QString>> files_;
+    QList<Message> seen_;
+};
+
+} // namespace kurbo::test
