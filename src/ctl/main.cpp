@@ -20,6 +20,8 @@ struct Command {
 
 constexpr std::array commands{
     Command{u"new", runNew, u"new FILE"},
+    Command{u"demo", runDemo,
+            u"demo FILE [--people N] [--sections N] [--months N] [--seed N] [--until yyyy/mm/dd] [--flexible]"},
     Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
     Command{u"punch", runPunch,
             u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "

@@ -33,12 +33,40 @@ PunchResult ended(bool written) {
     return written ? PunchResult::Done : PunchResult::Stopped;
 }
 
+// Has the connection's turn among the writers until a message comes up: nobody else waits while a person reads.
+class TurnUntilMessage final : public Prompts {
+  public:
+    TurnUntilMessage(Prompts& prompts, Connection& connection) : prompts_(prompts), turn_(std::in_place, connection) {}
+    Answer ask(const Message& message) override {
+        turn_.reset();
+        return prompts_.ask(message);
+    }
+    std::optional<QString> openFile(const QString& filter) override {
+        turn_.reset();
+        return prompts_.openFile(filter);
+    }
+
+  private:
+    Prompts& prompts_;
+    std::optional<Turn> turn_;
+};
+
 // One punch in the making.
 struct Press {
     const Context& context;
     Connection& connection;
     const QString& staff;
     Moment when;
+
+    [[nodiscard]] PunchResult run(Punch kind) const {
+        if (!hasCalendar(context, connection, dayOf(when))) return PunchResult::Stopped;
+        const bool onCard = kind == Punch::Enter || kind == Punch::Leave;
+        const StatusCode status =
+            onCard ? TimeCardStatus(context, connection, staff, when) : GetKurboID(context, connection, staff, when);
+        if (status.failed()) return PunchResult::Stopped;
+        if (kind == Punch::Enter) return enter(status);
+        return kind == Punch::Leave ? leave(status) : outOrIn(status, kind);
+    }
 
     [[nodiscard]] PunchResult enter(const StatusCode& status) const {
         if (status.is(u"AE") || status.is(u"AL")) return refuse(context, status);
@@ -86,15 +114,10 @@ Moment punchTime(const Context& context, const Puncher& puncher, Punch kind) {
 
 } // namespace
 
-PunchResult punch(const Context& context, Connection& connection, const Puncher& puncher, Punch kind) {
-    const Press press{context, connection, puncher.staff, punchTime(context, puncher, kind)};
-    if (!hasCalendar(context, connection, dayOf(press.when))) return PunchResult::Stopped;
-    const bool onCard = kind == Punch::Enter || kind == Punch::Leave;
-    const StatusCode status = onCard ? TimeCardStatus(context, connection, puncher.staff, press.when)
-                                     : GetKurboID(context, connection, puncher.staff, press.when);
-    if (status.failed()) return PunchResult::Stopped;
-    if (kind == Punch::Enter) return press.enter(status);
-    return kind == Punch::Leave ? press.leave(status) : press.outOrIn(status, kind);
+PunchResult punch(const Context& surroundings, Connection& connection, const Puncher& puncher, Punch kind) {
+    TurnUntilMessage prompts(surroundings.prompts, connection);
+    const Context context{prompts, surroundings.clock, surroundings.paths, surroundings.progress};
+    return Press{context, connection, puncher.staff, punchTime(context, puncher, kind)}.run(kind);
 }
 
 } // namespace kurbo
