@@ -1,0 +1,61 @@
+#include "demo/public_holidays.h"
+
+#include <algorithm>
+
+using namespace std::chrono;
+
+namespace kurbo {
+namespace {
+
+Day on(int year, unsigned month, unsigned day) {
+    return local_days{std::chrono::year{year} / std::chrono::month{month} / std::chrono::day{day}};
+}
+
+Day monday(int year, unsigned month, unsigned number) {
+    return local_days{std::chrono::year{year} / std::chrono::month{month} / Monday[number]};
+}
+
+unsigned equinox(int year, int base) {
+    const int since = year - 1980;
+    return static_cast<unsigned>((base + 242'194 * since) / 1'000'000 - since / 4);
+}
+
+QList<PublicHoliday> namedHolidays(int year) {
+    return {{on(year, 1, 1), QStringLiteral("元日")},
+            {monday(year, 1, 2), QStringLiteral("成人の日")},
+            {on(year, 2, 11), QStringLiteral("建国記念の日")},
+            {on(year, 2, 23), QStringLiteral("天皇誕生日")},
+            {on(year, 3, equinox(year, 20'843'100)), QStringLiteral("春分の日")},
+            {on(year, 4, 29), QStringLiteral("昭和の日")},
+            {on(year, 5, 3), QStringLiteral("憲法記念日")},
+            {on(year, 5, 4), QStringLiteral("みどりの日")},
+            {on(year, 5, 5), QStringLiteral("こどもの日")},
+            {monday(year, 7, 3), QStringLiteral("海の日")},
+            {on(year, 8, 11), QStringLiteral("山の日")},
+            {monday(year, 9, 3), QStringLiteral("敬老の日")},
+            {on(year, 9, equinox(year, 23'248'800)), QStringLiteral("秋分の日")},
+            {monday(year, 10, 2), QStringLiteral("スポーツの日")},
+            {on(year, 11, 3), QStringLiteral("文化の日")},
+            {on(year, 11, 23), QStringLiteral("勤労感謝の日")}};
+}
+
+} // namespace
+
+QList<PublicHoliday> publicHolidays(int year) {
+    const QList<PublicHoliday> named = namedHolidays(year);
+    const auto isNamed = [&](Day day) { return std::ranges::count(named, day, &PublicHoliday::day) > 0; };
+    QList<PublicHoliday> all = named;
+    for (const PublicHoliday& holiday : named) {
+        if (weekday{holiday.day} == Sunday) {
+            Day substitute = holiday.day + days{1};
+            while (isNamed(substitute)) substitute += days{1};
+            all.append({substitute, QStringLiteral("振替休日")});
+        }
+        if (!isNamed(holiday.day + days{1}) && isNamed(holiday.day + days{2}))
+            all.append({holiday.day + days{1}, QStringLiteral("国民の休日")});
+    }
+    std::ranges::sort(all, {}, &PublicHoliday::day);
+    return all;
+}
+
+} // namespace kurbo

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/day.h"
+
+#include <QList>
+
+namespace kurbo {
+
+struct PublicHoliday {
+    Day day;
+    QString name;
+    friend bool operator==(const PublicHoliday&, const PublicHoliday&) = default;
+};
+
+// The days off of a year under the Act on National Holidays (国民の祝日に関する法律) as it stands since 2022, in the
+// order of days. The equinoxes follow the usual approximation, which holds for 1980 to 2099; the official ones are
+// announced a year ahead.
+[[nodiscard]] QList<PublicHoliday> publicHolidays(int year);
+
+} // namespace kurbo
