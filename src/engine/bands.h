@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace kurbo {
+
+enum class DayType { Weekday, Holiday, AmHoliday, PmHoliday };
+inline constexpr std::size_t dayTypeCount = 4;
+
+enum class BandKind { Work, Core, Flex, LegalOver, Over, Late, AfterLate, Early };
+inline constexpr std::size_t bandKindCount = 8;
+
+inline constexpr std::int32_t secondsOfDay = 24 * 60 * 60;
+
+// "HH:MM" from "00:00" to "23:59", in seconds since midnight; nothing for any other text.
+[[nodiscard]] std::optional<std::int32_t> timeOfDay(QStringView text);
+
+// Seconds since midnight. An end at "00:00" is the end of the day.
+struct Band {
+    std::int32_t start = -1; // -1: empty
+    std::int32_t end = -1;
+    [[nodiscard]] bool isEmpty() const { return start < 0 || end < 0; }
+};
+
+// Up to four bands; the walk over them ends at the first empty one, whatever comes behind it.
+class BandList final {
+  public:
+    static constexpr int capacity = 4;
+    [[nodiscard]] const Band* begin() const { return bands_.data(); }
+    [[nodiscard]] const Band* end() const { return bands_.data() + used_; }
+    [[nodiscard]] const Band& at(int index) const { return bands_[static_cast<std::size_t>(index)]; }
+    void setStart(int index, std::int32_t seconds) { set(index, seconds, at(index).end); }
+    void setEnd(int index, std::int32_t seconds) { set(index, at(index).start, seconds); }
+
+  private:
+    void set(int index, std::int32_t start, std::int32_t end);
+
+    std::array<Band, capacity> bands_;
+    std::uint8_t used_ = 0;
+};
+
+// One pair of band properties, as "pstrStartWork" and "pstrEndWork", with the words of its failures.
+struct BandProperty {
+    const char16_t* suffix; // behind "pstrStart" and "pstrEnd"
+    DayType day;
+    BandKind kind;
+    const char16_t* startName;
+    const char16_t* endName;
+    const char16_t* orderText; // behind the end's name when the end lies before the start
+};
+
+// All 28 pairs. A holiday has no core, flexible, legal overtime and overtime bands.
+[[nodiscard]] const BandProperty* bandProperty(DayType day, BandKind kind);
+// By the whole name, "pstrStartAmAfterLate" or "pstrEndAmAfterLate"; none for an unknown name.
+[[nodiscard]] const BandProperty* bandPropertyNamed(QStringView name);
+
+} // namespace kurbo

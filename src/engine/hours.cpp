@@ -1,0 +1,70 @@
+#include "engine/hours.h"
+
+#include <cmath>
+#include <cstdlib>
+
+namespace kurbo {
+namespace {
+
+// Hundredths of an hour: m * 100 / 60 never lies half way between two, so adding a third rounds it.
+QString decimalHours(std::int64_t minutes) {
+    const std::int64_t hundredths = (minutes * 5 + 1) / 3;
+    const QString places = QString::number(hundredths % 100).rightJustified(2, u'0');
+    return QString::number(hundredths / 100) + u'.' + (places.endsWith(u'0') ? places.left(1) : places);
+}
+
+QString sexagesimal(std::int64_t hours, std::int64_t minutes) {
+    return QString::number(hours) + u':' + QString::number(minutes).rightJustified(2, u'0');
+}
+
+std::optional<std::int64_t> wholeNumber(const QString& text) {
+    bool ok = false;
+    const std::int64_t number = text.trimmed().toLongLong(&ok);
+    return ok ? std::optional(number) : std::nullopt;
+}
+
+} // namespace
+
+QString FormatHours(Minutes minutes, int unit, bool signedText) {
+    const std::int64_t size = std::abs(std::int64_t{minutes});
+    const QString sign = minutes < 0 ? QStringLiteral("-") : QStringLiteral("+");
+    if (unit == 0) return (signedText || minutes < 0 ? sign : QString()) + decimalHours(size);
+    if (signedText) return sign + sexagesimal(size / 60, size % 60);
+    return sexagesimal(minutes / 60, size % 60);
+}
+
+Minutes ParseHours(const QString& text, int unit) {
+    if (unit == 0) {
+        bool ok = false;
+        const float hours = text.trimmed().toFloat(&ok);
+        return ok && std::isfinite(hours) ? static_cast<Minutes>(std::lrint(hours * 60.0F)) : 0;
+    }
+    const auto hours = wholeNumber(text.chopped(qMin(text.size(), qsizetype{3})));
+    const auto minutes = wholeNumber(text.right(2));
+    return hours && minutes ? static_cast<Minutes>(*hours * 60 + *minutes) : 0;
+}
+
+Minutes RoundMinutes(Minutes value, int direction, Minutes unit) {
+    if (unit == 0 || (direction != 0 && direction != 1)) return 0;
+    const Minutes over = (value % unit + unit) % unit;
+    if (over == 0) return value;
+    return direction == 0 ? value - over : value - over + unit;
+}
+
+QString PeriodStartDate(Day date, int closeDay, Day today) {
+    const int startDay = closeDay == 31 ? 1 : closeDay + 1;
+    if (startDay < 1 || startDay > 28 || closeDay < 1) return {};
+    const auto month = civil(date);
+    const Day start{month.year() / month.month() / std::chrono::day{static_cast<unsigned>(startDay)}};
+    return slashDate(start > today ? addMonths(start, -1) : start);
+}
+
+std::optional<Period> periodOfMonth(int year, int month, int closeDay) {
+    const auto first = makeDay(year, month, 1);
+    const bool wholeMonth = closeDay == 31;
+    if (!first || !(wholeMonth || (closeDay >= 1 && closeDay <= 27))) return {};
+    const Day from = wholeMonth ? *first : addMonths(*first, -1) + std::chrono::days(closeDay);
+    return Period{from, addMonths(from, 1) - std::chrono::days(1)};
+}
+
+} // namespace kurbo

@@ -1,0 +1,288 @@
+#include "engine/work_time.h"
+
+#include "base/failure.h"
+
+#include <algorithm>
+
+namespace kurbo {
+namespace {
+
+[[noreturn]] void refuse(WorkTimeError number, const QString& text) {
+    throw Fault(static_cast<std::int64_t>(number), QStringLiteral("clsWorkTime"), text);
+}
+
+[[noreturn]] void refuseTime(const char16_t* name) {
+    refuse(WorkTimeError::NoTime, QString::fromUtf16(name) + QStringLiteral("に時間以外の値が設定されています。"));
+}
+
+void checkIndex(int index) {
+    const QString text = QStringLiteral("インデックスが有効範囲にありません。");
+    if (index >= BandList::capacity) refuse(WorkTimeError::Index, text);
+    if (index < 0) refuse(WorkTimeError::Bounds, text);
+}
+
+Minutes minutes(std::int64_t seconds) {
+    return static_cast<Minutes>(seconds / 60);
+}
+
+const BandProperty& known(const BandProperty* property) {
+    if (!property) refuse(WorkTimeError::Bounds, QStringLiteral("インデックスが有効範囲にありません。"));
+    return *property;
+}
+
+} // namespace
+
+Moment RoundPunch(Moment time, int direction, int unit) {
+    constexpr std::int64_t hour = 3600;
+    const std::int64_t since = (time.time_since_epoch().count() % hour + hour) % hour;
+    const std::int64_t over = since % (std::int64_t{unit} * 60);
+    if (direction == 0) return time - std::chrono::seconds(over);
+    if (direction == 1 && over != 0) return time + std::chrono::seconds(std::int64_t{unit} * 60 - over);
+    return time;
+}
+
+void clsWorkTime::pstrStandardTime(QStringView text) {
+    setStandard(DayType::Weekday, text, u"標準労働時間");
+}
+
+void clsWorkTime::pstrAmStandardTime(QStringView text) {
+    setStandard(DayType::AmHoliday, text, u"午前休日時の標準労働時間");
+}
+
+void clsWorkTime::pstrPmStandardTime(QStringView text) {
+    setStandard(DayType::PmHoliday, text, u"午後休日時の標準労働時間");
+}
+
+void clsWorkTime::setStandard(DayType day, QStringView text, const char16_t* failure) {
+    const auto seconds = timeOfDay(text);
+    if (!seconds) refuseTime(failure);
+    standard_[index(day)] = *seconds / 60;
+}
+
+void clsWorkTime::plngRoundUnit(int unit) {
+    if (unit == 0) refuse(WorkTimeError::NoUnit, QStringLiteral("端数処理単位が設定されていません。"));
+    roundUnit_ = unit;
+}
+
+void clsWorkTime::plngCloseDay(int day) {
+    if (!((day >= 1 && day <= 27) || day == 31))
+        refuse(WorkTimeError::NoTime, QStringLiteral("タイムカード締日に不正な日付が設定されています。"));
+    closeDay_ = day;
+}
+
+const BandList& clsWorkTime::bands(DayType day, BandKind kind) const {
+    return bands_[index(day)][static_cast<std::size_t>(kind)];
+}
+
+void clsWorkTime::setBand(QStringView property, int bandIndex, QStringView text) {
+    const BandProperty& band = known(bandPropertyNamed(property));
+    if (property.startsWith(u"pstrStart"))
+        setStart(band.day, band.kind, bandIndex, text);
+    else
+        setEnd(band.day, band.kind, bandIndex, text);
+}
+
+void clsWorkTime::setStart(DayType day, BandKind kind, int bandIndex, QStringView text) {
+    const BandProperty& property = known(bandProperty(day, kind));
+    checkIndex(bandIndex);
+    const auto start = timeOfDay(text);
+    if (!start) refuseTime(property.startName);
+    bands_[index(day)][static_cast<std::size_t>(kind)].setStart(bandIndex, *start);
+}
+
+void clsWorkTime::setEnd(DayType day, BandKind kind, int bandIndex, QStringView text) {
+    const BandProperty& property = known(bandProperty(day, kind));
+    checkIndex(bandIndex);
+    const auto end = timeOfDay(text);
+    if (!end) refuseTime(property.endName);
+    BandList& list = bands_[index(day)][static_cast<std::size_t>(kind)];
+    if (*end != 0 && *end <= list.at(bandIndex).start)
+        refuse(WorkTimeError::Order, QString::fromUtf16(property.endName) + QString::fromUtf16(property.orderText));
+    list.setEnd(bandIndex, *end == 0 ? secondsOfDay : *end);
+    keepBusiness(day, kind, *end);
+}
+
+// Business hours run from the first work or core band's start to the end that was set last.
+void clsWorkTime::keepBusiness(DayType day, BandKind kind, std::int32_t end) {
+    if (day == DayType::Holiday || (kind != BandKind::Work && kind != BandKind::Core)) return;
+    business_[index(day)] = {bands(day, kind).at(0).start, end};
+}
+
+Moment clsWorkTime::rounded(Moment time, int direction) const {
+    return plngRoundMethod == 0 ? RoundPunch(time, direction, roundUnit_) : time;
+}
+
+void clsWorkTime::pdtmEnter(std::optional<Moment> enter) {
+    if (!enter) refuseTime(u"出社時刻");
+    rawEnter_ = *enter;
+    const Moment working = rounded(*enter, plngRoundEnter);
+    const Moment leave = enterDay_ + std::chrono::seconds(leave_);
+    enterDay_ = dayOf(working);
+    enter_ = (working - enterDay_).count();
+    leave_ = (leave - enterDay_).count();
+    lastDay_ = (dayOf(leave) - enterDay_).count();
+}
+
+void clsWorkTime::pdtmLeave(std::optional<Moment> leave) {
+    if (!leave) refuseTime(u"退社時刻");
+    rawLeave_ = *leave;
+    if (rawLeave_ < rawEnter_)
+        refuse(WorkTimeError::Order, QStringLiteral("退社時刻が出社時刻より前に設定されています。"));
+    const Moment working = rounded(*leave, plngRoundLeave);
+    leave_ = (working - enterDay_).count();
+    lastDay_ = (dayOf(working) - enterDay_).count();
+}
+
+void clsWorkTime::plngNextDayType(int type) {
+    nextDayType_ = type;
+    if (type < 0 || type > 3) return;
+    const auto day = static_cast<DayType>(type);
+    const bool flexible = (day == DayType::Weekday && pbleFlexTime) || (day == DayType::AmHoliday && pbleAmFlexTime) ||
+                          (day == DayType::PmHoliday && pblePmFlexTime);
+    border_ = bands(day, flexible ? BandKind::Flex : BandKind::Work).at(0).start;
+}
+
+// The stay's overlap with the bands placed on the day that begins at `dayStart`.
+clsWorkTime::Seconds clsWorkTime::overlap(Seconds dayStart, const BandList& list) const {
+    Seconds total = 0;
+    for (const Band& band : list) {
+        const Seconds from = std::max(enter_, dayStart + band.start);
+        const Seconds to = std::min(leave_, dayStart + band.end);
+        total += std::max<Seconds>(to - from, 0);
+    }
+    return total;
+}
+
+// Every date from the enter's to the leave's, and at least the first.
+clsWorkTime::Seconds clsWorkTime::walked(const BandList& list) const {
+    Seconds total = overlap(0, list);
+    for (Seconds day = secondsOfDay; day <= lastDay_; day += secondsOfDay) total += overlap(day, list);
+    return total;
+}
+
+Minutes clsWorkTime::workTime(DayType day, bool flexible) const {
+    if (!flexible) return minutes(walked(bands(day, BandKind::Work)));
+    return minutes(walked(bands(day, BandKind::Core)) + walked(bands(day, BandKind::Flex)));
+}
+
+Minutes clsWorkTime::WorkTime() const {
+    return workTime(DayType::Weekday, pbleFlexTime);
+}
+// The weekday's switch decides here, not that of the AM holiday.
+Minutes clsWorkTime::AmWorkTime() const {
+    return workTime(DayType::AmHoliday, pbleFlexTime);
+}
+Minutes clsWorkTime::PmWorkTime() const {
+    return workTime(DayType::PmHoliday, pblePmFlexTime);
+}
+
+// The after-late bands of the next day's kind lie on the morning after each date of the stay.
+Minutes clsWorkTime::overWork(DayType day, DayType afterAmHoliday) const {
+    Seconds total = walked(bands(day, BandKind::Over));
+    if (nextDayType_ >= 0 && nextDayType_ <= 3) {
+        const auto next = nextDayType_ == 2 ? afterAmHoliday : static_cast<DayType>(nextDayType_);
+        const BandList& list = bands(next, BandKind::AfterLate);
+        Seconds dayStart = secondsOfDay;
+        do total += overlap(dayStart, list);
+        while ((dayStart += secondsOfDay) <= lastDay_ + secondsOfDay);
+    }
+    return minutes(total);
+}
+
+Minutes clsWorkTime::LegalOverWork() const {
+    return minutes(walked(bands(DayType::Weekday, BandKind::LegalOver)));
+}
+Minutes clsWorkTime::OverWork() const {
+    return overWork(DayType::Weekday, DayType::AmHoliday);
+}
+Minutes clsWorkTime::LateWork() const {
+    return minutes(walked(bands(DayType::Weekday, BandKind::Late)));
+}
+// Early work lies on the date of the enter only; on half holidays it is walked over all dates.
+Minutes clsWorkTime::EarlyWork() const {
+    return minutes(overlap(0, bands(DayType::Weekday, BandKind::Early)));
+}
+
+Minutes clsWorkTime::AmLegalOverWork() const {
+    return minutes(walked(bands(DayType::AmHoliday, BandKind::LegalOver)));
+}
+Minutes clsWorkTime::AmOverWork() const {
+    return overWork(DayType::AmHoliday, DayType::AmHoliday);
+}
+Minutes clsWorkTime::AmLateWork() const {
+    return minutes(walked(bands(DayType::AmHoliday, BandKind::Late)));
+}
+Minutes clsWorkTime::AmEarlyWork() const {
+    return minutes(walked(bands(DayType::AmHoliday, BandKind::Early)));
+}
+
+Minutes clsWorkTime::PmLegalOverWork() const {
+    return minutes(walked(bands(DayType::PmHoliday, BandKind::LegalOver)));
+}
+// Before an AM holiday the PM holiday's own after-late band counts.
+Minutes clsWorkTime::PmOverWork() const {
+    return overWork(DayType::PmHoliday, DayType::PmHoliday);
+}
+Minutes clsWorkTime::PmLateWork() const {
+    return minutes(walked(bands(DayType::PmHoliday, BandKind::Late)));
+}
+Minutes clsWorkTime::PmEarlyWork() const {
+    return minutes(walked(bands(DayType::PmHoliday, BandKind::Early)));
+}
+
+Minutes clsWorkTime::absentHour(DayType day, bool flexible) const {
+    const BandList& list = bands(day, flexible ? BandKind::Core : BandKind::Work);
+    Seconds total = -overlap(0, list);
+    for (const Band& band : list) total += band.end - band.start;
+    return minutes(total);
+}
+
+Minutes clsWorkTime::AbsentHour() const {
+    return absentHour(DayType::Weekday, pbleFlexTime);
+}
+Minutes clsWorkTime::AmAbsentHour() const {
+    return absentHour(DayType::AmHoliday, pbleAmFlexTime);
+}
+Minutes clsWorkTime::PmAbsentHour() const {
+    return absentHour(DayType::PmHoliday, pblePmFlexTime);
+}
+
+// Both counters look at the raw times, on the date of the raw enter.
+int clsWorkTime::lateEnter(DayType day) const {
+    const std::int32_t start = startBusiness(day);
+    return start >= 0 && rawEnter_ > dayOf(rawEnter_) + std::chrono::seconds(start) ? 1 : 0;
+}
+
+int clsWorkTime::earlyLeave(DayType day) const {
+    const std::int32_t end = endBusiness(day);
+    return end >= 0 && rawLeave_ < dayOf(rawEnter_) + std::chrono::seconds(end) ? 1 : 0;
+}
+
+int clsWorkTime::LateEnter() const {
+    return lateEnter(DayType::Weekday);
+}
+int clsWorkTime::AmLateEnter() const {
+    return lateEnter(DayType::AmHoliday);
+}
+int clsWorkTime::PmLateEnter() const {
+    return lateEnter(DayType::PmHoliday);
+}
+int clsWorkTime::EarlyLeave() const {
+    return earlyLeave(DayType::Weekday);
+}
+int clsWorkTime::AmEarlyLeave() const {
+    return earlyLeave(DayType::AmHoliday);
+}
+int clsWorkTime::PmEarlyLeave() const {
+    return earlyLeave(DayType::PmHoliday);
+}
+
+// Early work on a holiday is holiday work.
+Minutes clsWorkTime::HolidayWork() const {
+    return minutes(walked(bands(DayType::Holiday, BandKind::Work)) + walked(bands(DayType::Holiday, BandKind::Early)));
+}
+Minutes clsWorkTime::HolidayLateWork() const {
+    return minutes(walked(bands(DayType::Holiday, BandKind::Late)));
+}
+
+} // namespace kurbo

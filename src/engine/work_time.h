@@ -1,0 +1,154 @@
+#pragma once
+
+#include "base/day.h"
+#include "engine/bands.h"
+
+#include <array>
+#include <optional>
+
+namespace kurbo {
+
+// What a setter refuses; thrown as a Fault with the source "clsWorkTime".
+enum class WorkTimeError : std::int32_t {
+    Index = static_cast<std::int32_t>(0x80040201),
+    NoTime = static_cast<std::int32_t>(0x80040202),
+    Order = static_cast<std::int32_t>(0x80040203),
+    NoUnit = static_cast<std::int32_t>(0x80040204),
+    Bounds = 9, // an index below 0
+};
+
+// All work rules of one person, and every quantity of a day as the overlap of the stay with bands. It reads nothing but
+// its own properties. Results are whole minutes, rounded down once from a sum of seconds, or a count of 0 or 1. Set
+// pdtmEnter, pdtmLeave and plngNextDayType, then ask in any order.
+class clsWorkTime final {
+  public:
+    // --- Properties without a rule of their own.
+    bool pbleFlexTime = false;
+    int plngAmHolidayWork = 1; // 0 no AM holiday; work on it is 1 early work, 2 holiday work, 3 not counted
+    bool pbleAmFlexTime = false;
+    int plngPmHolidayWork = 1; // 0 no PM holiday; work on it is 1 overtime, 2 holiday work, 3 not counted
+    bool pblePmFlexTime = false;
+    int plngRoundMethod = 0; // 0 each punch, 1 the month's sums
+    int plngRoundEnter = 1;  // 0 down, 1 up
+    int plngRoundLeave = 0;
+    int plngRoundHour = 0;
+    int plngCountUnit = 1; // 0 decimal, 1 h:mm
+    bool pbleEnableDiff = false;
+    bool pbleEnableLegalOver = false;
+    bool pbleEnableOver = true;
+    bool pbleEnableLate = true;
+    bool pbleEnableEarly = true;
+    bool pbleEnableHoliday = true;
+    bool pbleEnableHolidayLate = true;
+    bool pbleEnableLegalHoliday = false;
+    bool pbleEnableLegalLate = false;
+    bool pbleEnableAbsent = true;
+    bool pbleEnablePaid = true;
+    bool pbleEnableSpecial = true;
+    bool pbleEnableCompens = true;
+    bool pbleEnableAbsentDay = true;
+    bool pbleEnableLateEnter = true;
+    bool pbleEnableEarlyLeave = true;
+    int plngEnterDelay = 0; // seconds
+    int plngLeaveGain = 0;
+    float psngPaidTotal = 0; // days
+
+    // --- Properties with a rule. A refused value leaves the old one.
+    // "HH:MM" into minutes.
+    void pstrStandardTime(QStringView text);
+    void pstrAmStandardTime(QStringView text);
+    void pstrPmStandardTime(QStringView text);
+    [[nodiscard]] Minutes plngStandardTime() const { return standard(DayType::Weekday); }
+    [[nodiscard]] Minutes plngAmStandardTime() const { return standard(DayType::AmHoliday); }
+    [[nodiscard]] Minutes plngPmStandardTime() const { return standard(DayType::PmHoliday); }
+    // Minutes, not 0.
+    void plngRoundUnit(int minutes);
+    [[nodiscard]] int plngRoundUnit() const { return roundUnit_; }
+    // 1 to 27, or 31 for the end of the month.
+    void plngCloseDay(int day);
+    [[nodiscard]] int plngCloseDay() const { return closeDay_; }
+    // A band's start and end by its property's name ("pstrStartWork") or by its kind. The end lies behind the start, or
+    // is "00:00", the end of the day; so the start is set first.
+    void setBand(QStringView property, int index, QStringView text);
+    void setStart(DayType day, BandKind kind, int index, QStringView text);
+    void setEnd(DayType day, BandKind kind, int index, QStringView text);
+    [[nodiscard]] const BandList& bands(DayType day, BandKind kind) const;
+
+    // The stay of the day in hand; enter first. With plngRoundMethod 0 the calculations use rounded times. A leave that
+    // lies before the enter is refused, but its raw value is kept.
+    void pdtmEnter(std::optional<Moment> enter);
+    void pdtmLeave(std::optional<Moment> leave);
+    // 0 weekday, 1 holiday, 2 AM holiday, 3 PM holiday: the day after the one in hand. Also sets the border.
+    void plngNextDayType(int type);
+
+    // Seconds since midnight, -1 while unset. The end of business hours at "00:00" is 0.
+    [[nodiscard]] std::int32_t startBusiness(DayType day) const { return business_[index(day)].start; }
+    [[nodiscard]] std::int32_t endBusiness(DayType day) const { return business_[index(day)].end; }
+    // The time at which the next day begins.
+    [[nodiscard]] std::int32_t borderTime() const { return border_; }
+
+    // --- Results.
+    [[nodiscard]] Minutes WorkTime() const;
+    [[nodiscard]] Minutes AmWorkTime() const;
+    [[nodiscard]] Minutes PmWorkTime() const;
+    [[nodiscard]] Minutes LegalOverWork() const;
+    [[nodiscard]] Minutes OverWork() const;
+    [[nodiscard]] Minutes LateWork() const;
+    [[nodiscard]] Minutes EarlyWork() const;
+    [[nodiscard]] Minutes AmLegalOverWork() const;
+    [[nodiscard]] Minutes AmOverWork() const;
+    [[nodiscard]] Minutes AmLateWork() const;
+    [[nodiscard]] Minutes AmEarlyWork() const;
+    [[nodiscard]] Minutes PmLegalOverWork() const;
+    [[nodiscard]] Minutes PmOverWork() const;
+    [[nodiscard]] Minutes PmLateWork() const;
+    [[nodiscard]] Minutes PmEarlyWork() const;
+    [[nodiscard]] Minutes AbsentHour() const;
+    [[nodiscard]] Minutes AmAbsentHour() const;
+    [[nodiscard]] Minutes PmAbsentHour() const;
+    [[nodiscard]] int LateEnter() const;
+    [[nodiscard]] int AmLateEnter() const;
+    [[nodiscard]] int PmLateEnter() const;
+    [[nodiscard]] int EarlyLeave() const;
+    [[nodiscard]] int AmEarlyLeave() const;
+    [[nodiscard]] int PmEarlyLeave() const;
+    [[nodiscard]] Minutes HolidayWork() const;
+    [[nodiscard]] Minutes HolidayLateWork() const;
+
+  private:
+    using Seconds = std::int64_t;
+    static constexpr std::size_t index(DayType day) { return static_cast<std::size_t>(day); }
+    [[nodiscard]] Minutes standard(DayType day) const { return standard_[index(day)]; }
+    void setStandard(DayType day, QStringView text, const char16_t* failure);
+    void keepBusiness(DayType day, BandKind kind, std::int32_t end);
+    [[nodiscard]] Moment rounded(Moment time, int direction) const;
+
+    [[nodiscard]] Seconds overlap(Seconds dayStart, const BandList& list) const;
+    [[nodiscard]] Seconds walked(const BandList& list) const;
+    [[nodiscard]] Minutes workTime(DayType day, bool flexible) const;
+    [[nodiscard]] Minutes overWork(DayType day, DayType afterAmHoliday) const;
+    [[nodiscard]] Minutes absentHour(DayType day, bool flexible) const;
+    [[nodiscard]] int lateEnter(DayType day) const;
+    [[nodiscard]] int earlyLeave(DayType day) const;
+
+    std::array<std::array<BandList, bandKindCount>, dayTypeCount> bands_;
+    std::array<Minutes, dayTypeCount> standard_{480, 0, 240, 240};
+    std::array<Band, dayTypeCount> business_;
+    std::int32_t border_ = -1;
+    int roundUnit_ = 30;
+    int closeDay_ = 31;
+    int nextDayType_ = 0;
+    Moment rawEnter_{};
+    Moment rawLeave_{};
+    // The stay in seconds since the midnight before the working enter; the last midnight at or before the leave.
+    Moment enterDay_{};
+    Seconds enter_ = 0;
+    Seconds leave_ = 0;
+    Seconds lastDay_ = 0;
+};
+
+// A time moved to a multiple of `unit` minutes, measured from the top of its hour: direction 0 down, 1 up, any other
+// not at all. `unit` above 0.
+[[nodiscard]] Moment RoundPunch(Moment time, int direction, int unit);
+
+} // namespace kurbo
