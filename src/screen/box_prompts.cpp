@@ -4,9 +4,11 @@
 #include "screen/hourglass.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
 #include <array>
 
 namespace kurbo {
@@ -47,12 +49,22 @@ std::array<Answer, 2> answersOf(Buttons buttons) {
     return {Answer::Ok, Answer::Ok};
 }
 
+// The toolkit breaks lines that are longer than it likes, in Japanese in the middle of a word.
+void keepLinesWhole(const QMessageBox& box) {
+    constexpr int widest = 900;
+    auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label) return;
+    const QSize text = label->fontMetrics().size(0, box.text());
+    label->setMinimumWidth(std::min(text.width() + label->fontMetrics().averageCharWidth(), widest));
+}
+
 void setText(QMessageBox& box, const Message& message) {
     QString text = message.text;
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setText(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    keepLinesWhole(box);
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QTranslator>
 
 static void loadResources() {
@@ -17,6 +17,18 @@ static void loadResources() {
 
 namespace kurbo {
 namespace {
+
+// The toolkit measures a menu entry by its ink and cuts it by its advance, which is more in Japanese fonts.
+class RoomyStyle final : public QProxyStyle {
+  public:
+    RoomyStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        constexpr int room = 16;
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        return type == CT_MenuItem ? size + QSize(room, 0) : size;
+    }
+};
 
 QIcon applicationIcon() {
     QIcon icon;
@@ -62,7 +74,7 @@ void dress(QApplication& application) {
     QApplication::setApplicationDisplayName(QString());
     QApplication::setApplicationVersion(productVersion());
     QApplication::setDesktopFileName(QStringLiteral("kurbo"));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new RoomyStyle);
     QApplication::setPalette(calmColours());
     QApplication::setFont(readableFont());
     QApplication::setWindowIcon(applicationIcon());

@@ -40,6 +40,7 @@ frmLogin::frmLogin(Client& client) : ui_(std::make_unique<Ui::frmLogin>()), clie
     HideTimeRecorder();
     showTime(client_.context.clock.now());
     ui_->txtClock->setFocus();
+    placeForBothForms();
 }
 
 frmLogin::~frmLogin() = default;

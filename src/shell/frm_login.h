@@ -75,6 +75,7 @@ class frmLogin final : public QMainWindow {
     void showRecorder(bool shown);
     void setMenusFor(const AccessRights& access, bool loggedIn);
     void fitHeight(int wanted);
+    void placeForBothForms();
     void centreAcross();
     void press(Punch kind);
 

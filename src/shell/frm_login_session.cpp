@@ -159,8 +159,18 @@ void frmLogin::fitHeight(int wanted) {
     if (below > 0) move(x(), std::max(screen()->availableGeometry().top(), y() - below));
 }
 
+// Where the tall form has its room too, so that the window need not jump.
+void frmLogin::placeForBothForms() {
+    constexpr int width = 780;
+    const QSize tall = sizeHint() + QSize(0, ui_->fraRecorder->sizeHint().height());
+    const QRect available = screen()->availableGeometry();
+    resize(std::max(width, tall.width()), height());
+    const int above = std::max(available.height() - tall.height(), 0) / 2;
+    move(available.left() + (available.width() - this->width()) / 2, available.top() + above);
+}
+
 void frmLogin::centreAcross() {
-    if (isMaximized() || isFullScreen()) return;
+    if (!isVisible() || isMaximized() || isFullScreen()) return;
     const QRect available = screen()->availableGeometry();
     move(available.left() + (available.width() - frameGeometry().width()) / 2, y());
 }

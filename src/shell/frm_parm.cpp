@@ -16,6 +16,7 @@ frmParm::frmParm(Client& client, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmParm>()), client_(client) {
     ui_->setupUi(this);
     ui_->menus->setNativeMenuBar(false);
+    layout()->setMenuBar(ui_->menus);
     setWindowTitle(productName() + QStringLiteral("－データベース指定"));
     connect(ui_->txtDB, &QLineEdit::textChanged, this,
             [this](const QString& text) { ui_->cmdOK->setEnabled(!text.trimmed().isEmpty()); });

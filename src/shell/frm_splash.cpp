@@ -11,6 +11,7 @@ namespace kurbo {
 frmSplash::frmSplash(const QString& warning)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint), ui_(std::make_unique<Ui::frmSplash>()) {
     ui_->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
     setWindowTitle(productName());
     ui_->imgLogo->setPixmap(logo(128));
     ui_->lblProductName->setText(productName());
