@@ -84,11 +84,13 @@ Answer BoxPrompts::ask(const Message& message) {
 }
 
 std::optional<QString> BoxPrompts::openFile(const QString& filter) {
+    constexpr QSize roomy(860, 520);
     const NormalPointer pointer;
     QFileDialog dlgFile(QApplication::activeWindow(), productName() + QStringLiteral("－ファイルを開く"));
     dlgFile.setObjectName(QStringLiteral("dlgFile"));
     dlgFile.setOption(QFileDialog::DontUseNativeDialog);
     dlgFile.setFileMode(QFileDialog::ExistingFile);
+    dlgFile.resize(roomy);
     dlgFile.setNameFilters(nameFilters(filter));
     dlgFile.setLabelText(QFileDialog::Accept, QStringLiteral("開く(&O)"));
     dlgFile.setLabelText(QFileDialog::Reject, QStringLiteral("ｷｬﾝｾﾙ"));
