@@ -71,7 +71,6 @@ void speakJapanese(QApplication& application) {
 void dress(QApplication& application) {
     loadResources();
     QApplication::setApplicationName(QStringLiteral("kurbo"));
-    QApplication::setApplicationDisplayName(QString());
     QApplication::setApplicationVersion(productVersion());
     QApplication::setDesktopFileName(QStringLiteral("kurbo"));
     QApplication::setStyle(new RoomyStyle);

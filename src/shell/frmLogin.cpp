@@ -74,7 +74,7 @@ void frmLogin::greet() {
 }
 
 bool frmLogin::ReConnect() {
-    if (loadFailed_) return false;
+    if (loadFailed_ || ending_) return false;
     const Hourglass hourglass;
     const bool ready = guarded(client_.context, u"frmLogin", u"ReConnect", false, [this] {
         if (!client_.CurrentConnection->isOpen()) {

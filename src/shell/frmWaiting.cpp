@@ -5,6 +5,12 @@
 #include "ui_frmWaiting.h"
 
 namespace kurbo {
+namespace {
+
+// Without a known end the bar fills anew every two seconds.
+constexpr int endlessRound = 20;
+
+} // namespace
 
 frmWaiting::frmWaiting()
     : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
@@ -19,7 +25,7 @@ frmWaiting::~frmWaiting() = default;
 void frmWaiting::begin(const QString& text, int maximum) {
     endless_ = maximum == 0;
     ui_->lblPrompt->setText(text.isEmpty() ? QStringLiteral("処理中です・・・") : text);
-    ui_->pgbWaiting->setRange(0, maximum);
+    ui_->pgbWaiting->setRange(0, endless_ ? endlessRound : maximum);
     ui_->pgbWaiting->setValue(0);
     placeInMiddle(this);
     show();
@@ -29,9 +35,10 @@ void frmWaiting::begin(const QString& text, int maximum) {
 
 // Painting costs more than most steps: ten pictures a second are enough.
 void frmWaiting::step(int value) {
-    constexpr int betweenPictures = 100;
+    constexpr int betweenPictures = 90;
     if (!endless_) ui_->pgbWaiting->setValue(value);
     if (!isVisible() || sincePaint_.elapsed() < betweenPictures) return;
+    if (endless_) ui_->pgbWaiting->setValue((ui_->pgbWaiting->value() + 1) % (endlessRound + 1));
     paintNow(this);
     sincePaint_.start();
 }
