@@ -9,6 +9,7 @@
 #include "store/readers.h"
 #include "ui_frmLogin.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QScopedValueRollback>
 
@@ -43,7 +44,10 @@ frmLogin::frmLogin(Client& client) : ui_(std::make_unique<Ui::frmLogin>()), clie
     placeForBothForms();
 }
 
-frmLogin::~frmLogin() = default;
+// The focus moves once more while the controls go.
+frmLogin::~frmLogin() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void frmLogin::makeTimers() {
     tmrClock_ = new QTimer(this);
