@@ -14,7 +14,8 @@ namespace kurbo {
 void Camera::shoot(QWidget& window, const QString& title) {
     for (int round = 0; round < 5; ++round) QApplication::processEvents();
     pictures_.append({title, window.grab()});
-    const QString name = QStringLiteral("%1 %2.png").arg(pictures_.size(), 2, 10, QChar(u'0')).arg(title);
+    const QString name =
+        QStringLiteral("%1 %2.png").arg(pictures_.size(), 2, 10, QChar(u'0')).arg(title).replace(u'/', u'-');
     if (!pictures_.last().pixels.save(folder_ + u'/' + name))
         std::fprintf(stderr, "the picture could not be written: %s\n", name.toUtf8().constData());
 }

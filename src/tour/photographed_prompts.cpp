@@ -12,18 +12,8 @@ namespace {
 
 constexpr int untilItIsUp = 300; // milliseconds
 
-QMessageBox::StandardButton buttonOf(Answer answer) {
-    switch (answer) {
-    case Answer::Yes:
-        return QMessageBox::Yes;
-    case Answer::No:
-        return QMessageBox::No;
-    case Answer::Cancel:
-        return QMessageBox::Cancel;
-    case Answer::Ok:
-        break;
-    }
-    return QMessageBox::Ok;
+QMessageBox::ButtonRole roleOf(Answer answer) {
+    return answer == Answer::Ok || answer == Answer::Yes ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
 }
 
 } // namespace
@@ -38,7 +28,8 @@ void PhotographedPrompts::photographAndAnswer(Answer answer) {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box) return;
     camera_.shoot(*box, QStringLiteral("メッセージ ") + box->text().section(u'\n', 0, 0).left(24));
-    if (QAbstractButton* const button = box->button(buttonOf(answer))) button->click();
+    for (QAbstractButton* const button : box->buttons())
+        if (box->buttonRole(button) == roleOf(answer)) return button->click();
 }
 
 std::optional<QString> PhotographedPrompts::openFile(const QString& /*filter*/) {

@@ -60,17 +60,21 @@ void WorkingDay::start() {
 }
 
 void WorkingDay::logIn(const QString& section, const QString& staff, const QString& password) {
+    window_.activateWindow();
+    settle();
     const auto choose = [this](const char* name, const QString& text) {
         QWidget* const combo = control(name);
         combo->setFocus();
         settle();
         qobject_cast<QComboBox*>(combo)->setEditText(text);
+        settle();
     };
     choose("dcbSection", section);
     choose("dcbStaff", staff);
     QWidget* const word = control("txtPassWord");
     word->setFocus();
     settle();
+    qobject_cast<QLineEdit*>(word)->selectAll();
     type(word, password);
     press(word, Qt::Key_Return);
 }
@@ -87,6 +91,7 @@ void WorkingDay::morning() {
 void WorkingDay::mistakes() {
     logIn(QStringLiteral("営業部"), QStringLiteral("前田　裕二"), QStringLiteral("wrong"));
     logIn(QStringLiteral("総務部"), QStringLiteral("伊藤　由美子"), QStringLiteral("kurbo1004"));
+    window_.activateWindow();
     control("dcbSection")->setFocus();
     settle();
     qobject_cast<QComboBox*>(control("dcbSection"))->setEditText(QStringLiteral("どこか"));
