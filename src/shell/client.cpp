@@ -15,4 +15,8 @@ void Client::closeConnections() {
     CurrentConnection = &HomeConnection;
 }
 
+const QString& Client::helpPath() const {
+    return isAdminCode(session.SessionStaff) ? context.paths.adminHelpPath : context.paths.helpPath;
+}
+
 } // namespace kurbo

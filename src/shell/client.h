@@ -36,6 +36,8 @@ class Client final {
     // Opens the home database on DbPath and works on it; throws.
     void openHome();
     void closeConnections();
+    // The help of the person who logged in last; that for people at first.
+    [[nodiscard]] const QString& helpPath() const;
 };
 
 } // namespace kurbo

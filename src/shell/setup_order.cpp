@@ -111,4 +111,11 @@ bool moveAllowed(const Context& context, Connection& connection) {
     return false;
 }
 
+void warnOfOldRecords(const Context& context, Connection& connection) {
+    constexpr int year = 365;
+    if (RecordedDays(context, connection) > year)
+        context.prompts.inform(lines(QStringLiteral("レコード数が１年分を超えています。"),
+                                     QStringLiteral("管理者にデータ移動を依頼して下さい。")));
+}
+
 } // namespace kurbo

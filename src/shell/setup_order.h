@@ -24,5 +24,7 @@ enum class Setting { Corp, Section, Staff, WorkStyle, WorkTime, Access, User, Ca
 [[nodiscard]] bool cardAllowed(const Context& context, Connection& connection);
 // Whether there are days to move. Says so if not.
 [[nodiscard]] bool moveAllowed(const Context& context, Connection& connection);
+// Says so when more than a year of card rows has gathered.
+void warnOfOldRecords(const Context& context, Connection& connection);
 
 } // namespace kurbo

@@ -25,6 +25,8 @@ class ScriptedPrompts final : public Prompts {
     // All that was asked, for looking at titles, icons and buttons.
     [[nodiscard]] const QList<Message>& seen() const { return seen_; }
     [[nodiscard]] const Message& last() const { return seen_.last(); }
+    // Whether everything that was expected has come.
+    [[nodiscard]] bool allShown() const { return script_.isEmpty() && files_.isEmpty(); }
 
   private:
     struct Expectation {

@@ -1,0 +1,118 @@
+#include "screen/box_prompts.h"
+
+#include "base/product.h"
+#include "screen/hourglass.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <array>
+
+namespace kurbo {
+namespace {
+
+QMessageBox::Icon iconOf(Icon icon) {
+    switch (icon) {
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString captionOf(Answer answer) {
+    switch (answer) {
+    case Answer::Ok:
+        return QStringLiteral("OK");
+    case Answer::Cancel:
+        return QStringLiteral("ｷｬﾝｾﾙ");
+    case Answer::Yes:
+        return QStringLiteral("はい(&Y)");
+    case Answer::No:
+        return QStringLiteral("いいえ(&N)");
+    }
+    return {};
+}
+
+// The second answer is also that of Esc and of closing the box.
+std::array<Answer, 2> answersOf(Buttons buttons) {
+    if (buttons == Buttons::YesNo) return {Answer::Yes, Answer::No};
+    if (buttons == Buttons::OkCancel) return {Answer::Ok, Answer::Cancel};
+    return {Answer::Ok, Answer::Ok};
+}
+
+// The toolkit breaks lines that are longer than it likes, in Japanese in the middle of a word.
+void keepLinesWhole(const QMessageBox& box) {
+    constexpr int widest = 900;
+    auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label) return;
+    const QSize text = label->fontMetrics().size(0, box.text());
+    label->setMinimumWidth(std::min(text.width() + label->fontMetrics().averageCharWidth(), widest));
+}
+
+void setText(QMessageBox& box, const Message& message) {
+    QString text = message.text;
+    box.setWindowTitle(message.title);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box.setText(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    keepLinesWhole(box);
+}
+
+} // namespace
+
+Answer BoxPrompts::ask(const Message& message) {
+    const NormalPointer pointer;
+    QMessageBox box(QApplication::activeWindow());
+    setText(box, message);
+    box.setIcon(iconOf(message.icon));
+    const auto [first, second] = answersOf(message.buttons);
+    QPushButton* const accept = box.addButton(captionOf(first), QMessageBox::AcceptRole);
+    QPushButton* const refuse = second == first ? accept : box.addButton(captionOf(second), QMessageBox::RejectRole);
+    box.setDefaultButton(message.preset == second ? refuse : accept);
+    box.setEscapeButton(refuse);
+    box.exec();
+    return box.clickedButton() == accept ? first : second;
+}
+
+std::optional<QString> BoxPrompts::openFile(const QString& filter) {
+    constexpr QSize roomy(860, 520);
+    const NormalPointer pointer;
+    QFileDialog dlgFile(QApplication::activeWindow(), productName() + QStringLiteral("－ファイルを開く"));
+    dlgFile.setObjectName(QStringLiteral("dlgFile"));
+    dlgFile.setOption(QFileDialog::DontUseNativeDialog);
+    dlgFile.setFileMode(QFileDialog::ExistingFile);
+    dlgFile.resize(roomy);
+    dlgFile.setNameFilters(nameFilters(filter));
+    dlgFile.setLabelText(QFileDialog::Accept, QStringLiteral("開く(&O)"));
+    dlgFile.setLabelText(QFileDialog::Reject, QStringLiteral("ｷｬﾝｾﾙ"));
+    dlgFile.setLabelText(QFileDialog::LookIn, QStringLiteral("場所："));
+    dlgFile.setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名(&N)："));
+    dlgFile.setLabelText(QFileDialog::FileType, QStringLiteral("ファイルの種類："));
+    if (dlgFile.exec() != QDialog::Accepted || dlgFile.selectedFiles().isEmpty()) return std::nullopt;
+    return dlgFile.selectedFiles().constFirst();
+}
+
+QStringList nameFilters(const QString& filter) {
+    const QString whole = filter.isEmpty() ? QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*") : filter;
+    const QStringList parts = whole.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // "*.*" leaves out names without a dot on this platform.
+        QString patterns = parts[i + 1];
+        patterns = patterns == u"*.*" ? QStringLiteral("*") : patterns.replace(u';', u' ');
+        const qsizetype bracket = parts[i].lastIndexOf(u'(');
+        filters.append(parts[i].left(bracket < 0 ? parts[i].size() : bracket) + u'(' + patterns + u')');
+    }
+    return filters;
+}
+
+} // namespace kurbo

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "base/prompts.h"
+
+#include <QStringList>
+
+namespace kurbo {
+
+// Messages and questions in boxes on the screen.
+class BoxPrompts final : public Prompts {
+  public:
+    Answer ask(const Message& message) override;
+    std::optional<QString> openFile(const QString& filter) override;
+};
+
+// "text|pattern|text|pattern" as the toolkit's dialogs want it; an empty filter means all files.
+[[nodiscard]] QStringList nameFilters(const QString& filter);
+
+} // namespace kurbo

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace kurbo {
+
+// A form is a window whose name begins with "frm"; it is loaded while it is on the screen or minimised.
+
+[[nodiscard]] bool IsFormLoaded(const QString& name);
+// How many forms are open in which people work; frmSplash and frmWaiting are none of them.
+[[nodiscard]] int openForms();
+// Brings a loaded form to the front; false when it isn't loaded.
+[[nodiscard]] bool activateForm(const QString& name);
+
+// Whether a message box or a file dialog is up, that is a modal window which is no form.
+[[nodiscard]] bool isBoxUp();
+
+} // namespace kurbo

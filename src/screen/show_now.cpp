@@ -1,0 +1,28 @@
+#include "screen/show_now.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QScreen>
+#include <QWindow>
+
+namespace kurbo {
+
+void placeInMiddle(QWidget* window) {
+    window->adjustSize();
+    QRect frame(QPoint(), window->size());
+    frame.moveCenter(window->screen()->availableGeometry().center());
+    window->move(frame.topLeft());
+}
+
+void paintNow(QWidget* window) {
+    constexpr int patience = 200;
+    QElapsedTimer waited;
+    waited.start();
+    // A new window paints when the screen says that it is there, which takes a moment.
+    do {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    } while (window->windowHandle() && !window->windowHandle()->isExposed() && waited.elapsed() < patience);
+    window->repaint();
+}
+
+} // namespace kurbo

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QWidget>
+
+namespace kurbo {
+
+// Moves a window that is not shown yet to the middle of its screen.
+void placeInMiddle(QWidget* window);
+
+// Brings a window's picture to the screen while a long step keeps the event loop from running. What people type and
+// click meanwhile waits.
+void paintNow(QWidget* window);
+
+} // namespace kurbo

@@ -1,0 +1,192 @@
+#include "shell/frmLogin.h"
+
+#include "base/product.h"
+#include "screen/fields.h"
+#include "screen/hourglass.h"
+#include "screen/open_forms.h"
+#include "shell/frmSplash.h"
+#include "shell/shutdown.h"
+#include "store/readers.h"
+#include "ui_frmLogin.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+
+namespace kurbo {
+namespace {
+
+QColor colourOf(Day day) {
+    const std::chrono::weekday weekday{day};
+    if (weekday == std::chrono::Saturday) return {0, 0, 255};
+    if (weekday == std::chrono::Sunday) return {255, 0, 0};
+    return Qt::black;
+}
+
+// While a box or frmWaiting is up, the timers' work waits.
+bool isOccupied() {
+    return isBoxUp() || IsFormLoaded(QStringLiteral("frmWaiting"));
+}
+
+} // namespace
+
+frmLogin::frmLogin(Client& client) : ui_(std::make_unique<Ui::frmLogin>()), client_(client), login_(client) {
+    ui_->setupUi(this);
+    ui_->menus->setNativeMenuBar(false);
+    setWindowTitle(productName() + QStringLiteral("－ログイン"));
+    makeTimers();
+    connectFields();
+    connectButtons();
+    connectMenus();
+    HideTimeRecorder();
+    showTime(client_.context.clock.now());
+    ui_->txtClock->setFocus();
+    placeForBothForms();
+}
+
+// The focus moves once more while the controls go.
+frmLogin::~frmLogin() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+void frmLogin::makeTimers() {
+    tmrClock_ = new QTimer(this);
+    tmrClock_->setObjectName(QStringLiteral("tmrClock"));
+    tmrClock_->setTimerType(Qt::PreciseTimer);
+    tmrClock_->setInterval(std::chrono::milliseconds(1000));
+    connect(tmrClock_, &QTimer::timeout, this, &frmLogin::tick);
+    tmrClock_->start();
+    tmrTimer_ = new QTimer(this);
+    tmrTimer_->setObjectName(QStringLiteral("tmrTimer"));
+    tmrTimer_->setInterval(std::chrono::milliseconds(60000));
+    connect(tmrTimer_, &QTimer::timeout, this, &frmLogin::idleTick);
+}
+
+void frmLogin::load() {
+    loadFailed_ = !guarded(client_.context, u"frmLogin", u"Form_Load", false, [this] {
+        client_.openHome();
+        fillLists();
+        return true;
+    });
+    if (loadFailed_) client_.closeConnections();
+}
+
+void frmLogin::greet() {
+    if (loadFailed_) return;
+    tick();
+    warnOfOldRecords(client_.context, *client_.CurrentConnection);
+}
+
+bool frmLogin::ReConnect() {
+    if (loadFailed_ || ending_) return false;
+    const Hourglass hourglass;
+    const bool ready = guarded(client_.context, u"frmLogin", u"ReConnect", false, [this] {
+        if (!client_.CurrentConnection->isOpen()) {
+            listsOpen_ = false;
+            client_.openHome();
+        }
+        if (!listsOpen_) fillLists();
+        return true;
+    });
+    if (!ready) return false;
+    tmrTimer_->start();
+    IdleTicks_ = 0;
+    return true;
+}
+
+// Reads both lists anew; what was chosen stays chosen.
+void frmLogin::fillLists() {
+    const QSignalBlocker quietSection(ui_->dcbSection);
+    const QSignalBlocker quietStaff(ui_->dcbStaff);
+    const QString section = ui_->dcbSection->boundText();
+    const QString staff = ui_->dcbStaff->boundText();
+    Connection& connection = *client_.CurrentConnection;
+    ui_->dcbSection->setEntries(loginSections(connection));
+    ui_->dcbSection->setBoundText(section);
+    ui_->dcbStaff->setEntries(loginStaff(connection, section));
+    ui_->dcbStaff->setBoundText(staff);
+    listsOpen_ = true;
+}
+
+// Nobody is here: the database is left to others. The session goes on.
+void frmLogin::letGo() {
+    const QScopedValueRollback quiet(quietFocus_, true);
+    if (!isMinimized()) ui_->txtClock->setFocus();
+    client_.CurrentConnection->close();
+    listsOpen_ = false;
+    tmrTimer_->stop();
+}
+
+void frmLogin::databaseChanged() {
+    {
+        const QSignalBlocker quietSection(ui_->dcbSection);
+        ui_->dcbSection->clearEditText();
+        ui_->dcbStaff->clearEditText();
+    }
+    guarded(client_.context, u"frmLogin", u"databaseChanged", [this] { fillLists(); });
+    HideTimeRecorder();
+    ui_->txtPassWord->clear();
+}
+
+void frmLogin::tick() {
+    if (isOccupied()) return;
+    const Moment now = client_.context.clock.now();
+    const Day today = dayOf(now);
+    showTime(now);
+    if (dayOfMonth(today) == LastDay_ || !ReConnect()) return;
+    const QString name = WhichHoliday(client_.context, *client_.CurrentConnection, today);
+    if (name != u"ERROR") ui_->lblHoliday->setText(name);
+    LastDay_ = dayOfMonth(today);
+}
+
+void frmLogin::showTime(Moment now) {
+    QPalette colours = ui_->txtClock->palette();
+    colours.setColor(QPalette::Text, colourOf(dayOf(now)));
+    ui_->txtClock->setPalette(colours);
+    ui_->txtClock->setText(clockText(now));
+}
+
+// A screen that is open works on the connection: then nothing is let go.
+void frmLogin::idleTick() {
+    constexpr int idleAfter = 5;
+    if (isOccupied() || openForms() > 1) return;
+    if (++IdleTicks_ >= idleAfter) letGo();
+}
+
+bool frmLogin::event(QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate) leftForBox_ = isBoxUp();
+    // Coming back from a message box is no new beginning: a failed connection would be reported without end.
+    if (event->type() == QEvent::WindowActivate && !leftForBox_ && !isBoxUp() && openForms() == 1)
+        QMetaObject::invokeMethod(
+            this, [this] { (void)ReConnect(); }, Qt::QueuedConnection);
+    return QMainWindow::event(event);
+}
+
+void frmLogin::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (ending_) return;
+    if (openForms() > 1) {
+        client_.context.prompts.exclaim(QStringLiteral("他のメニューが開いているので、全て閉じてから終了して下さい。"));
+        return;
+    }
+    ending_ = true;
+    tmrClock_->stop();
+    tmrTimer_->stop();
+    {
+        const Hourglass hourglass;
+        frmSplash splash(QStringLiteral("終了処理中です･･･"));
+        splash.showAtOnce();
+        shutDown(client_);
+    }
+    event->accept();
+    Q_EMIT ended();
+}
+
+void frmLogin::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (isMinimized()) return;
+    centreAcross();
+    if (event->spontaneous()) ui_->txtClock->setFocus();
+}
+
+} // namespace kurbo

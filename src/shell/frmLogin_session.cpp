@@ -1,0 +1,194 @@
+#include "screen/fields.h"
+#include "screen/open_forms.h"
+#include "shell/frmLogin.h"
+#include "store/readers.h"
+#include "ui_frmLogin.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace kurbo {
+
+void frmLogin::connectFields() {
+    connect(ui_->dcbSection, &QComboBox::editTextChanged, this, &frmLogin::sectionChanged);
+    connect(ui_->dcbSection, &QComboBox::currentIndexChanged, this, &frmLogin::sectionChanged);
+    connect(ui_->dcbStaff, &QComboBox::editTextChanged, this, &frmLogin::checkInput);
+    connect(ui_->txtPassWord, &QLineEdit::textChanged, this, &frmLogin::checkInput);
+    connect(ui_->txtPassWord, &QLineEdit::returnPressed, ui_->cmdLogin, &QAbstractButton::click);
+    connect(qApp, &QApplication::focusChanged, this, &frmLogin::focusMoved);
+    for (QWidget* button : {ui_->cmdEnter, ui_->cmdOut, ui_->cmdIn, ui_->cmdLeave}) button->installEventFilter(this);
+}
+
+// The Enter key of the password, held a little too long, must not punch.
+bool frmLogin::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) return true;
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmLogin::sectionChanged() {
+    ui_->dcbStaff->clearEditText();
+    QList<CodeName> people;
+    if (ui_->dcbSection->isInList() && client_.CurrentConnection->isOpen())
+        guarded(client_.context, u"frmLogin", u"dcbSection_Change",
+                [&] { people = loginStaff(*client_.CurrentConnection, ui_->dcbSection->boundText()); });
+    ui_->dcbStaff->setEntries(people);
+    checkInput();
+}
+
+void frmLogin::checkInput() {
+    ui_->cmdLogin->setEnabled(
+        CheckLoginInput(ui_->dcbSection->currentText(), ui_->dcbStaff->currentText(), ui_->txtPassWord->text()));
+}
+
+// Nothing at either end: the window itself won or lost the focus.
+void frmLogin::focusMoved(QWidget* from, QWidget* to) {
+    if (quietFocus_ || !from || !to || from->window() != this || to->window() != this) return;
+    if (from == ui_->menus || to == ui_->menus) return;
+    if (refuses(from))
+        refuse(static_cast<DataCombo*>(from));
+    else if (isLoginField(to))
+        enterLoginField(to);
+}
+
+bool frmLogin::isLoginField(const QWidget* field) const {
+    return field == ui_->dcbSection || field == ui_->dcbStaff || field == ui_->txtPassWord;
+}
+
+bool frmLogin::refuses(const QWidget* field) const {
+    const auto* const combo = qobject_cast<const DataCombo*>(field);
+    if (!combo || combo->currentText().isEmpty() || combo->isInList()) return false;
+    return combo != ui_->dcbStaff || !isAdminCode(combo->currentText());
+}
+
+// The click that moved the focus is let to its end first.
+void frmLogin::refuse(DataCombo* field) {
+    const auto goBack = [this, field] {
+        {
+            const QScopedValueRollback quiet(quietFocus_, true);
+            field->setFocus();
+            SelectAllText(field->lineEdit());
+        }
+        client_.context.prompts.exclaim(QStringLiteral("不正な入力です。リストから選択して下さい。"));
+    };
+    QMetaObject::invokeMethod(this, goBack, Qt::QueuedConnection);
+}
+
+// Whoever touches a login field begins anew: the session of the one before ends.
+void frmLogin::enterLoginField(QWidget* field) {
+    if (!ReConnect()) return;
+    if (field != ui_->txtPassWord) SetImeOpen(field, true);
+    if (!isLoggedIn()) return;
+    HideTimeRecorder();
+    ui_->txtPassWord->clear();
+    if (!isAdminCode(ui_->dcbStaff->currentText())) return;
+    ui_->dcbSection->clearEditText();
+    ui_->dcbStaff->clearEditText();
+}
+
+void frmLogin::logIn() {
+    if (isLoggedIn() || !ReConnect()) return;
+    switch (login_.attempt({ui_->dcbSection->boundText(), ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText(),
+                            ui_->txtPassWord->text()})) {
+    case LoginResult::Open:
+        ShowTimeRecorder();
+        break;
+    case LoginResult::Refused:
+        ui_->txtPassWord->clear();
+        ui_->txtPassWord->setFocus();
+        break;
+    case LoginResult::Thrown:
+        close();
+        break;
+    case LoginResult::Stopped:
+        break;
+    }
+}
+
+bool frmLogin::isLoggedIn() const {
+    return !ui_->fraRecorder->isHidden();
+}
+
+void frmLogin::ShowTimeRecorder() {
+    const Session& session = client_.session;
+    const AccessRights& access = session.access;
+    ui_->lblTimeDiff->setVisible(session.EnterDelay != 0 || session.LeaveGain != 0);
+    ui_->lblPrompt->setText(QStringLiteral("ｱﾌﾟﾘｹｰｼｮﾝ終了時はﾛｸﾞｵﾌﾎﾞﾀﾝをｸﾘｯｸして下さい。"));
+    for (QWidget* button : {ui_->cmdEnter, ui_->cmdOut, ui_->cmdIn, ui_->cmdLeave}) button->setEnabled(access.CanPunch);
+    ui_->cmdKurbo->setEnabled(access.has(Right::ReadMyKurbo));
+    ui_->cmdTotal->setEnabled(access.has(Right::ReadOtherKurbo));
+    setMenusFor(access, true);
+    showRecorder(true);
+    QWidget* const next = access.CanPunch ? static_cast<QWidget*>(ui_->cmdEnter) : ui_->txtClock;
+    next->setFocus();
+}
+
+void frmLogin::HideTimeRecorder() {
+    if (ui_->fraRecorder->isAncestorOf(focusWidget())) ui_->txtClock->setFocus();
+    ui_->lblPrompt->setText(QStringLiteral("所属･氏名･ﾊﾟｽﾜｰﾄﾞを入力し、ﾛｸﾞｲﾝして下さい。"));
+    for (QWidget* button : {ui_->cmdEnter, ui_->cmdOut, ui_->cmdIn, ui_->cmdLeave, ui_->cmdKurbo, ui_->cmdTotal})
+        button->setEnabled(false);
+    setMenusFor({}, false);
+    showRecorder(false);
+}
+
+void frmLogin::setMenusFor(const AccessRights& access, bool loggedIn) {
+    ui_->mnuDB->setEnabled(loggedIn);
+    ui_->mnuPassword->setEnabled(loggedIn);
+    ui_->mnuDeleteDest->setEnabled(loggedIn && !access.IsAdmin);
+    ui_->mnuAsign->menuAction()->setVisible(access.IsAdmin);
+    ui_->mnuMaintainance->menuAction()->setVisible(access.IsAdmin);
+}
+
+void frmLogin::showRecorder(bool shown) {
+    if (isLoggedIn() && !isMaximized()) tallHeight_ = height();
+    ui_->fraRecorder->setVisible(shown);
+    for (QLayout* inner : {static_cast<QLayout*>(ui_->bodyLayout), static_cast<QLayout*>(ui_->pageLayout), layout()})
+        inner->activate();
+    const int least = minimumSizeHint().height();
+    fitHeight(shown ? std::max(least, tallHeight_) : least);
+}
+
+void frmLogin::fitHeight(int wanted) {
+    if (isMaximized() || isFullScreen()) return;
+    resize(width(), wanted);
+    const int below = frameGeometry().bottom() - screen()->availableGeometry().bottom();
+    if (below > 0) move(x(), std::max(screen()->availableGeometry().top(), y() - below));
+}
+
+// Where the tall form has its room too, so that the window need not jump.
+void frmLogin::placeForBothForms() {
+    constexpr int width = 780;
+    const QSize tall = sizeHint() + QSize(0, ui_->fraRecorder->sizeHint().height());
+    const QRect available = screen()->availableGeometry();
+    resize(std::max(width, tall.width()), height());
+    const int above = std::max(available.height() - tall.height(), 0) / 2;
+    move(available.left() + (available.width() - this->width()) / 2, available.top() + above);
+}
+
+void frmLogin::centreAcross() {
+    if (!isVisible() || isMaximized() || isFullScreen()) return;
+    const QRect available = screen()->availableGeometry();
+    move(available.left() + (available.width() - frameGeometry().width()) / 2, y());
+}
+
+// The time of the press counts, however long the database is waited for.
+void frmLogin::press(Punch kind) {
+    const Context& context = client_.context;
+    const FixedClock atPress(context.clock.now());
+    if (!ReConnect()) return;
+    const Session& session = client_.session;
+    const PunchResult result =
+        punch({context.prompts, atPress, context.paths, context.progress}, *client_.CurrentConnection,
+              {session.SessionStaff, session.EnterDelay, session.LeaveGain}, kind);
+    if (result == PunchResult::Stopped) return;
+    HideTimeRecorder();
+    ui_->txtPassWord->clear();
+    ui_->dcbStaff->setFocus();
+    SelectAllText(ui_->dcbStaff->lineEdit());
+}
+
+} // namespace kurbo

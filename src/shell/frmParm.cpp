@@ -1,0 +1,67 @@
+#include "shell/frmParm.h"
+
+#include "base/product.h"
+#include "screen/fields.h"
+#include "screen/help.h"
+#include "screen/hourglass.h"
+#include "shell/choose_database.h"
+#include "shell/frmAbout.h"
+#include "ui_frmParm.h"
+
+#include <QDir>
+
+namespace kurbo {
+
+frmParm::frmParm(Client& client, QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmParm>()), client_(client) {
+    ui_->setupUi(this);
+    ui_->menus->setNativeMenuBar(false);
+    layout()->setMenuBar(ui_->menus);
+    setWindowTitle(productName() + QStringLiteral("－データベース指定"));
+    connect(ui_->txtDB, &QLineEdit::textChanged, this,
+            [this](const QString& text) { ui_->cmdOK->setEnabled(!text.trimmed().isEmpty()); });
+    connect(ui_->cmdDB, &QPushButton::clicked, this, &frmParm::browse);
+    connect(ui_->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmParm::cancel);
+    connect(ui_->mnuTopic, &QAction::triggered, this,
+            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
+    connect(ui_->mnuVersion, &QAction::triggered, this, &frmParm::showVersion);
+    SetImeOpen(ui_->txtDB, false);
+    ui_->txtDB->setText(client_.DbPath);
+}
+
+frmParm::~frmParm() = default;
+
+void frmParm::browse() {
+    const auto chosen = client_.context.prompts.openFile(QStringLiteral("DBﾌｧｲﾙ(*.mdb)|*.mdb"));
+    if (!chosen) return;
+    ui_->txtDB->setText(QDir::toNativeSeparators(*chosen));
+    ui_->txtDB->setFocus();
+}
+
+void frmParm::cancel() {
+    cancelled_ = true;
+    reject();
+}
+
+void frmParm::showVersion() {
+    frmAbout(client_.helpPath(), this).exec();
+}
+
+// Every way out leads through here: the buttons, Esc and the window's own close.
+void frmParm::done(int result) {
+    if (unload()) QDialog::done(result);
+}
+
+bool frmParm::unload() {
+    const Hourglass hourglass;
+    if (cancelled_) {
+        keepDatabase(client_);
+        return true;
+    }
+    const ChoiceEnd end = chooseDatabase(client_, ui_->txtDB->text());
+    if (end == ChoiceEnd::Chosen) Q_EMIT databaseChosen();
+    return end != ChoiceEnd::Stay;
+}
+
+} // namespace kurbo

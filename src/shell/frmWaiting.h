@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/progress.h"
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace kurbo {
+
+namespace Ui {
+class frmWaiting;
+}
+
+// What a long step shows; a click takes it away, and the step goes on.
+class frmWaiting final : public QWidget, public Progress {
+    Q_OBJECT
+
+  public:
+    frmWaiting();
+    ~frmWaiting() override;
+    frmWaiting(const frmWaiting&) = delete;
+    frmWaiting& operator=(const frmWaiting&) = delete;
+
+    void begin(const QString& text, int maximum) override;
+    void step(int value) override;
+    void end() override;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+
+  private:
+    const std::unique_ptr<Ui::frmWaiting> ui_;
+    QElapsedTimer sincePaint_;
+    bool endless_ = false;
+};
+
+} // namespace kurbo

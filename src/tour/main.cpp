@@ -1,0 +1,63 @@
+// Plays a working day on a demo company of its own and leaves its pictures and a PDF in a folder.
+
+#include "demo/demo_company.h"
+#include "shell/application.h"
+#include "shell/frmWaiting.h"
+#include "store/database_file.h"
+#include "tour/working_day.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace kurbo {
+namespace {
+
+void makeCompany(const QString& path, Day today) {
+    createDatabase(path);
+    Connection connection;
+    connection.open(path, databasePassword());
+    DemoOptions options;
+    options.until = today;
+    makeDemoCompany(connection, options);
+}
+
+int tour(const QString& folder) {
+    if (!QDir().mkpath(folder)) return 1;
+    for (const QString& old : QDir(folder).entryList({QStringLiteral("*.png"), QStringLiteral("*.pdf")}))
+        QFile::remove(folder + u'/' + old);
+    const QTemporaryDir application;
+    FixedClock clock(at(*makeDay(2026, 6, 17), 8, 52, 17));
+    Camera camera(folder);
+    PhotographedPrompts prompts(camera);
+    const Paths paths = pathsIn(application.path());
+    frmWaiting waiting;
+    const Context context{prompts, clock, paths, waiting};
+    Client client(context);
+    client.DbPath = application.filePath(QStringLiteral("kurbo.mdb"));
+    makeCompany(client.DbPath, clock.today());
+    WorkingDay(client, clock, prompts, camera).play();
+    const bool written = camera.writePdf(QStringLiteral("tour.pdf"));
+    std::printf("%d pictures\n", static_cast<int>(camera.count()));
+    return written && checkDatabase(client.DbPath).isEmpty() ? 0 : 1;
+}
+
+} // namespace
+} // namespace kurbo
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    kurbo::dress(application);
+    if (argc != 2) {
+        std::fputs("usage: kurbo-tour FOLDER\n", stderr);
+        return 2;
+    }
+    try {
+        return kurbo::tour(QString::fromLocal8Bit(argv[1]));
+    } catch (const kurbo::Fault& fault) {
+        std::fprintf(stderr, "%s\n", fault.description().toUtf8().constData());
+        return 3;
+    }
+}

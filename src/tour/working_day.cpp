@@ -1,0 +1,147 @@
+#include "tour/working_day.h"
+
+#include "shell/frmAbout.h"
+#include "shell/frmParm.h"
+#include "shell/frmSplash.h"
+#include "shell/frmWaiting.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+
+namespace kurbo {
+namespace {
+
+void settle() {
+    for (int round = 0; round < 5; ++round) QApplication::processEvents();
+}
+
+void press(QWidget* control, int key, const QString& text = {}) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, Qt::NoModifier, text);
+        QApplication::sendEvent(control, &event);
+    }
+    settle();
+}
+
+void type(QWidget* control, const QString& text) {
+    for (const QChar c : text) press(control, 0, QString(c));
+}
+
+} // namespace
+
+void WorkingDay::play() {
+    start();
+    morning();
+    mistakes();
+    nightShiftEnds();
+    administrator();
+    otherWindows();
+    end();
+}
+
+QWidget* WorkingDay::control(const char* name) const {
+    return window_.findChild<QWidget*>(QString::fromLatin1(name));
+}
+
+void WorkingDay::start() {
+    frmSplash splash(QStringLiteral("起動中です･･･"));
+    splash.show();
+    camera_.shoot(splash, QStringLiteral("起動"));
+    splash.close();
+    window_.load();
+    window_.show();
+    window_.activateWindow();
+    window_.greet();
+    shoot(QStringLiteral("ログイン前"));
+}
+
+void WorkingDay::logIn(const QString& section, const QString& staff, const QString& password) {
+    window_.activateWindow();
+    settle();
+    const auto choose = [this](const char* name, const QString& text) {
+        QWidget* const combo = control(name);
+        combo->setFocus();
+        settle();
+        qobject_cast<QComboBox*>(combo)->setEditText(text);
+        settle();
+    };
+    choose("dcbSection", section);
+    choose("dcbStaff", staff);
+    QWidget* const word = control("txtPassWord");
+    word->setFocus();
+    settle();
+    qobject_cast<QLineEdit*>(word)->selectAll();
+    type(word, password);
+    press(word, Qt::Key_Return);
+}
+
+void WorkingDay::morning() {
+    logIn(QStringLiteral("総務部"), QStringLiteral("森　拓也"), QStringLiteral("kurbo1003"));
+    shoot(QStringLiteral("打刻画面"));
+    press(control("cmdEnter"), Qt::Key_Space);
+    shoot(QStringLiteral("出社の後"));
+    logIn(QStringLiteral("総務部"), QStringLiteral("森　拓也"), QStringLiteral("kurbo1003"));
+    press(control("cmdEnter"), Qt::Key_Space);
+}
+
+void WorkingDay::mistakes() {
+    logIn(QStringLiteral("営業部"), QStringLiteral("前田　裕二"), QStringLiteral("wrong"));
+    logIn(QStringLiteral("総務部"), QStringLiteral("伊藤　由美子"), QStringLiteral("kurbo1004"));
+    window_.activateWindow();
+    control("dcbSection")->setFocus();
+    settle();
+    qobject_cast<QComboBox*>(control("dcbSection"))->setEditText(QStringLiteral("どこか"));
+    control("txtPassWord")->setFocus();
+    settle();
+    qobject_cast<QComboBox*>(control("dcbSection"))->setEditText({});
+}
+
+void WorkingDay::nightShiftEnds() {
+    logIn(QStringLiteral("製造部"), QStringLiteral("池田　拓也"), QStringLiteral("kurbo1010"));
+    prompts_.answerNext(Answer::Yes);
+    press(control("cmdLeave"), Qt::Key_Space);
+    clock_.set(clock_.now() + std::chrono::hours(9));
+    logIn(QStringLiteral("営業部"), QStringLiteral("前田　裕二"), QStringLiteral("kurbo1006"));
+    press(control("cmdLeave"), Qt::Key_Space);
+}
+
+void WorkingDay::administrator() {
+    logIn({}, QStringLiteral("admin"), QStringLiteral("admin"));
+    shoot(QStringLiteral("管理者"));
+    for (const char* name : {"mnuFile", "mnuAsign", "mnuMaintainance", "mnuHelp"}) {
+        auto* const menu = window_.findChild<QMenu*>(QString::fromLatin1(name));
+        menu->popup(window_.mapToGlobal(QPoint(0, 0)));
+        camera_.shoot(*menu, QStringLiteral("メニュー ") + menu->title().section(u'(', 0, 0));
+        menu->close();
+    }
+    window_.findChild<QAction*>(QStringLiteral("mnuCalendar"))->trigger();
+    window_.findChild<QAction*>(QStringLiteral("mnuTopic"))->trigger();
+}
+
+void WorkingDay::otherWindows() {
+    frmParm parm(client_, &window_);
+    parm.show();
+    camera_.shoot(parm, QStringLiteral("データベース指定"));
+    parm.findChild<QWidget*>(QStringLiteral("cmdCancel"))->setFocus();
+    press(parm.findChild<QWidget*>(QStringLiteral("cmdCancel")), Qt::Key_Space);
+    frmAbout about(client_.helpPath(), &window_);
+    about.show();
+    camera_.shoot(about, QStringLiteral("バージョン情報"));
+    about.close();
+    frmWaiting waiting;
+    waiting.begin({}, 100);
+    waiting.step(40);
+    camera_.shoot(waiting, QStringLiteral("処理中"));
+    waiting.end();
+}
+
+void WorkingDay::end() {
+    window_.close();
+    settle();
+}
+
+} // namespace kurbo

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/clock.h"
+#include "shell/frmLogin.h"
+#include "tour/photographed_prompts.h"
+
+namespace kurbo {
+
+// The road of one working day at the office PC, by keyboard, with a picture at each station.
+class WorkingDay final {
+  public:
+    WorkingDay(Client& client, FixedClock& clock, PhotographedPrompts& prompts, Camera& camera)
+        : client_(client), clock_(clock), prompts_(prompts), camera_(camera), window_(client) {}
+    void play();
+
+  private:
+    void start();
+    void morning();
+    void mistakes();
+    void nightShiftEnds();
+    void administrator();
+    void otherWindows();
+    void end();
+
+    void logIn(const QString& section, const QString& staff, const QString& password);
+    void shoot(const QString& title) { camera_.shoot(window_, title); }
+    [[nodiscard]] QWidget* control(const char* name) const;
+
+    Client& client_;
+    FixedClock& clock_;
+    PhotographedPrompts& prompts_;
+    Camera& camera_;
+    frmLogin window_;
+};
+
+} // namespace kurbo

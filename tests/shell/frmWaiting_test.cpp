@@ -1,0 +1,60 @@
+#include "shell/frmWaiting.h"
+
+#include "shell/office.h"
+#include "shell/wait_box.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTest>
+
+namespace kurbo {
+namespace {
+
+TEST(FrmWaiting, MovesWithoutAKnownEndAndGoesAwayByAClick) {
+    frmWaiting window;
+    const auto* const bar = window.findChild<QProgressBar*>(QStringLiteral("pgbWaiting"));
+    window.begin(QString(), 0);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("lblPrompt"))->text(), u"処理中です・・・");
+    const int before = bar->value();
+    QTest::qSleep(120);
+    window.step(0);
+    EXPECT_NE(bar->value(), before);
+    window.begin(QStringLiteral("集計中です"), 3);
+    window.step(2);
+    EXPECT_EQ(bar->value(), 2);
+    QTest::mouseClick(&window, Qt::LeftButton);
+    window.step(3);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(Office, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {
+    WaitBox box;
+    Connection waiting;
+    box.watch(waiting);
+    waiting.open(client.DbPath, databasePassword());
+    bool shown = false;
+    const auto waitFor = [&](std::chrono::milliseconds time) {
+        shown = false;
+        Connection busy;
+        busy.open(client.DbPath, databasePassword());
+        busy.engine("BEGIN EXCLUSIVE");
+        waiting.setTimeout(time);
+        EXPECT_THROW((void)waiting.hasRow(QStringLiteral("SELECT * FROM C02_Section;")), Fault);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (const QWidget* window : windows)
+            shown = shown || (window->isVisible() && window->objectName() == u"frmWaiting");
+        busy.engine("ROLLBACK");
+    };
+    waitFor(std::chrono::milliseconds(500));
+    EXPECT_FALSE(shown);
+    waitFor(std::chrono::milliseconds(1700));
+    EXPECT_TRUE(shown);
+    QTest::qWait(500);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) EXPECT_FALSE(window->isVisible() && window->objectName() == u"frmWaiting");
+}
+
+} // namespace
+} // namespace kurbo
