@@ -1,14 +1,15 @@
 #pragma once
 
+#include "ctl/console.h"
+
 #include <QStringList>
 
 namespace kurbo {
 
-enum class Exit { Done = 0, Refused = 1, WrongUse = 2, Fault = 3 };
-
 // One command each. `arguments` stands behind the command's name; failures are thrown.
 [[nodiscard]] Exit runNew(const QStringList& arguments);
 [[nodiscard]] Exit runDemo(const QStringList& arguments);
+[[nodiscard]] Exit runCard(const QStringList& arguments);
 [[nodiscard]] Exit runSql(const QStringList& arguments);
 [[nodiscard]] Exit runPunch(const QStringList& arguments);
 [[nodiscard]] Exit runCheck(const QStringList& arguments);

@@ -8,6 +8,8 @@
 
 namespace kurbo {
 
+enum class Exit { Done = 0, Refused = 1, WrongUse = 2, Fault = 3 };
+
 // A question came up that no option answers.
 struct Unanswered {};
 
@@ -30,7 +32,8 @@ class Console final {
   public:
     explicit Console(const Options& options, std::optional<Answer> answer = {});
     [[nodiscard]] const Context& context() const { return context_; }
-    [[nodiscard]] const ConsolePrompts& prompts() const { return prompts_; }
+    // How a command ends whose failure has been said: as a fault, or as a refusal.
+    [[nodiscard]] Exit refused() const { return prompts_.sawFault() ? Exit::Fault : Exit::Refused; }
 
   private:
     std::unique_ptr<Clock> clock_;

@@ -22,6 +22,8 @@ constexpr std::array commands{
     Command{u"new", runNew, u"new FILE"},
     Command{u"demo", runDemo,
             u"demo FILE [--people N] [--sections N] [--months N] [--seed N] [--until yyyy/mm/dd] [--flexible]"},
+    Command{u"card", runCard,
+            u"card FILE --staff CODE (--month yyyy/mm | --from yyyy/mm/dd --to yyyy/mm/dd) [--format ...]"},
     Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
     Command{u"punch", runPunch,
             u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "

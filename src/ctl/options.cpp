@@ -25,6 +25,11 @@ void Options::read(const QStringList& arguments, qsizetype places) {
     if (given > places) throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
 }
 
+QString Options::needed(const QString& name) const {
+    if (!has(name)) throw WrongUse{QStringLiteral("--%1 is missing").arg(name)};
+    return value(name);
+}
+
 int Options::number(const QString& name, int otherwise, int least, int most) const {
     if (!has(name)) return otherwise;
     bool ok = false;

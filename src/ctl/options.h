@@ -28,6 +28,8 @@ class Options final {
     [[nodiscard]] QString place(qsizetype index) const { return parser_.positionalArguments().at(index); }
     [[nodiscard]] bool has(const QString& name) const { return parser_.isSet(name); }
     [[nodiscard]] QString value(const QString& name) const { return parser_.value(name); }
+    // The value of an option that has to be there. Throws WrongUse.
+    [[nodiscard]] QString needed(const QString& name) const;
     // A whole number from `least` to `most`; `otherwise` without the option. Throws WrongUse.
     [[nodiscard]] int number(const QString& name, int otherwise, int least, int most) const;
     // "yyyy/mm/dd"; nothing without the option. Throws WrongUse.

@@ -33,11 +33,6 @@ std::optional<Answer> continuedAnswer(const Options& options) {
     throw WrongUse{QStringLiteral("--continued takes yes or no")};
 }
 
-QString needed(const Options& options, const QString& name) {
-    if (!options.has(name)) throw WrongUse{QStringLiteral("--%1 is missing").arg(name)};
-    return options.value(name);
-}
-
 // The name shown in the login list, for messages; the code where there is none.
 QString nameOf(Connection& connection, const QString& staff) {
     const auto name =
@@ -45,24 +40,20 @@ QString nameOf(Connection& connection, const QString& staff) {
     return name && !name->isNull() ? name->text() : staff;
 }
 
-Exit refused(const Console& console) {
-    return console.prompts().sawFault() ? Exit::Fault : Exit::Refused;
-}
-
 Exit logInAndPunch(const Console& console, const Options& options, Punch kind) {
-    const QString staff = needed(options, QStringLiteral("staff"));
+    const QString staff = options.needed(QStringLiteral("staff"));
     Client client(console.context());
     client.DbPath = options.place(0);
     client.openHome();
     Login login(client);
     const Credentials credentials{
-        {}, staff, nameOf(client.HomeConnection, staff), needed(options, QStringLiteral("password"))};
-    if (login.attempt(credentials) != LoginResult::Open) return refused(console);
+        {}, staff, nameOf(client.HomeConnection, staff), options.needed(QStringLiteral("password"))};
+    if (login.attempt(credentials) != LoginResult::Open) return console.refused();
     if (!client.session.access.CanPunch)
         throw Complaint(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
     const Puncher puncher{client.session.SessionStaff, client.session.EnterDelay, client.session.LeaveGain};
     return punch(console.context(), client.HomeConnection, puncher, kind) == PunchResult::Done ? Exit::Done
-                                                                                               : refused(console);
+                                                                                               : console.refused();
 }
 
 } // namespace

@@ -16,11 +16,6 @@ QString plain(const Value& value) {
     return value.text();
 }
 
-QString jsonText(const QString& text) {
-    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(array.mid(1, array.size() - 2));
-}
-
 QString json(const Value& value) {
     if (value.isNull()) return QStringLiteral("null");
     if (std::holds_alternative<std::int64_t>(value.data())) return value.text();
@@ -63,20 +58,14 @@ void printJson(Rows& rows) {
     say(u'[' + objects.join(u',') + u']');
 }
 
-void printLines(Rows& rows, QChar separator, QString (*cell)(QString)) {
-    const auto line = [&](QStringList texts) {
-        for (QString& text : texts) text = cell(text);
-        say(texts.join(separator));
-    };
-    line(names(rows));
-    while (rows.next()) line(cells(rows));
+void printLine(QStringList texts, QChar separator, QString (*cell)(QString)) {
+    for (QString& text : texts) text = cell(text);
+    say(texts.join(separator));
 }
 
 // Columns are aligned by the width of their characters, a full-width one counting two.
-void printTable(Rows& rows) {
-    QList<QStringList> table{names(rows)};
-    while (rows.next()) table.append(cells(rows));
-    QList<int> widths(rows.columns());
+void printAligned(const QList<QStringList>& table) {
+    QList<int> widths(table.first().size());
     for (const QStringList& line : table)
         for (qsizetype i = 0; i < line.size(); ++i) widths[i] = qMax(widths[i], byteLength(line[i]));
     for (const QStringList& line : table) {
@@ -85,6 +74,17 @@ void printTable(Rows& rows) {
             text += line[i] + QString(widths[i] - byteLength(line[i]) + 2, u' ');
         say(text.trimmed().isEmpty() ? QString() : text.left(text.size() - 2));
     }
+}
+
+void printTable(Rows& rows) {
+    QList<QStringList> table{names(rows)};
+    while (rows.next()) table.append(cells(rows));
+    printAligned(table);
+}
+
+void printLines(Rows& rows, QChar separator, QString (*cell)(QString)) {
+    printLine(names(rows), separator, cell);
+    while (rows.next()) printLine(cells(rows), separator, cell);
 }
 
 } // namespace
@@ -108,6 +108,28 @@ void print(Rows& rows, Format format) {
     case Format::Json:
         return printJson(rows);
     }
+}
+
+void printRows(const QStringList& headings, const QList<QStringList>& rows, Format format) {
+    if (format == Format::Table) return printAligned(QList<QStringList>{headings} + rows);
+    const bool tabs = format == Format::Tsv;
+    printLine(headings, tabs ? u'\t' : u',', tabs ? tsv : csv);
+    for (const QStringList& row : rows) printLine(row, tabs ? u'\t' : u',', tabs ? tsv : csv);
+}
+
+QString jsonText(const QString& text) {
+    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(array.mid(1, array.size() - 2));
+}
+
+QString jsonTexts(const QStringList& texts) {
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
+}
+
+QString jsonTable(const QList<QStringList>& rows) {
+    QStringList parts;
+    for (const QStringList& row : rows) parts.append(jsonTexts(row));
+    return u'[' + parts.join(u',') + u']';
 }
 
 } // namespace kurbo

@@ -145,6 +145,7 @@ void Connection::fail(int result) {
 }
 
 void Connection::engine(const QByteArray& sql) {
+    if (!database_) throw storeFault(StoreError::NoFile, path_);
     const int result = sqlite3_exec(database_, sql.constData(), nullptr, nullptr, nullptr);
     if (result != SQLITE_OK) fail(result);
 }
@@ -273,7 +274,8 @@ void Transaction::commit() {
     open_ = false;
 }
 
-Reading::Reading(Connection& connection) : connection_(connection), own_(!connection.inTransaction()) {
+Reading::Reading(Connection& connection)
+    : connection_(connection), own_(!connection.database_ || sqlite3_get_autocommit(connection.database_) != 0) {
     if (own_) connection_.engine("BEGIN");
 }
 

@@ -127,7 +127,7 @@ class Transaction final {
     bool open_ = true;
 };
 
-// Several questions that see one state of the file, and pay for one lock.
+// Several questions that see one state of the file, and pay for one lock. Inside another one it is part of that.
 class Reading final {
   public:
     explicit Reading(Connection& connection);

@@ -1,0 +1,242 @@
+#include "card/card_cells.h"
+
+#include "store/readers.h"
+#include "store/record_set.h"
+
+#include <array>
+
+namespace kurbo {
+namespace {
+
+constexpr int index(CardColumn column) {
+    return static_cast<int>(column);
+}
+
+// The quantities of columns 6 to 14, in their order; column 6 is the difference on a flexible company's card.
+constexpr std::array timeColumns{&Figures::legalOver,    &Figures::over,      &Figures::late,
+                                 &Figures::early,        &Figures::holiday,   &Figures::holidayLate,
+                                 &Figures::legalHoliday, &Figures::legalLate, &Figures::absent};
+constexpr std::array leaveColumns{&Figures::paidHalves, &Figures::specialHalves, &Figures::compensHalves};
+constexpr std::array countColumns{&Figures::absentDays, &Figures::lateEnters, &Figures::earlyLeaves};
+
+QStringList blankRow() {
+    return QStringList(cardColumns, QString());
+}
+
+QStringList headingsFor(bool flexible) {
+    const QString line = QStringLiteral(
+        "No|日付|休日|予定（メモ）|出社時刻|退社時刻|%1|普通残業|深夜残業|早出勤務|休日出勤|休日深夜|法休出勤|法休深夜|"
+        "欠勤時間|有給|特休|代休|欠勤|遅刻|早退|実働時間|詳細出社|詳細退社|ID");
+    return line.arg(flexible ? QStringLiteral("時間差") : QStringLiteral("法内残業")).split(u'|');
+}
+
+QString leaveWord(QChar code) {
+    if (code == u'0') return QStringLiteral("全日");
+    if (code == u'1') return QStringLiteral("午前");
+    return code == u'2' ? QStringLiteral("午後") : QString();
+}
+
+// "yy/mm/dd(aaa)"
+QString shortDate(Day day) {
+    static const QString names = QStringLiteral("日月火水木金土");
+    return slashDate(day).mid(2) + u'(' + names[std::chrono::weekday{day}.c_encoding()] + u')';
+}
+
+QString hourMinute(Moment moment) {
+    return slashMoment(moment).mid(11, 5);
+}
+
+QString leaveText(Moment leave, Day day) {
+    if (dayOf(leave) == day) return hourMinute(leave);
+    return u'(' + slashDate(dayOf(leave)).mid(5) + u')' + hourMinute(leave);
+}
+
+class CellWriter final {
+  public:
+    explicit CellWriter(const clsWorkTime& rules) : rules_(rules) {}
+
+    [[nodiscard]] QStringList day(int number, const CardDay& day, const Figures& figures) const {
+        QStringList row = blankRow();
+        writeFacts(row, number, day);
+        writeTimes(row, figures);
+        for (int i = 0; i < 3; ++i)
+            if (figures.*countColumns[static_cast<std::size_t>(i)] != 0)
+                row[index(CardColumn::AbsentDay) + i] = QStringLiteral("1");
+        row[index(CardColumn::WorkTime)] = hours(figures.work);
+        return row;
+    }
+
+    [[nodiscard]] QStringList captions() const {
+        QStringList row = blankRow();
+        row[index(CardColumn::Date)] = rules_.pbleFlexTime ? QStringLiteral("ﾌﾚｯｸｽ勤務") : QStringLiteral("普通勤務");
+        row[3] = QStringLiteral("(出勤日数)");
+        row[4] = QStringLiteral("(実働時間)");
+        row[5] = QStringLiteral("(有給残数)");
+        return row;
+    }
+
+    [[nodiscard]] QStringList sums(const Figures& sum) const {
+        QStringList row = blankRow();
+        row[index(CardColumn::Date)] = QStringLiteral("合計(実働)");
+        row[3] = QString::number(sum.workDays);
+        row[4] = FormatHours(sum.work, rules_.plngCountUnit, false);
+        row[5] = daysText(static_cast<double>(rules_.psngPaidTotal) - sum.paidHalves * 0.5);
+        for (std::size_t i = 0; i < timeColumns.size(); ++i)
+            row[6 + static_cast<int>(i)] = FormatHours(sum.*timeColumns[i], rules_.plngCountUnit, false);
+        if (rules_.pbleFlexTime) row[6] = FormatHours(sum.difference, rules_.plngCountUnit, true);
+        for (std::size_t i = 0; i < 3; ++i) {
+            row[15 + static_cast<int>(i)] = daysText(sum.*leaveColumns[i] * 0.5);
+            row[18 + static_cast<int>(i)] = QString::number(sum.*countColumns[i]);
+        }
+        return row;
+    }
+
+    // Nothing for a field that is Null.
+    [[nodiscard]] QString savedHours(const Value& minutes) const {
+        if (minutes.isNull()) return {};
+        return FormatHours(static_cast<Minutes>(minutes.integer()), rules_.plngCountUnit, false);
+    }
+
+  private:
+    [[nodiscard]] QString hours(Minutes minutes) const {
+        return minutes == 0 ? QString() : FormatHours(minutes, rules_.plngCountUnit, false);
+    }
+
+    static void writeFacts(QStringList& row, int number, const CardDay& day) {
+        const DayFacts& facts = day.facts;
+        row[index(CardColumn::No)] = QString::number(number);
+        row[index(CardColumn::Date)] = shortDate(facts.date);
+        if (!facts.type.isNull()) row[index(CardColumn::Holiday)] = facts.type;
+        row[index(CardColumn::Plan)] = day.plan;
+        if (facts.enter) row[index(CardColumn::Enter)] = hourMinute(*facts.enter);
+        if (facts.leave) row[index(CardColumn::Leave)] = leaveText(*facts.leave, facts.date);
+        row[index(CardColumn::Paid)] = leaveWord(facts.paid);
+        row[index(CardColumn::Special)] = leaveWord(facts.special);
+        row[index(CardColumn::Compens)] = leaveWord(facts.compens);
+        if (facts.enter) row[index(CardColumn::FullEnter)] = slashMoment(*facts.enter);
+        if (facts.leave) row[index(CardColumn::FullLeave)] = slashMoment(*facts.leave);
+        if (day.kurboId) row[index(CardColumn::Id)] = QString::number(*day.kurboId);
+    }
+
+    void writeTimes(QStringList& row, const Figures& figures) const {
+        for (std::size_t i = 0; i < timeColumns.size(); ++i)
+            row[6 + static_cast<int>(i)] = hours(figures.*timeColumns[i]);
+        if (figures.difference != 0 && figures.legalOver == 0)
+            row[6] = FormatHours(figures.difference, rules_.plngCountUnit, true);
+    }
+
+    const clsWorkTime& rules_;
+};
+
+void roundSums(const clsWorkTime& rules, Figures& sum) {
+    if (rules.plngRoundMethod != 1) return;
+    const auto round = [&rules](Minutes& minutes) {
+        minutes = RoundMinutes(minutes, rules.plngRoundHour, rules.plngRoundUnit());
+    };
+    round(sum.work);
+    round(sum.difference);
+    for (const auto& column : timeColumns) round(sum.*column);
+}
+
+bool isWholePeriod(const clsWorkTime& rules, Period span, Day today) {
+    const int startDay = rules.plngCloseDay() == 31 ? 1 : rules.plngCloseDay() + 1;
+    return span.to == addMonths(span.from, 1) - std::chrono::days(1) && dayOfMonth(span.from) == startDay &&
+           span.to <= today;
+}
+
+// What counts for the month, once it has been saved.
+void readSavedMonth(Connection& connection, const CellWriter& cells, const QString& staff, Day end, Card& card) {
+    static constexpr std::array timeFields{u"F_LegalOver",    u"F_Over",      u"F_Late",
+                                           u"F_Early",        u"F_Holiday",   u"F_HolidayLate",
+                                           u"F_LegalHoliday", u"F_LegalLate", u"F_Absent"};
+    static constexpr std::array leaveFields{u"F_Paid", u"F_Special", u"F_Compens"};
+    static constexpr std::array countFields{u"F_AbsentDay", u"F_LateEnter", u"F_EarlyLeave"};
+    const QString id = dateId(end);
+    const RecordSet month(connection,
+                          QStringLiteral("SELECT * FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year = ?) "
+                                         "AND (F_Month = ?);"),
+                          {staff, id.left(4), id.mid(4, 2)});
+    if (month.isEmpty()) return;
+    const auto days = [&month](const char16_t* field) {
+        const Value value = month.value(QString::fromUtf16(field));
+        return value.isNull() ? QString() : daysText(value.real());
+    };
+    QStringList& row = card.summary[2];
+    row[3] = month.value(QStringLiteral("F_WorkDay")).text();
+    row[4] = cells.savedHours(month.value(QStringLiteral("F_Work")));
+    row[5] = days(u"F_PaidTotal");
+    for (std::size_t i = 0; i < timeFields.size(); ++i)
+        row[6 + static_cast<int>(i)] = cells.savedHours(month.value(QString::fromUtf16(timeFields[i])));
+    for (std::size_t i = 0; i < 3; ++i) {
+        row[15 + static_cast<int>(i)] = days(leaveFields[i]);
+        row[18 + static_cast<int>(i)] = month.value(QString::fromUtf16(countFields[i])).text();
+    }
+    card.saved = true;
+    card.personalApproval = month.value(QStringLiteral("F_PersonalApproval")).yes();
+    card.superiorApproval = month.value(QStringLiteral("F_SuperiorApproval")).yes();
+}
+
+// Columns 6 to 20 by their switches; the last three are for the program.
+std::array<bool, cardColumns> hiddenColumns(const clsWorkTime& rules) {
+    const std::array shown{rules.pbleFlexTime ? rules.pbleEnableDiff : rules.pbleEnableLegalOver,
+                           rules.pbleEnableOver,
+                           rules.pbleEnableLate,
+                           rules.pbleEnableEarly,
+                           rules.pbleEnableHoliday,
+                           rules.pbleEnableHolidayLate,
+                           rules.pbleEnableLegalHoliday,
+                           rules.pbleEnableLegalLate,
+                           rules.pbleEnableAbsent,
+                           rules.pbleEnablePaid,
+                           rules.pbleEnableSpecial,
+                           rules.pbleEnableCompens,
+                           rules.pbleEnableAbsentDay,
+                           rules.pbleEnableLateEnter,
+                           rules.pbleEnableEarlyLeave};
+    std::array<bool, cardColumns> hidden{};
+    for (std::size_t i = 0; i < shown.size(); ++i) hidden[6 + i] = !shown[i];
+    for (const CardColumn column : {CardColumn::FullEnter, CardColumn::FullLeave, CardColumn::Id})
+        hidden[static_cast<std::size_t>(column)] = true;
+    return hidden;
+}
+
+Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff, Period span) {
+    const Reading reading(connection);
+    const CardDays read = readCardDays(connection, staff, span.from, span.to);
+    std::vector<DayFacts> facts;
+    facts.reserve(read.days.size());
+    for (const CardDay& day : read.days) facts.push_back(day.facts);
+    std::optional<Moment> carry;
+    if (!facts.empty())
+        carry = EndAllNight(context, connection, staff, startOfDay(rules, facts.front().date, facts.front().type));
+    CardFigures figures = calculateDays(rules, facts, read.next, carry, context.clock.today());
+    roundSums(rules, figures.sum);
+
+    const CellWriter cells(rules);
+    Card card;
+    card.headings = headingsFor(rules.pbleFlexTime);
+    card.summary = {cells.captions(), cells.sums(figures.sum), blankRow()};
+    card.summary[2][index(CardColumn::Date)] = QStringLiteral("合計(最終)");
+    card.days.reserve(static_cast<qsizetype>(read.days.size()));
+    for (std::size_t i = 0; i < read.days.size(); ++i)
+        card.days.append(cells.day(static_cast<int>(i) + 1, read.days[i], figures.days[i]));
+    card.hidden = hiddenColumns(rules);
+    card.sum = figures.sum;
+    card.wholePeriod = isWholePeriod(rules, span, context.clock.today());
+    if (card.wholePeriod) readSavedMonth(connection, cells, staff, span.to, card);
+    return card;
+}
+
+} // namespace
+
+QString daysText(double days) {
+    return QString::number(days, 'f', 1);
+}
+
+std::optional<Card> makeCard(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff,
+                             Period span) {
+    return guarded(context, u"frmKurbo", u"ShowKurbo", std::optional<Card>(),
+                   [&] { return std::optional(cardOf(context, connection, rules, staff, span)); });
+}
+
+} // namespace kurbo
