@@ -30,9 +30,10 @@ using Minutes = std::int32_t;
 // The same day `months` later; a day past the end of its month becomes the month's last (01/31 + 1 = 02/28).
 [[nodiscard]] Day addMonths(Day day, int months);
 
-// "yyyymmdd", "yyyy/mm/dd", "yyyy/mm/dd hh:nn:ss" and the stored form "yyyy-mm-dd hh:nn:ss".
+// "yyyymmdd", "yyyy/mm/dd", "hh:nn", "yyyy/mm/dd hh:nn:ss" and the stored form "yyyy-mm-dd hh:nn:ss".
 [[nodiscard]] QString dateId(Day day);
 [[nodiscard]] QString slashDate(Day day);
+[[nodiscard]] QString hourMinute(Moment moment);
 [[nodiscard]] QString slashMoment(Moment moment);
 [[nodiscard]] std::string isoText(Moment moment);
 // "yyyy年mm月dd日(aaa)  h:mm:ss", aaa being the weekday's one letter.

@@ -1,7 +1,6 @@
 #include "card/card_cells.h"
 
 #include "store/readers.h"
-#include "store/record_set.h"
 
 #include <array>
 
@@ -40,10 +39,6 @@ QString leaveWord(QChar code) {
 QString shortDate(Day day) {
     static const QString names = QStringLiteral("日月火水木金土");
     return slashDate(day).mid(2) + u'(' + names[std::chrono::weekday{day}.c_encoding()] + u')';
-}
-
-QString hourMinute(Moment moment) {
-    return slashMoment(moment).mid(11, 5);
 }
 
 QString leaveText(Moment leave, Day day) {
@@ -91,10 +86,13 @@ class CellWriter final {
         return row;
     }
 
-    // Nothing for a field that is Null.
-    [[nodiscard]] QString savedHours(const Value& minutes) const {
-        if (minutes.isNull()) return {};
-        return FormatHours(static_cast<Minutes>(minutes.integer()), rules_.plngCountUnit, false);
+    // A saved figure in the form of its column: minutes, days or a count. Nothing for Null.
+    [[nodiscard]] QString saved(CardColumn column, const Rows& month, int field) const {
+        if (month.isNull(field)) return {};
+        const bool days = column == CardColumn::Leave || (column >= CardColumn::Paid && column <= CardColumn::Compens);
+        if (days) return daysText(month.real(field));
+        if (column == CardColumn::Plan || column >= CardColumn::AbsentDay) return month.text(field);
+        return FormatHours(static_cast<Minutes>(month.integer(field)), rules_.plngCountUnit, false);
     }
 
   private:
@@ -144,36 +142,21 @@ bool isWholePeriod(const clsWorkTime& rules, Period span, Day today) {
            span.to <= today;
 }
 
-// What counts for the month, once it has been saved.
+// What counts for the month, once it has been saved. The fields stand in the order of the columns 3 to 20.
 void readSavedMonth(Connection& connection, const CellWriter& cells, const QString& staff, Day end, Card& card) {
-    static constexpr std::array timeFields{u"F_LegalOver",    u"F_Over",      u"F_Late",
-                                           u"F_Early",        u"F_Holiday",   u"F_HolidayLate",
-                                           u"F_LegalHoliday", u"F_LegalLate", u"F_Absent"};
-    static constexpr std::array leaveFields{u"F_Paid", u"F_Special", u"F_Compens"};
-    static constexpr std::array countFields{u"F_AbsentDay", u"F_LateEnter", u"F_EarlyLeave"};
+    constexpr int approvals = 18;
     const QString id = dateId(end);
-    const RecordSet month(connection,
-                          QStringLiteral("SELECT * FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year = ?) "
-                                         "AND (F_Month = ?);"),
-                          {staff, id.left(4), id.mid(4, 2)});
-    if (month.isEmpty()) return;
-    const auto days = [&month](const char16_t* field) {
-        const Value value = month.value(QString::fromUtf16(field));
-        return value.isNull() ? QString() : daysText(value.real());
-    };
-    QStringList& row = card.summary[2];
-    row[3] = month.value(QStringLiteral("F_WorkDay")).text();
-    row[4] = cells.savedHours(month.value(QStringLiteral("F_Work")));
-    row[5] = days(u"F_PaidTotal");
-    for (std::size_t i = 0; i < timeFields.size(); ++i)
-        row[6 + static_cast<int>(i)] = cells.savedHours(month.value(QString::fromUtf16(timeFields[i])));
-    for (std::size_t i = 0; i < 3; ++i) {
-        row[15 + static_cast<int>(i)] = days(leaveFields[i]);
-        row[18 + static_cast<int>(i)] = month.value(QString::fromUtf16(countFields[i])).text();
-    }
+    Rows month = connection.rows(
+        QStringLiteral("SELECT F_WorkDay, F_Work, F_PaidTotal, F_LegalOver, F_Over, F_Late, F_Early, F_Holiday, "
+                       "F_HolidayLate, F_LegalHoliday, F_LegalLate, F_Absent, F_Paid, F_Special, F_Compens, "
+                       "F_AbsentDay, F_LateEnter, F_EarlyLeave, F_PersonalApproval, F_SuperiorApproval "
+                       "FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year = ?) AND (F_Month = ?);"),
+        {staff, id.left(4), id.mid(4, 2)});
+    if (!month.next()) return;
+    for (int i = 0; i < approvals; ++i) card.summary[2][3 + i] = cells.saved(static_cast<CardColumn>(3 + i), month, i);
     card.saved = true;
-    card.personalApproval = month.value(QStringLiteral("F_PersonalApproval")).yes();
-    card.superiorApproval = month.value(QStringLiteral("F_SuperiorApproval")).yes();
+    card.personalApproval = month.yes(approvals);
+    card.superiorApproval = month.yes(approvals + 1);
 }
 
 // Columns 6 to 20 by their switches; the last three are for the program.

@@ -14,7 +14,9 @@ QString decimalHours(std::int64_t minutes) {
 }
 
 QString sexagesimal(std::int64_t hours, std::int64_t minutes) {
-    return QString::number(hours) + u':' + QString::number(minutes).rightJustified(2, u'0');
+    const QChar places[]{u':', QChar(static_cast<char16_t>(u'0' + minutes / 10)),
+                         QChar(static_cast<char16_t>(u'0' + minutes % 10))};
+    return QString::number(hours).append(places, 3);
 }
 
 std::optional<std::int64_t> wholeNumber(const QString& text) {

@@ -21,8 +21,8 @@ void checkIndex(int index) {
     if (index < 0) refuse(WorkTimeError::Bounds, text);
 }
 
-Minutes minutes(std::int64_t seconds) {
-    return static_cast<Minutes>(seconds / 60);
+Minutes minutes(std::int32_t seconds) {
+    return seconds / 60;
 }
 
 const BandProperty& known(const BandProperty* property) {
@@ -115,12 +115,12 @@ Moment clsWorkTime::rounded(Moment time, int direction) const {
 void clsWorkTime::pdtmEnter(std::optional<Moment> enter) {
     if (!enter) refuseTime(u"出社時刻");
     rawEnter_ = *enter;
-    const Moment working = rounded(*enter, plngRoundEnter);
-    const Moment leave = enterDay_ + std::chrono::seconds(leave_);
-    enterDay_ = dayOf(working);
-    enter_ = (working - enterDay_).count();
-    leave_ = (leave - enterDay_).count();
-    lastDay_ = (dayOf(leave) - enterDay_).count();
+    const Moment rawDay = dayOf(rawEnter_);
+    rawEnterOfDay_ = static_cast<Seconds>((rawEnter_ - rawDay).count());
+    const Moment working = rounded(rawEnter_, plngRoundEnter);
+    enterDay_ = plngRoundMethod == 0 ? Moment{dayOf(working)} : rawDay;
+    enter_ = static_cast<Seconds>((working - enterDay_).count());
+    placeLeave();
 }
 
 void clsWorkTime::pdtmLeave(std::optional<Moment> leave) {
@@ -128,9 +128,14 @@ void clsWorkTime::pdtmLeave(std::optional<Moment> leave) {
     rawLeave_ = *leave;
     if (rawLeave_ < rawEnter_)
         refuse(WorkTimeError::Order, QStringLiteral("退社時刻が出社時刻より前に設定されています。"));
-    const Moment working = rounded(*leave, plngRoundLeave);
-    leave_ = (working - enterDay_).count();
-    lastDay_ = (dayOf(working) - enterDay_).count();
+    workingLeave_ = rounded(rawLeave_, plngRoundLeave);
+    placeLeave();
+}
+
+void clsWorkTime::placeLeave() {
+    leave_ = static_cast<Seconds>((workingLeave_ - enterDay_).count());
+    lastDay_ = leave_ < secondsOfDay ? 0 : leave_ / secondsOfDay * secondsOfDay;
+    rawLeaveOfDay_ = static_cast<Seconds>((rawLeave_ - rawEnter_).count()) + rawEnterOfDay_;
 }
 
 void clsWorkTime::plngNextDayType(int type) {
@@ -250,12 +255,12 @@ Minutes clsWorkTime::PmAbsentHour() const {
 // Both counters look at the raw times, on the date of the raw enter.
 int clsWorkTime::lateEnter(DayType day) const {
     const std::int32_t start = startBusiness(day);
-    return start >= 0 && rawEnter_ > dayOf(rawEnter_) + std::chrono::seconds(start) ? 1 : 0;
+    return start >= 0 && rawEnterOfDay_ > start ? 1 : 0;
 }
 
 int clsWorkTime::earlyLeave(DayType day) const {
     const std::int32_t end = endBusiness(day);
-    return end >= 0 && rawLeave_ < dayOf(rawEnter_) + std::chrono::seconds(end) ? 1 : 0;
+    return end >= 0 && rawLeaveOfDay_ < end ? 1 : 0;
 }
 
 int clsWorkTime::LateEnter() const {

@@ -116,12 +116,14 @@ class clsWorkTime final {
     [[nodiscard]] Minutes HolidayLateWork() const;
 
   private:
-    using Seconds = std::int64_t;
+    // A stay is shorter than 68 years.
+    using Seconds = std::int32_t;
     static constexpr std::size_t index(DayType day) { return static_cast<std::size_t>(day); }
     [[nodiscard]] Minutes standard(DayType day) const { return standard_[index(day)]; }
     void setStandard(DayType day, QStringView text, const char16_t* failure);
     void keepBusiness(DayType day, BandKind kind, std::int32_t end);
     [[nodiscard]] Moment rounded(Moment time, int direction) const;
+    void placeLeave();
 
     [[nodiscard]] Seconds overlap(Seconds dayStart, const BandList& list) const;
     [[nodiscard]] Seconds walked(const BandList& list) const;
@@ -140,11 +142,15 @@ class clsWorkTime final {
     int nextDayType_ = 0;
     Moment rawEnter_{};
     Moment rawLeave_{};
-    // The stay in seconds since the midnight before the working enter; the last midnight at or before the leave.
+    Moment workingLeave_{};
+    // The stay in seconds since the midnight before the working enter; the last midnight at or before the leave. The
+    // raw enter in seconds since its own midnight, and the raw leave since that.
     Moment enterDay_{};
     Seconds enter_ = 0;
     Seconds leave_ = 0;
     Seconds lastDay_ = 0;
+    Seconds rawEnterOfDay_ = 0;
+    Seconds rawLeaveOfDay_ = 0;
 };
 
 // A time moved to a multiple of `unit` minutes, measured from the top of its hour: direction 0 down, 1 up, any other

@@ -205,6 +205,10 @@ Rows Connection::rowsWithId(const QString& statement, const Values& values) {
     return bound(prepare(Form::WithId, statement), values);
 }
 
+QString Connection::tableOf(const QString& statement) {
+    return prepare(Form::Plain, statement).table;
+}
+
 std::optional<Value> Connection::firstValue(const QString& statement, const Values& values) {
     Rows found = rows(statement, values);
     return found.next() ? std::optional(found.value(0)) : std::nullopt;

@@ -41,6 +41,8 @@ class Connection final {
     [[nodiscard]] Rows rowsFromLast(const QString& statement, const Values& values = {});
     // With the row's own number before the first column, for writing back.
     [[nodiscard]] Rows rowsWithId(const QString& statement, const Values& values = {});
+    // The one table of a plain SELECT; empty for any other statement.
+    [[nodiscard]] QString tableOf(const QString& statement);
     // First column of the first row, or of the last; nothing when there is no row.
     [[nodiscard]] std::optional<Value> firstValue(const QString& statement, const Values& values = {});
     [[nodiscard]] std::optional<Value> lastValue(const QString& statement, const Values& values = {});

@@ -1,7 +1,6 @@
 #include "store/record_set.h"
 
 #include "store/criterion.h"
-#include "store/dialect.h"
 #include "store/engine_fault.h"
 #include "store/schema.h"
 
@@ -10,7 +9,7 @@
 namespace kurbo {
 
 RecordSet::RecordSet(Connection& connection, const QString& statement, const Values& values)
-    : connection_(connection), table_(translated(statement).table) {
+    : connection_(connection), table_(connection.tableOf(statement)) {
     Rows rows = table_.isEmpty() ? connection.rows(statement, values) : connection.rowsWithId(statement, values);
     read(rows, !table_.isEmpty());
     showAll();
