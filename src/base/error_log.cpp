@@ -12,9 +12,13 @@ QString quoted(const QString& text) {
     return u'"' + text + u'"';
 }
 
+QString oneLine(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ');
+}
+
 QString lineOf(const ErrorRecord& record) {
     return quoted(slashDate(record.date)) + u',' + quoted(record.module) + u',' + quoted(record.procedure) + u',' +
-           quoted(record.source) + u',' + QString::number(record.number) + u',' + quoted(record.description) +
+           quoted(record.source) + u',' + QString::number(record.number) + u',' + quoted(oneLine(record.description)) +
            QStringLiteral("\r\n");
 }
 

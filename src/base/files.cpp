@@ -5,9 +5,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kurbo {
@@ -61,7 +63,7 @@ QByteArray readFile(const QString& path) {
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes) {
-    const QString fresh = path + QStringLiteral(".new");
+    const QString fresh = freshNameBeside(path);
     const QByteArray name = QFile::encodeName(fresh);
     try {
         const Descriptor file{::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)};
@@ -79,6 +81,32 @@ void renameOver(const QString& from, const QString& to) {
     if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         throw fileFault(errno, to);
     syncFolderOf(to);
+}
+
+QString realPath(const QString& path) {
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return real.isEmpty() ? path : real;
+}
+
+QString freshNameBeside(const QString& path) {
+    return path + u'.' + QString::number(QRandomGenerator::system()->generate64(), 36) + QStringLiteral(".new");
+}
+
+bool shareLike(const QString& from, const QString& to) {
+    struct stat model {};
+    struct stat own {};
+    const QByteArray name = QFile::encodeName(to);
+    if (::stat(QFile::encodeName(from).constData(), &model) != 0 || ::stat(name.constData(), &own) != 0) return false;
+    if (own.st_gid != model.st_gid && ::chown(name.constData(), static_cast<uid_t>(-1), model.st_gid) != 0)
+        return false;
+    return ::chmod(name.constData(), model.st_mode & 0777U) == 0;
+}
+
+bool isSameFile(const QString& left, const QString& right) {
+    struct stat a {};
+    struct stat b {};
+    return ::stat(QFile::encodeName(left).constData(), &a) == 0 &&
+           ::stat(QFile::encodeName(right).constData(), &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
 void makeWritable(const QString& path) {

@@ -22,6 +22,18 @@ void replaceFile(const QString& path, const QByteArray& bytes);
 // Puts `from` in the place of `to` and makes the change last through a power cut. Throws a Fault.
 void renameOver(const QString& from, const QString& to);
 
+// The file behind a symbolic link; the path itself where nothing is there.
+[[nodiscard]] QString realPath(const QString& path);
+
+// A name beside `path` that no other client uses.
+[[nodiscard]] QString freshNameBeside(const QString& path);
+
+// Gives `to` the group and the permissions of `from`; false when it can't, and `to` would shut others out.
+[[nodiscard]] bool shareLike(const QString& from, const QString& to);
+
+// Whether both paths are one file.
+[[nodiscard]] bool isSameFile(const QString& left, const QString& right);
+
 // Takes away a read-only mark; does nothing when it can't.
 void makeWritable(const QString& path);
 

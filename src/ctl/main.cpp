@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <exception>
 
 namespace kurbo {
@@ -80,5 +81,8 @@ Exit runNamed(const QStringList& arguments) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kurbo"));
-    return static_cast<int>(kurbo::runNamed(QCoreApplication::arguments()));
+    const kurbo::Exit exit = kurbo::runNamed(QCoreApplication::arguments());
+    // Output that could not be written is a fault, whatever came before.
+    const bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+    return static_cast<int>(written ? exit : kurbo::Exit::Fault);
 }

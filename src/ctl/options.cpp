@@ -23,6 +23,11 @@ void Options::read(const QStringList& arguments, qsizetype places) {
     const qsizetype given = parser_.positionalArguments().size();
     if (given < places) throw WrongUse{QStringLiteral("an argument is missing")};
     if (given > places) throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
+    (void)clock();
+    static const QStringList formats{QString(), QStringLiteral("table"), QStringLiteral("tsv"), QStringLiteral("csv"),
+                                     QStringLiteral("json")};
+    if (!formats.contains(value(QStringLiteral("format"))))
+        throw WrongUse{QStringLiteral("--format takes table, tsv, csv or json")};
 }
 
 QString Options::needed(const QString& name) const {

@@ -40,14 +40,23 @@ QString nameOf(Connection& connection, const QString& staff) {
     return name && !name->isNull() ? name->text() : staff;
 }
 
+// Who is not in the login list can't log in.
+void refuseHidden(Connection& connection, const QString& staff) {
+    const bool hidden = connection.hasRow(QStringLiteral("SELECT F_StaffCode FROM C03_Staff WHERE (F_StaffCode = ?) "
+                                                         "AND (F_Display = False) AND (F_StaffCode <> 'ADMIN');"),
+                                          {staff});
+    if (hidden) throw Complaint(QStringLiteral("不正な入力です。リストから選択して下さい。"));
+}
+
 Exit logInAndPunch(const Console& console, const Options& options, Punch kind) {
-    const QString staff = options.needed(QStringLiteral("staff"));
+    const QString staff = options.value(QStringLiteral("staff"));
     Client client(console.context());
     client.DbPath = options.place(0);
     client.openHome();
+    refuseHidden(client.HomeConnection, staff);
     Login login(client);
     const Credentials credentials{
-        {}, staff, nameOf(client.HomeConnection, staff), options.needed(QStringLiteral("password"))};
+        {}, staff, nameOf(client.HomeConnection, staff), options.value(QStringLiteral("password"))};
     if (login.attempt(credentials) != LoginResult::Open) return console.refused();
     if (!client.session.access.CanPunch)
         throw Complaint(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
@@ -65,6 +74,7 @@ Exit runPunch(const QStringList& arguments) {
     options.add(QStringLiteral("continued"), QStringLiteral("yes or no: the open day goes on"));
     options.read(arguments, 2);
     const Punch kind = punchNamed(options.place(1));
+    for (const char16_t* name : {u"staff", u"password"}) (void)options.needed(QString::fromUtf16(name));
     const Console console(options, continuedAnswer(options));
     try {
         return logInAndPunch(console, options, kind);

@@ -7,6 +7,7 @@
 #include "store/dialect_lexer.h"
 
 #include <QFile>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -16,7 +17,12 @@ namespace {
 QString standardInput() {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) return {};
-    return QString::fromUtf8(input.readAll());
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder.decode(input.readAll());
+    if (decoder.hasError())
+        throw Complaint(
+            lines(QStringLiteral("標準入力の文字コードが不正です。"), QStringLiteral("UTF-8で入力して下さい。")));
+    return text;
 }
 
 void runStatement(Connection& connection, const QString& statement, Format format) {

@@ -9,8 +9,10 @@
 namespace kurbo {
 namespace {
 
-// The failure of GenerateKurboID, which has been reported by it.
-struct NoId {};
+// No id was to be had. It is reported when the transaction has ended: no other client waits behind a box.
+struct NoId {
+    Fault fault;
+};
 
 struct NewCard {
     QString dateId;
@@ -19,9 +21,16 @@ struct NewCard {
     Value leave;
 };
 
-void addCard(const Context& context, Connection& connection, const NewCard& card) {
-    const std::int64_t id = GenerateKurboID(context, connection);
-    if (id < 0) throw NoId();
+std::int64_t newId(Connection& connection) {
+    try {
+        return nextKurboId(connection);
+    } catch (const Fault& fault) {
+        throw NoId{fault};
+    }
+}
+
+void addCard(Connection& connection, const NewCard& card) {
+    const std::int64_t id = newId(connection);
     connection.execute(QStringLiteral("INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Enter, F_Leave) "
                                       "VALUES (?, ?, ?, ?, ?)"),
                        {id, card.dateId, card.staff, card.enter, card.leave});
@@ -61,7 +70,8 @@ bool written(const Context& context, Connection& connection, QStringView procedu
                 }
             }
         });
-    } catch (const NoId&) {
+    } catch (const NoId& none) {
+        report(context, u"basKurbo", u"GenerateKurboID", none.fault);
         return false;
     }
 }
@@ -72,7 +82,7 @@ bool RecordEnter(const Context& context, Connection& connection, const QString& 
                  bool noEnterTime) {
     return written(context, connection, u"RecordEnter", [&] {
         if (newRow)
-            addCard(context, connection, {dateId(dayOf(when)), staff, noEnterTime ? Value() : Value(when), Value()});
+            addCard(connection, {dateId(dayOf(when)), staff, noEnterTime ? Value() : Value(when), Value()});
         else
             setTime(connection, staff, dateId(context.clock.today()), CardTime::Enter, when);
     });
@@ -82,7 +92,7 @@ bool RecordLeave(const Context& context, Connection& connection, const QString& 
                  const QString& day) {
     return written(context, connection, u"RecordLeave", [&] {
         if (day.isEmpty())
-            addCard(context, connection, {dateId(dayOf(when)), staff, Value(), when});
+            addCard(connection, {dateId(dayOf(when)), staff, Value(), when});
         else
             setTime(connection, staff, day, CardTime::Leave, when);
     });

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 #include <array>
@@ -51,10 +52,14 @@ std::array<Answer, 2> answersOf(Buttons buttons) {
 
 // The toolkit breaks lines that are longer than it likes, in Japanese in the middle of a word.
 void keepLinesWhole(const QMessageBox& box) {
-    constexpr int widest = 900;
+    // A box is at most 480 pixels narrower than a wide screen; the icon and the margins take their part of it.
+    constexpr int beside = 160;
+    const int screen = QGuiApplication::primaryScreen()->availableSize().width();
+    const int widest = std::min(900, (screen <= 1024 ? screen : screen - 480) - beside);
     auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     if (!label) return;
     const QSize text = label->fontMetrics().size(0, box.text());
+    label->setWordWrap(true);
     label->setMinimumWidth(std::min(text.width() + label->fontMetrics().averageCharWidth(), widest));
 }
 

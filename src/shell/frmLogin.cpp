@@ -78,7 +78,9 @@ void frmLogin::greet() {
 }
 
 bool frmLogin::ReConnect() {
-    if (loadFailed_ || ending_) return false;
+    // The wait box lets the window work while a busy file is waited for.
+    if (loadFailed_ || ending_ || connecting_) return false;
+    const QScopedValueRollback connecting(connecting_, true);
     const Hourglass hourglass;
     const bool ready = guarded(client_.context, u"frmLogin", u"ReConnect", false, [this] {
         if (!client_.CurrentConnection->isOpen()) {

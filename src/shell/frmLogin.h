@@ -98,6 +98,7 @@ class frmLogin final : public QMainWindow {
     bool loadFailed_ = false;
     bool listsOpen_ = false;
     bool ending_ = false;
+    bool connecting_ = false;
     // The program moves the focus, not the person.
     bool quietFocus_ = false;
     // The window lost the person's attention to a message box only.

@@ -43,7 +43,11 @@ bool WriteParm(const Context& context, const QString& path, const QString& dbPat
     return guarded(context, u"basKurbo", u"WriteParm", false, [&] {
         QString missing;
         const auto bytes = toCodePage(u'"' + dbPath + QStringLiteral("\"\r\n"), &missing);
-        if (!bytes)
+        if (dbPath.contains(u'"')) missing = QStringLiteral("\"");
+        // A character that the code page holds under a twin would name another file.
+        for (const QChar c : dbPath)
+            if (missing.isEmpty() && bytes && !c.isSurrogate() && fromCodePage(*toCodePage(c)) != c) missing = c;
+        if (!bytes || !missing.isEmpty())
             throw Complaint(lines(QStringLiteral("パスに使用できない文字「%1」が含まれています。").arg(missing),
                                   QStringLiteral("別の名前のフォルダまたはファイルを指定して下さい。")));
         replaceFile(path, *bytes);

@@ -10,7 +10,9 @@
 
 #include <QFile>
 #include <QRandomGenerator>
+#include <QScopedValueRollback>
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
 #include <thread>
@@ -76,6 +78,9 @@ void Connection::openAlone(const QString& path, const QString& password) {
 }
 
 void Connection::openFile(const QString& path, const QString& password, bool alone) {
+    // The notice of a wait may lead back here.
+    if (openingNow_) throw storeFault(StoreError::Busy);
+    const QScopedValueRollback now(openingNow_, true);
     close();
     checkFile(path);
     path_ = path;
@@ -128,6 +133,7 @@ void Connection::close() {
     }
     sqlite3_close_v2(std::exchange(database_, nullptr));
     lock_.leave();
+    ++opening_;
     lost_ = false;
     outOfTurn_ = false;
     turns_ = 0;
@@ -140,7 +146,8 @@ bool Connection::readOnly() const {
 
 void Connection::fail(int result) {
     const Fault fault = engineFault(database_, result, path_);
-    lost_ = lost_ || (result & 0xff) == SQLITE_IOERR || (result & 0xff) == SQLITE_CANTOPEN;
+    lost_ = lost_ || (result & 0xff) == SQLITE_IOERR || (result & 0xff) == SQLITE_CANTOPEN ||
+            result == SQLITE_READONLY_DBMOVED;
     throw fault;
 }
 
@@ -168,9 +175,22 @@ int Connection::onBusy(void* self, int count) {
     return 1;
 }
 
+// A script of statements that differ in their values alone must not fill the memory.
+void Connection::forgetIdle(std::unordered_map<QString, Shelf>& shelves) {
+    std::erase_if(shelves, [](const auto& entry) {
+        const Shelf& shelf = entry.second;
+        if (std::ranges::any_of(shelf, [](const auto& prepared) { return prepared->busy; })) return false;
+        for (const auto& prepared : shelf) sqlite3_finalize(prepared->statement);
+        return true;
+    });
+}
+
 Prepared& Connection::prepare(Form form, const QString& statement) {
+    constexpr std::size_t mostKept = 300;
     if (!database_) throw storeFault(StoreError::NoFile, path_);
-    Shelf& shelf = shelves_[static_cast<std::size_t>(form)][statement];
+    auto& shelves = shelves_[static_cast<std::size_t>(form)];
+    if (shelves.size() >= mostKept) forgetIdle(shelves);
+    Shelf& shelf = shelves[statement];
     for (const auto& prepared : shelf)
         if (!prepared->busy) return *prepared;
     const Translation translation = form == Form::FromLast ? translatedFromLast(statement)
@@ -245,18 +265,21 @@ void Connection::beginTurn() {
 }
 
 void Connection::endTurn() {
-    if (turns_ > 0 && --turns_ == 0) lock_.endTurn();
+    if (turns_ == 0 || --turns_ > 0) return;
+    outOfTurn_ = false;
+    lock_.endTurn();
 }
 
-Turn::Turn(Connection& connection) : connection_(connection) {
+Turn::Turn(Connection& connection) : connection_(connection), opening_(connection.opening_) {
     connection_.beginTurn();
 }
 
 Turn::~Turn() {
-    connection_.endTurn();
+    if (opening_ == connection_.opening_) connection_.endTurn();
 }
 
-Transaction::Transaction(Connection& connection) : connection_(connection), turn_(connection) {
+Transaction::Transaction(Connection& connection)
+    : connection_(connection), turn_(connection), opening_(connection.opening_) {
     if (connection_.transactions_ == 0) {
         if (connection_.readOnly()) throw storeFault(StoreError::ReadOnly, connection_.path());
         connection_.engine("BEGIN IMMEDIATE");
@@ -265,26 +288,29 @@ Transaction::Transaction(Connection& connection) : connection_(connection), turn
 }
 
 Transaction::~Transaction() {
-    if (!open_) return;
+    if (!open_ || opening_ != connection_.opening_) return;
     --connection_.transactions_;
     // The engine may have rolled back by itself; a failure here has been reported by its cause.
-    if (connection_.transactions_ == 0 && connection_.database_)
-        sqlite3_exec(connection_.database_, "ROLLBACK", nullptr, nullptr, nullptr);
+    if (connection_.transactions_ == 0) sqlite3_exec(connection_.database_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 void Transaction::commit() {
+    if (opening_ != connection_.opening_) throw storeFault(StoreError::Moved, connection_.path());
     if (connection_.transactions_ == 1) connection_.engine("COMMIT");
     --connection_.transactions_;
     open_ = false;
 }
 
 Reading::Reading(Connection& connection)
-    : connection_(connection), own_(!connection.database_ || sqlite3_get_autocommit(connection.database_) != 0) {
+    : connection_(connection),
+      opening_(connection.opening_),
+      own_(!connection.database_ || sqlite3_get_autocommit(connection.database_) != 0) {
     if (own_) connection_.engine("BEGIN");
 }
 
 Reading::~Reading() {
-    if (own_ && connection_.database_) sqlite3_exec(connection_.database_, "COMMIT", nullptr, nullptr, nullptr);
+    if (own_ && opening_ == connection_.opening_)
+        sqlite3_exec(connection_.database_, "COMMIT", nullptr, nullptr, nullptr);
 }
 
 } // namespace kurbo

@@ -62,6 +62,8 @@ class Connection final {
     // Runs an engine statement that the dialect doesn't know (PRAGMA, VACUUM).
     void engine(const QByteArray& sql);
     [[nodiscard]] sqlite3* handle() const { return database_; }
+    // Rises with every closing: what belongs to an earlier opening leaves the engine alone.
+    [[nodiscard]] std::uint64_t opening() const { return opening_; }
     // Throws the fault behind an engine's result code.
     [[noreturn]] void fail(int result);
 
@@ -81,13 +83,16 @@ class Connection final {
     void beginTurn();
     void endTurn();
     Prepared& prepare(Form form, const QString& statement);
+    static void forgetIdle(std::unordered_map<QString, Shelf>& shelves);
     Rows bound(Prepared& prepared, const Values& values);
     static int onBusy(void* self, int count);
 
     sqlite3* database_ = nullptr;
     QString path_;
     LockFile lock_;
+    std::uint64_t opening_ = 0;
     bool alone_ = false;
+    bool openingNow_ = false;
     bool lost_ = false;
     int turns_ = 0;
     bool outOfTurn_ = false;
@@ -111,6 +116,7 @@ class Turn final {
 
   private:
     Connection& connection_;
+    std::uint64_t opening_;
 };
 
 // All or nothing: without commit() everything since the beginning is undone. Inside another transaction it is part of
@@ -126,6 +132,7 @@ class Transaction final {
   private:
     Connection& connection_;
     Turn turn_;
+    std::uint64_t opening_;
     bool open_ = true;
 };
 
@@ -139,6 +146,7 @@ class Reading final {
 
   private:
     Connection& connection_;
+    std::uint64_t opening_;
     bool own_;
 };
 

@@ -103,12 +103,13 @@ void createDatabase(const QString& path) {
 }
 
 void copyDatabase(const QString& path, const QString& target) {
-    const QString fresh = target + QStringLiteral(".new");
-    QFile::remove(fresh);
+    if (isSameFile(path, target)) return;
+    const QString fresh = freshNameBeside(target);
     try {
         Connection source;
         source.open(path, databasePassword());
         backUp(source.handle(), fresh);
+        (void)shareLike(path, fresh);
         renameOver(fresh, target);
     } catch (...) {
         QFile::remove(fresh);

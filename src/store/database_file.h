@@ -18,8 +18,8 @@ namespace kurbo {
 // Throws a Fault, also for a file that is there already, and then leaves nothing behind.
 void createDatabase(const QString& path);
 
-// A whole copy of a database over `target`, taken by the engine, put in place in one step. Throws a Fault and leaves
-// the old file.
+// A whole copy of a database over `target`, taken by the engine, put in place in one step; nothing where both are one
+// file. Throws a Fault and leaves the old file.
 void copyDatabase(const QString& path, const QString& target);
 
 // Empty when the file is whole; otherwise what is wrong with it, a line each. Throws a Fault when it can't be read.

@@ -21,17 +21,29 @@ constexpr std::array clauseWords{u"SELECT",  u"DISTINCT", u"FROM", u"WHERE",  u"
 struct Function {
     std::u16string_view dialect;
     std::u16string_view engine;
+    bool givesText = true;
 };
 
 // The engine knows some of these names with another meaning, so each goes to a function of ours.
-constexpr std::array functions{Function{u"Left", u"kurbo_left"},   Function{u"Mid", u"kurbo_mid"},
-                               Function{u"Right", u"kurbo_right"}, Function{u"Format", u"kurbo_format"},
-                               Function{u"CLng", u"kurbo_clng"},   Function{u"CDate", u"kurbo_cdate"}};
+constexpr std::array functions{Function{u"Left", u"kurbo_left"},        Function{u"Mid", u"kurbo_mid"},
+                               Function{u"Right", u"kurbo_right"},      Function{u"Format", u"kurbo_format"},
+                               Function{u"CLng", u"kurbo_clng", false}, Function{u"CDate", u"kurbo_cdate", false},
+                               Function{u"Len", u"length", false}};
 
 bool isComparison(const Token& token) {
     static const QStringList comparisons{QStringLiteral("="), QStringLiteral("<>"), QStringLiteral("<"),
                                          QStringLiteral(">"), QStringLiteral("<="), QStringLiteral(">=")};
     return token.kind == TokenKind::Operator && comparisons.contains(token.text);
+}
+
+const Function* functionOf(const Token& token) {
+    const auto found =
+        std::ranges::find_if(functions, [&token](const Function& function) { return token.is(function.dialect); });
+    return found == functions.end() ? nullptr : &*found;
+}
+
+QString engineName(const Function& function) {
+    return QString::fromUtf16(function.engine.data(), static_cast<qsizetype>(function.engine.size()));
 }
 
 class Translator final {
@@ -85,7 +97,7 @@ class Translator final {
         } else {
             operands_.append(operand_);
             for (QString& operand : operands_) operand = QStringLiteral("ifnull(") + operand + QStringLiteral(",'')");
-            sql += QStringLiteral(" (") + operands_.join(QStringLiteral("||")) + u')';
+            sql += QStringLiteral(" (") + operands_.join(QStringLiteral("||")) + QStringLiteral(" COLLATE NOCASE)");
         }
         operands_.clear();
         operand_.clear();
@@ -94,7 +106,7 @@ class Translator final {
     void boundary(QString& sql) {
         const Token token = here();
         ++at_;
-        if (token.is(u"DELETE") && more() && here().text == u"*") ++at_;
+        if (token.is(u"DELETE")) skipStar();
         if (token.is(u"SET")) assigning_ = true;
         if (token.is(u"WHERE")) assigning_ = false;
         if (isComparison(token) && !assigning_ && more() && here().is(u"True") &&
@@ -106,8 +118,21 @@ class Translator final {
         sql += u' ' + token.text;
     }
 
+    // "DELETE * FROM", and "DELETE T.* FROM".
+    void skipStar() {
+        if (more() && here().kind == TokenKind::Word && here().text.endsWith(u'.')) ++at_;
+        if (more() && here().text == u"*") ++at_;
+    }
+
     void item() {
         const Token token = here();
+        if (const Function* function = nextIsOpen() ? functionOf(token) : nullptr) {
+            at_ += 2;
+            operand_ += QStringLiteral(" (") + engineName(*function);
+            group();
+            operand_ += function->givesText ? QStringLiteral(" COLLATE NOCASE)") : QStringLiteral(")");
+            return;
+        }
         if (token.kind == TokenKind::Open) {
             ++at_;
             group();
@@ -123,20 +148,19 @@ class Translator final {
         const QString sql = inner.sequence();
         if (!inner.more()) throw syntaxFault(statement_);
         at_ = inner.at_ + 1;
-        operand_ += u'(' + sql + u')';
+        operand_ += u'(' + sql.trimmed() + u')';
     }
 
     [[nodiscard]] QString rendered(const Token& token) const {
         if (token.kind == TokenKind::Text || token.kind == TokenKind::Date)
             return u'\'' + QString(token.text).replace(u'\'', QStringLiteral("''")) + u'\'';
+        if (token.kind == TokenKind::Operator && token.text == u"/") return QStringLiteral("*1.0/");
         if (token.kind != TokenKind::Word) return token.text;
         if (token.is(u"True")) return QStringLiteral("-1");
         if (token.is(u"False")) return QStringLiteral("0");
-        if (nextIsOpen()) {
-            for (const auto& function : functions)
-                if (token.is(function.dialect))
-                    return QString::fromUtf16(function.engine.data(), static_cast<qsizetype>(function.engine.size()));
-        }
+        // The engine takes no table before a field that is set.
+        if (assigning_ && at_ + 1 < tokens_.size() && tokens_[at_ + 1].text == u"=")
+            return token.text.section(u'.', -1);
         return token.text;
     }
 
@@ -171,8 +195,10 @@ QString onlyTable(const QList<Token>& tokens) {
 }
 
 Translation translation(QStringView statement, const QList<Token>& tokens) {
-    if (tokens.isEmpty()) throw syntaxFault(statement);
-    const bool reads = tokens.first().is(u"SELECT");
+    const bool reads = !tokens.isEmpty() && tokens.first().is(u"SELECT");
+    const bool writes = !tokens.isEmpty() &&
+                        (tokens.first().is(u"INSERT") || tokens.first().is(u"UPDATE") || tokens.first().is(u"DELETE"));
+    if (!reads && !writes) throw syntaxFault(statement);
     return {Translator(statement, tokens).run().toUtf8(), reads, reads ? onlyTable(tokens) : QString()};
 }
 

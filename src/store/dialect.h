@@ -15,8 +15,9 @@ struct Translation {
 };
 
 // Turns the dialect into the engine's SQL: "DELETE * FROM", dates between number signs, "&" with Null as empty text,
-// True as any value but 0, and the functions CDate, CLng, Format, Left, Mid, Right. Values may stand in the text or in
-// places marked "?". Throws the fault of a syntax error.
+// "/" as the division of real numbers, True as any value but 0, and the functions CDate, CLng, Format, Left, Len, Mid,
+// Right. Values may stand in the text or in places marked "?". Throws the fault of a syntax error, also for any
+// statement but SELECT, INSERT, UPDATE and DELETE.
 [[nodiscard]] Translation translated(QStringView statement);
 
 // The same for reading an ordered SELECT from its last row to its first; `statement` must end in ORDER BY.

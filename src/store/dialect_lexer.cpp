@@ -94,7 +94,13 @@ class Lexer final {
         const qsizetype close = text_.indexOf(u']', at_);
         if (close < 0) throw syntaxFault(text_);
         const qsizetype from = std::exchange(at_, close + 1);
-        return {TokenKind::Word, text_.mid(from, at_ - from).toString()};
+        QString name = text_.mid(from, at_ - from).toString();
+        // [Table].[Field]
+        if (at_ + 1 < text_.size() && text_[at_] == u'.') {
+            ++at_;
+            name += u'.' + (text_[at_] == u'[' ? bracketed().text : run(inWord));
+        }
+        return {TokenKind::Word, name};
     }
 
     QString number() {

@@ -28,6 +28,7 @@ constexpr std::array storeTexts{
                                    u"マシンの電源とネットワーク接続を確認してから、もう一度実行して下さい。"},
     StoreText{StoreError::NoPath,
               u"データベースファイルのパスが見つかりません。データベースファイルの保存場所を確認して下さい。"},
+    StoreText{StoreError::Moved, u"データベースファイルが置き換えられたか、接続が切れました。もう一度実行して下さい。"},
     StoreText{StoreError::Damaged,
               u"データベースファイルが壊れています。管理者にバックアップからの復旧を依頼して下さい。"},
     StoreText{StoreError::NoAccess,
@@ -67,6 +68,7 @@ constexpr std::array engineCodes{
     EngineCode{SQLITE_BUSY, StoreError::Busy},
     EngineCode{SQLITE_LOCKED, StoreError::Busy},
     EngineCode{SQLITE_FULL, StoreError::DiskFull},
+    EngineCode{SQLITE_READONLY_DBMOVED, StoreError::Moved},
     EngineCode{SQLITE_READONLY, StoreError::ReadOnly},
     EngineCode{SQLITE_PERM, StoreError::NoAccess},
     EngineCode{SQLITE_AUTH, StoreError::NoAccess},
@@ -86,13 +88,14 @@ StoreError numberOf(sqlite3* database, int result) {
     if (result == SQLITE_ERROR && database) {
         const QString text = QString::fromUtf8(sqlite3_errmsg(database));
         if (text.startsWith(QStringLiteral("no such"))) return StoreError::NoTable;
-        if (text.contains(QStringLiteral("syntax error"))) return StoreError::Syntax;
+        if (text.contains(QStringLiteral("syntax error")) || text.startsWith(QStringLiteral("ambiguous")))
+            return StoreError::Syntax;
     }
     return StoreError::Other;
 }
 
 bool explainsItself(StoreError number) {
-    return number != StoreError::Other && number != StoreError::NoTable;
+    return number != StoreError::Other && number != StoreError::NoTable && number != StoreError::Syntax;
 }
 
 } // namespace
@@ -114,8 +117,9 @@ Fault storeFault(StoreError number, const QString& detail) {
             detail.isEmpty() ? text : lines(text, detail)};
 }
 
-Fault syntaxFault(QStringView /*statement*/) {
-    return storeFault(StoreError::Syntax);
+Fault syntaxFault(QStringView statement) {
+    constexpr qsizetype enough = 60;
+    return storeFault(StoreError::Syntax, statement.trimmed().left(enough).toString());
 }
 
 Fault engineFault(sqlite3* database, int result, const QString& path) {

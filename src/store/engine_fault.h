@@ -14,6 +14,7 @@ enum class StoreError : std::int64_t {
     ReadOnly = 3027,
     NoDrive = 3043,
     NoPath = 3044,
+    Moved = 3045,
     Damaged = 3049,
     NoAccess = 3051,
     Syntax = 3075,

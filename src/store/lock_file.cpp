@@ -1,5 +1,6 @@
 #include "store/lock_file.h"
 
+#include "base/files.h"
 #include "store/engine_fault.h"
 
 #include <QFile>
@@ -41,8 +42,9 @@ bool sameFile(int descriptor, const char* path) {
 // Whoever may write the database may write its lock file.
 void shareLike(int descriptor, const QString& databasePath) {
     struct stat database {};
-    if (::stat(QFile::encodeName(databasePath).constData(), &database) == 0)
-        ::fchmod(descriptor, database.st_mode & 0666U);
+    if (::stat(QFile::encodeName(databasePath).constData(), &database) != 0) return;
+    (void)!::fchown(descriptor, static_cast<uid_t>(-1), database.st_gid);
+    ::fchmod(descriptor, database.st_mode & 0666U);
 }
 
 } // namespace
@@ -56,7 +58,7 @@ QString LockFile::copyNameFor(const QString& databasePath) {
 }
 
 bool LockFile::join(const QString& databasePath, Patience until, const WaitNotice& notice) {
-    const QString path = nameFor(databasePath);
+    const QString path = nameFor(realPath(databasePath));
     const QByteArray name = QFile::encodeName(path);
     for (;;) {
         Descriptor file{::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)};
@@ -76,7 +78,9 @@ bool LockFile::join(const QString& databasePath, Patience until, const WaitNotic
 void LockFile::leave() {
     if (!joined()) return;
     endTurn();
-    if (tryLock(file_.get(), presenceByte, LockKind::Exclusive)) ::unlink(QFile::encodeName(path_).constData());
+    const QByteArray name = QFile::encodeName(path_);
+    if (tryLock(file_.get(), presenceByte, LockKind::Exclusive) && sameFile(file_.get(), name.constData()))
+        ::unlink(name.constData());
     file_.reset();
 }
 
@@ -109,19 +113,22 @@ void LockFile::endTurn() {
 }
 
 bool LockFile::claim(const QString& databasePath) {
-    const QString path = nameFor(databasePath);
+    const QString path = nameFor(realPath(databasePath));
     Descriptor file{::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666)};
     if (file.get() < 0 && errno == EEXIST) return false;
     if (file.get() < 0) throw fileFault(errno, path);
     shareLike(file.get(), databasePath);
-    if (!tryLock(file.get(), presenceByte, LockKind::Exclusive)) return false;
+    // In between another client may have come, and may have gone and removed the file.
+    if (!tryLock(file.get(), presenceByte, LockKind::Exclusive) ||
+        !sameFile(file.get(), QFile::encodeName(path).constData()))
+        return false;
     path_ = path;
     file_ = std::move(file);
     return true;
 }
 
 void LockFile::removeStale(const QString& databasePath) {
-    const QByteArray name = QFile::encodeName(nameFor(databasePath));
+    const QByteArray name = QFile::encodeName(nameFor(realPath(databasePath)));
     const Descriptor file{::open(name.constData(), O_RDWR | O_CLOEXEC)};
     if (file.get() >= 0 && tryLock(file.get(), presenceByte, LockKind::Exclusive) &&
         sameFile(file.get(), name.constData()))

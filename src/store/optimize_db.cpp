@@ -12,6 +12,7 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kurbo {
@@ -61,21 +62,30 @@ void compact(const QString& path, const QString& copy, const QString& password) 
     lockEngine(source);
     source.engine("VACUUM INTO '" + QFile::encodeName(copy).replace('\'', "''") + '\'');
     check(copy, password);
-    QFile::setPermissions(copy, QFile::permissions(path));
+    // A copy that others may not open would shut them out: then the file stays as it is.
+    if (!shareLike(path, copy)) throw storeFault(StoreError::Opened);
     sync(copy);
     renameOver(copy, path);
 }
 
-QString optimized(const QString& path, const QString& password) {
-    if (!path.contains(QStringLiteral(".mdb"), Qt::CaseInsensitive))
+// Throws when the file is not there, or has a second name that would keep the old contents.
+void checkPlace(const QString& path) {
+    struct stat file {};
+    if (::stat(QFile::encodeName(path).constData(), &file) != 0) throw missingFault(errno, path);
+    if (file.st_nlink > 1) throw storeFault(StoreError::Opened);
+}
+
+QString optimized(const QString& given, const QString& password) {
+    if (!given.contains(QStringLiteral(".mdb"), Qt::CaseInsensitive))
         throw Fault(static_cast<std::int64_t>(StoreError::NotMdb), QStringLiteral("Kurbo.Store"),
                     QStringLiteral("mdbファイル以外のファイルは最適化できません。"));
+    const QString path = realPath(given);
     if (QFileInfo::exists(LockFile::nameFor(path))) return QStringLiteral("ExistLdb");
-    const QString copy = LockFile::copyNameFor(path);
-    QFile::remove(copy);
-    if (!QFileInfo::exists(path)) throw missingFault(ENOENT, path);
+    checkPlace(path);
     LockFile lock;
     if (!lock.claim(path)) return QStringLiteral("ExistLdb");
+    const QString copy = LockFile::copyNameFor(path);
+    QFile::remove(copy);
     try {
         compact(path, copy, password);
     } catch (...) {

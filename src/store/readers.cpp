@@ -27,10 +27,12 @@ QString GetDbPath(const Context& context, Connection& connection, const QString&
 }
 
 std::int64_t GenerateKurboID(const Context& context, Connection& connection) {
-    return guarded(context, module, u"GenerateKurboID", std::int64_t{-1}, [&] {
-        const auto last = connection.lastValue(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo ORDER BY F_KurboID;"));
-        return last ? last->integer() + 1 : 1;
-    });
+    return guarded(context, module, u"GenerateKurboID", std::int64_t{-1}, [&] { return nextKurboId(connection); });
+}
+
+std::int64_t nextKurboId(Connection& connection) {
+    const auto last = connection.lastValue(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo ORDER BY F_KurboID;"));
+    return last ? last->integer() + 1 : 1;
 }
 
 QString WhichHoliday(const Context& context, Connection& connection, Day date) {

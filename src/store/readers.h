@@ -16,6 +16,8 @@ namespace kurbo {
 [[nodiscard]] QString GetDbPath(const Context& context, Connection& connection, const QString& section);
 // The largest F_KurboID plus 1, 1 on an empty table, or -1.
 [[nodiscard]] std::int64_t GenerateKurboID(const Context& context, Connection& connection);
+// The same without a report; throws.
+[[nodiscard]] std::int64_t nextKurboId(Connection& connection);
 // Name of the day, the empty text on an ordinary day, or "ERROR".
 [[nodiscard]] QString WhichHoliday(const Context& context, Connection& connection, Day date);
 // Calendar rows from `from` to `to`, both included, or -1.

@@ -1,6 +1,7 @@
 #include "store/rows.h"
 
 #include "store/connection.h"
+#include "store/engine_fault.h"
 
 #include <sqlite3.h>
 
@@ -9,16 +10,20 @@
 namespace kurbo {
 
 Rows::Rows(Rows&& other) noexcept
-    : connection_(other.connection_), prepared_(std::exchange(other.prepared_, nullptr)) {}
+    : connection_(other.connection_), prepared_(std::exchange(other.prepared_, nullptr)), opening_(other.opening_) {}
+
+Rows::Rows(Connection& connection, Prepared& prepared)
+    : connection_(&connection), prepared_(&prepared), opening_(connection.opening()) {}
 
 Rows::~Rows() {
-    if (!prepared_) return;
+    if (!prepared_ || opening_ != connection_->opening()) return;
     sqlite3_reset(prepared_->statement);
     sqlite3_clear_bindings(prepared_->statement);
     prepared_->busy = false;
 }
 
 bool Rows::next() {
+    if (opening_ != connection_->opening()) throw storeFault(StoreError::Moved, connection_->path());
     const int result = sqlite3_step(prepared_->statement);
     if (result == SQLITE_ROW) return true;
     if (result != SQLITE_DONE) connection_->fail(result);

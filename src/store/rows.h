@@ -52,10 +52,11 @@ class Rows final {
 
   private:
     friend class Connection;
-    Rows(Connection& connection, Prepared& prepared) : connection_(&connection), prepared_(&prepared) {}
+    Rows(Connection& connection, Prepared& prepared);
 
     Connection* connection_;
     Prepared* prepared_;
+    std::uint64_t opening_;
 };
 
 } // namespace kurbo

@@ -108,7 +108,7 @@ constexpr std::array indexes{
 
 QByteArray declared(const QByteArray& name, const QByteArray& type) {
     if (type == "text") return name + " TEXT COLLATE NOCASE";
-    if (type == "int") return name + " INTEGER";
+    if (type == "int") return name + " INTEGER CHECK (typeof(" + name + ") IN ('integer', 'null'))";
     if (type == "single") return name + " REAL";
     if (type == "yesno") return name + " YESNO NOT NULL DEFAULT 0";
     if (type == "currency") return name + " CURRENCY";
@@ -124,7 +124,10 @@ QByteArrayList columnsOf(const Table& table) {
         const QByteArrayList words = column.split(' ');
         if (words[0] != "bands") {
             const bool key = words[0] == table.key;
-            columns.append(declared(words[0], words[1]) + (key ? " PRIMARY KEY NOT NULL" : ""));
+            // A whole-number key is the row's own number.
+            const bool number = key && words[1] == "int";
+            columns.append((number ? words[0] + " INTEGER" : declared(words[0], words[1])) +
+                           (key ? " PRIMARY KEY NOT NULL" : ""));
             continue;
         }
         for (int i = 0; i < words[2].toInt(); ++i)

@@ -53,17 +53,37 @@ void cdate(sqlite3_context* context, Arguments arguments) {
     give(context, QString::fromStdString(isoText(*moment)));
 }
 
-// Parts of a date by their letters: yyyy, mm, dd, hh, nn, ss.
-QString formattedMoment(Moment moment, QString pattern) {
-    const QString stored = QString::fromStdString(isoText(moment));
+// A part of a date by the run of its letter: "yyyy", "m" or "mm", ... ; a single letter leaves out the leading zero,
+// and "m" behind the hour means minutes.
+QString partOf(const QString& stored, QChar letter, qsizetype length, bool behindHour) {
     struct Part {
-        const char16_t* letters;
+        char16_t letter;
         int from;
+        int width;
     };
-    for (const auto& [letters, from] :
-         {Part{u"yyyy", 0}, Part{u"mm", 5}, Part{u"dd", 8}, Part{u"hh", 11}, Part{u"nn", 14}, Part{u"ss", 17}})
-        pattern.replace(QString::fromUtf16(letters), stored.mid(from, QStringView(letters).size()));
-    return pattern;
+    for (const auto& [known, from, width] : {Part{u'y', 0, 4}, Part{u'm', 5, 2}, Part{u'd', 8, 2}, Part{u'h', 11, 2},
+                                             Part{u'n', 14, 2}, Part{u's', 17, 2}}) {
+        if (letter != known) continue;
+        const QString digits = stored.mid(known == u'm' && behindHour ? 14 : from, width);
+        if (known == u'y') return length == 2 ? digits.right(2) : digits;
+        return length == 1 ? QString::number(digits.toInt()) : digits;
+    }
+    return QString(length, letter);
+}
+
+QString formattedMoment(Moment moment, const QString& pattern) {
+    const QString stored = QString::fromStdString(isoText(moment));
+    QString text;
+    bool behindHour = false;
+    for (qsizetype from = 0; from < pattern.size();) {
+        const QChar letter = pattern[from].toLower();
+        qsizetype past = from;
+        while (past < pattern.size() && pattern[past].toLower() == letter) ++past;
+        text += partOf(stored, letter, past - from, behindHour);
+        if (letter.isLetter()) behindHour = letter == u'h';
+        from = past;
+    }
+    return text;
 }
 
 // A run of "0" is the number with at least so many digits; every other character stands for itself.

@@ -25,14 +25,14 @@ TEST(Guarded, FaultIsShownOnceWithItsNumberAndLogged) {
     Desk desk;
     const auto fail = [&desk] {
         return guarded(desk.context, u"frmLogin", u"RecordEnter", false,
-                       []() -> bool { throw Fault(3043, u"Kurbo.Store"_q, u"ディスク\"X\"の〜障害"_q); });
+                       []() -> bool { throw Fault(3043, u"Kurbo.Store"_q, u"ディスク\"X\"の〜\r\n障害"_q); });
     };
-    desk.prompts.expect(u"エラー番号：3043\r\nディスク\"X\"の〜障害"_q).expect(u"エラー番号：3043"_q);
+    desk.prompts.expect(u"エラー番号：3043\r\nディスク\"X\"の〜\r\n障害"_q).expect(u"エラー番号：3043"_q);
     EXPECT_FALSE(fail());
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－RecordEnter"_q);
     EXPECT_EQ(desk.prompts.last().icon, Icon::Critical);
     const QString line =
-        u"\"2026/04/15\",\"frmLogin\",\"RecordEnter\",\"Kurbo.Store\",3043,\"ディスク\"X\"の～障害\"\r\n"_q;
+        u"\"2026/04/15\",\"frmLogin\",\"RecordEnter\",\"Kurbo.Store\",3043,\"ディスク\"X\"の～ 障害\"\r\n"_q;
     EXPECT_EQ(fromCodePage(readFile(desk.file(u"Error.log"_q))), line);
     EXPECT_FALSE(fail());
     EXPECT_EQ(fromCodePage(readFile(desk.file(u"Error.log"_q))), line + line);

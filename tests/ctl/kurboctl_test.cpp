@@ -47,6 +47,9 @@ TEST_F(Kurboctl, WrongUseIsTwo) {
         EXPECT_EQ(outcome.out, QString());
     }
     EXPECT_EQ(kurboctl({u"--help"_q}).exit, 0);
+    EXPECT_EQ(kurboctl({u"check"_q, path, u"--at"_q, u"noon"_q}).exit, 2);
+    EXPECT_EQ(kurboctl({u"check"_q, path, u"--format"_q, u"xml"_q}).exit, 2);
+    EXPECT_EQ(kurboctl({u"punch"_q, desk.file(u"none.mdb"_q), u"enter"_q, u"--staff"_q, u"1"_q}).exit, 2);
 }
 
 TEST_F(Kurboctl, NewCheckAndCompact) {
@@ -90,6 +93,38 @@ TEST_F(Kurboctl, SqlIsOneTransaction) {
     EXPECT_EQ(sql(u"SELECT Count(*) AS N FROM C01_Corp"_q), u"N\n1\n"_q);
 }
 
+TEST_F(Kurboctl, WhatCantBeReadOrWrittenIsNotPassedOver) {
+    for (const QString& statements : {u"UPDATE C01_Corp SET F_Tel = '1'; ROLLBACK; UPDATE C01_Corp SET F_Tel = '2';"_q,
+                                      u"DROP TABLE C02_Section;"_q, u"PRAGMA user_version = 9;"_q})
+        EXPECT_EQ(kurboctl({u"sql"_q, path}, statements).exit, 3) << statements;
+    EXPECT_EQ(sql(u"SELECT F_Tel FROM C01_Corp"_q), u"F_Tel\n\n"_q);
+    QProcess shell;
+    const QString program = QStringLiteral(KURBO_BIN "/kurboctl");
+    shell.start(u"sh"_q, {u"-c"_q, u"printf 'SELECT \\223' | "_q + program + u" sql "_q + path});
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(shell.exitCode(), 1) << "not UTF-8";
+    shell.start(u"sh"_q, {u"-c"_q, program + u" check "_q + path + u" > /dev/full"_q});
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(shell.exitCode(), 3) << "no room for the output";
+}
+
+TEST_F(Kurboctl, CardsComeInEveryForm) {
+    sql(u"UPDATE M01_CorpInfo SET F_RoundEnter = 1, F_RoundLeave = 0, F_CountUnit = 1; "
+        "INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Enter, F_Leave) "
+        "VALUES (1, '20260302', '1001', #2026/03/02 08:52:10#, #2026/03/02 17:40#);"_q);
+    const QStringList march{u"card"_q,    path,         u"--staff"_q,    u"1001"_q,    u"--month"_q,
+                            u"2026/03"_q, u"--today"_q, u"2026/04/15"_q, u"--format"_q};
+    const QString json = kurboctl(march + QStringList(u"json"_q)).out;
+    EXPECT_TRUE(
+        json.startsWith(u"{\"staff\":\"1001\",\"from\":\"2026/03/01\",\"to\":\"2026/03/31\",\"headings\":[\"No\","_q));
+    EXPECT_TRUE(json.contains(u"[\"2\",\"26/03/02(月)\",\"\",\"\",\"08:52\",\"17:40\","_q)) << json.toStdString();
+    const QStringList tsv = kurboctl(march + QStringList(u"tsv"_q)).out.split(u'\n');
+    EXPECT_EQ(tsv.size(), 1 + 3 + 31 + 1);
+    EXPECT_EQ(tsv[5].count(u'\t'), 24);
+    EXPECT_EQ(kurboctl({u"card"_q, path, u"--staff"_q, u"1001"_q}).exit, 2);
+    EXPECT_EQ(kurboctl({u"card"_q, path, u"--staff"_q, u"9999"_q, u"--month"_q, u"2026/03"_q}).exit, 1);
+}
+
 TEST_F(Kurboctl, PunchTellsHowItWent) {
     EXPECT_EQ(punched(pw + QStringList{u"enter"_q}).exit, 0);
     const Outcome again = punched(pw + QStringList{u"enter"_q});
@@ -108,6 +143,8 @@ TEST_F(Kurboctl, PunchTellsHowItWent) {
     EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2031/01/01 09:00"_q).exit, 1) << "no calendar";
     EXPECT_EQ(sql(u"SELECT F_DateID, F_Enter, F_Leave FROM T02_Kurbo ORDER BY F_KurboID"_q),
               u"F_DateID\tF_Enter\tF_Leave\n20260415\t2026-04-15 08:54:40\t2026-04-16 07:01:00\n20260416\t\t\n"_q);
+    EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"1004"_q, u"--password"_q, u"kurbo1"_q, u"enter"_q}).exit, 1)
+        << "not in the list";
     EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"ADMIN"_q, u"--password"_q, u"ADMIN"_q, u"enter"_q}).exit, 1);
 }
 

@@ -46,6 +46,14 @@ TEST_F(Collisions, TheSixthFailureIsReportedWithTheEnginesText) {
     EXPECT_TRUE(RecordLeave(desk.context, connection, u"1001"_q, desk.clock.now(), QString()));
 }
 
+TEST_F(Collisions, WithoutAnIdTheFailureIsTheIdsOwn) {
+    connection.engine("ALTER TABLE T02_Kurbo RENAME TO Away");
+    desk.prompts.expect(u"エラー番号："_q);
+    EXPECT_FALSE(RecordEnter(desk.context, connection, u"1001"_q, desk.clock.now(), true, false));
+    EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－GenerateKurboID"_q);
+    EXPECT_FALSE(connection.inTransaction());
+}
+
 TEST_F(Collisions, OtherFaultsAreNotTriedAgain) {
     desk.prompts.expect(u"エラー番号："_q).expect(u"エラー番号："_q);
     EXPECT_FALSE(RecordLeave(desk.context, connection, u"1001"_q, desk.clock.now(), u"20260415"_q)) << "no such row";

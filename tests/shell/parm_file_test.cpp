@@ -54,6 +54,9 @@ TEST_F(ParmFile, WhatCantBeReadOrWrittenIsReported) {
     EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, database));
     desk.prompts.expect(u"「𠮷」"_q);
     EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, u"/tmp/𠮷.mdb"_q));
+    desk.prompts.expect(u"「〜」"_q).expect(u"「\"」"_q);
+    EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, u"/tmp/\u301C.mdb"_q)) << "its twin names another file";
+    EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, u"/tmp/\".mdb"_q));
 }
 
 } // namespace kurbo::test

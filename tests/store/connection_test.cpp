@@ -1,5 +1,6 @@
 #include "store/connection.h"
 
+#include "base/files.h"
 #include "store/database_file.h"
 #include "store/engine_fault.h"
 #include "support/sample_company.h"
@@ -65,6 +66,8 @@ TEST_F(Connections, AParentIsNeededWhenTheTransactionEnds) {
 TEST_F(Connections, OnlyDatesGoIntoDateFields) {
     EXPECT_EQ(faultOf([&] { connection.execute(u"UPDATE C03_Staff SET F_Birth = 'yesterday'"_q); }),
               static_cast<int>(StoreError::BadValue));
+    EXPECT_EQ(faultOf([&] { connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 'abc'"_q); }),
+              static_cast<int>(StoreError::BadValue));
     EXPECT_EQ(connection.execute(u"UPDATE C03_Staff SET F_Birth = #1990/01/02# WHERE F_StaffCode = '1001'"_q), 1);
     EXPECT_EQ(connection.firstValue(u"SELECT F_Birth FROM C03_Staff WHERE F_StaffCode = '1001'"_q),
               Value(*makeDay(1990, 1, 2)));
@@ -106,6 +109,51 @@ TEST_F(Connections, APlaceInTheQueueWithoutAWriteStopsNobodyForGood) {
     other.setTimeout(std::chrono::milliseconds{200});
     other.execute(addCorp, {u"乙"_q});
     EXPECT_EQ(count(u"C01_Corp"_q), 2);
+}
+
+TEST_F(Connections, PatienceComesBackWithTheNextTurn) {
+    other.setTimeout(std::chrono::milliseconds{150});
+    {
+        const Turn standing(connection);
+        other.execute(addCorp, {u"乙"_q});
+    }
+    other.setTimeout(std::chrono::milliseconds{5000});
+    connection.engine("BEGIN EXCLUSIVE");
+    std::jthread holder([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        connection.engine("COMMIT");
+    });
+    EXPECT_EQ(other.firstValue(u"SELECT Count(*) FROM C01_Corp"_q), Value(2));
+}
+
+TEST_F(Connections, AFileThatWasReplacedIsOpenedAnew) {
+    copyDatabase(path, desk.file(u"copy.mdb"_q));
+    renameOver(desk.file(u"copy.mdb"_q), path);
+    EXPECT_EQ(faultOf([&] { connection.execute(addCorp, {u"甲"_q}); }), static_cast<int>(StoreError::Moved));
+    EXPECT_FALSE(connection.isOpen());
+    connection.open(path, databasePassword());
+    EXPECT_EQ(connection.execute(addCorp, {u"甲"_q}), 1);
+}
+
+TEST_F(Connections, GuardsLeaveALaterOpeningAlone) {
+    {
+        Transaction transaction(connection);
+        const Rows rows = connection.rows(u"SELECT F_Corp FROM C01_Corp"_q);
+        connection.open(path, databasePassword());
+        EXPECT_THROW(transaction.commit(), Fault);
+    }
+    EXPECT_FALSE(connection.inTransaction());
+    EXPECT_EQ(connection.execute(addCorp, {u"甲"_q}), 1);
+    const Reading outer(connection);
+    const Reading inner(connection);
+    EXPECT_EQ(count(u"C01_Corp"_q), 2);
+}
+
+TEST_F(Connections, AScriptOfManyStatementsDoesNotFillTheMemory) {
+    Transaction transaction(connection);
+    for (int i = 0; i < 1000; ++i) connection.execute(u"INSERT INTO C01_Corp (F_Corp) VALUES ('%1')"_q.arg(i));
+    transaction.commit();
+    EXPECT_EQ(count(u"C01_Corp"_q), 1001);
 }
 
 TEST_F(Connections, TheSameQuestionMayBeAskedWithinItsOwnLoop) {

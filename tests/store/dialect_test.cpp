@@ -20,7 +20,7 @@ TEST_F(Dialect, JoinsTextWithNullAsEmpty) {
     EXPECT_EQ(value(u"Null & Null"_q), QString());
     EXPECT_EQ(value(u"1 + 2 & 'x' & 2 * 3"_q), u"3x6"_q);
     EXPECT_EQ(value(u"('a' & ('b' & 'c')) & Left('def', 2)"_q), u"abcde"_q);
-    EXPECT_EQ(value(u"IIf('a' & Null = 'A' & '', 1, 2)"_q), u"2"_q) << "joined text is compared as it is";
+    EXPECT_EQ(value(u"IIf('a' & Null = 'A' & '', 1, 2)"_q), u"1"_q) << "joined text is text";
     EXPECT_EQ(
         asked(u"SELECT F_Corp FROM C01_Corp WHERE F_Corp & F_Branch = '見本商事' AND 1 & 2 BETWEEN '11' AND '13'"_q),
         u"見本商事"_q);
@@ -58,12 +58,28 @@ TEST_F(Dialect, TextComparesWithoutRegardToCaseAndKeepsNullApart) {
     EXPECT_EQ(asked(u"SELECT Count(*) FROM C03_Staff WHERE F_StaffCode = \"admin\""_q), u"1"_q);
 }
 
+TEST_F(Dialect, SpellingsOfOtherToolsAreUnderstood) {
+    EXPECT_EQ(value(u"7 / 2"_q), u"3.5"_q);
+    EXPECT_EQ(value(u"Len('漢字')"_q), u"2"_q);
+    EXPECT_EQ(value(u"Format(#2026/04/01 08:05:09#, 'h:nn')"_q), u"8:05"_q);
+    EXPECT_EQ(value(u"Format(#2026/04/01 08:05:09#, 'yy/m/d hh:mm')"_q), u"26/4/1 08:05"_q);
+    EXPECT_EQ(value(u"IIf(Left('Abc', 1) = 'a' AND Mid('xB', 2) & '' = 'b', 'same', 'other')"_q), u"same"_q);
+    EXPECT_EQ(asked(u"SELECT [C02_Section].[F_SectionCode] FROM [C02_Section] WHERE [C02_Section].F_Order = 1"_q),
+              u"S01"_q);
+    connection.execute(u"UPDATE C01_Corp SET C01_Corp.F_Tel = 'a=b', F_Fax = '1' WHERE C01_Corp.F_Corp = '見本商事'"_q);
+    EXPECT_EQ(asked(u"SELECT F_Tel & F_Fax FROM C01_Corp"_q), u"a=b1"_q);
+    connection.execute(u"DELETE C01_Corp.* FROM C01_Corp WHERE C01_Corp.F_Fax = '1'"_q);
+    EXPECT_EQ(count(u"C01_Corp"_q), 0);
+    EXPECT_EQ(connection.rows(u"SELECT Count(*) FROM C01_Corp"_q).name(0), u"Count(*)"_q);
+}
+
 TEST_F(Dialect, SyntaxErrorsAreFaults) {
     for (const QString& statement :
          {u"SELECT 'open FROM C01_Corp"_q, u"SELECT (1 FROM C01_Corp"_q, u"SELECT 1) FROM C01_Corp"_q, u";"_q,
           QString(), u"SELECT #2026/13/01# FROM C01_Corp"_q, u"SELECT #x FROM C01_Corp"_q,
           u"SELECT [F_Corp FROM C01_Corp"_q, u"SELEKT F_Corp FROM C01_Corp"_q, u"SELECT F_Corp ' FROM C01_Corp"_q,
-          u"SELECT @x FROM C01_Corp"_q}) {
+          u"SELECT @x FROM C01_Corp"_q, u"ROLLBACK"_q, u"COMMIT"_q, u"PRAGMA foreign_keys = OFF"_q,
+          u"DROP TABLE C01_Corp"_q}) {
         try {
             (void)asked(statement);
             ADD_FAILURE() << statement;
@@ -84,7 +100,7 @@ TEST(DialectText, OrderIsTurnedRoundTermByTerm) {
     EXPECT_EQ(turned(u"SELECT a FROM (SELECT b FROM U ORDER BY b) ORDER BY Left(a, 2) DESC, b ASC, c & d"_q)
                   .section(u"ORDER BY"_q, -1)
                   .remove(u' '),
-              u"kurbo_left(a,2),bDESC,(ifnull(c,'')||ifnull(d,''))DESC"_q);
+              u"(kurbo_left(a,2)COLLATENOCASE),bDESC,(ifnull(c,'')||ifnull(d,'')COLLATENOCASE)DESC"_q);
     EXPECT_THROW((void)turned(u"SELECT a FROM T"_q), Fault);
 }
 

@@ -5,6 +5,7 @@
 #include "store/is_db_ok.h"
 #include "support/desk.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <csignal>
@@ -93,6 +94,15 @@ TEST_F(Locks, AStaleFileIsRemovedAndAHeldOneStays) {
     ASSERT_TRUE(first.join(database, in(1000), {}));
     first.leave();
     EXPECT_FALSE(there()) << "a client that comes and goes clears it away";
+}
+
+TEST_F(Locks, AnotherClientsFileIsLeftAlone) {
+    ASSERT_TRUE(first.join(database, in(1000), {}));
+    ASSERT_TRUE(QFile::remove(desk.file(u"store.ldb"_q))); // an operator thought it was stale
+    ASSERT_TRUE(second.join(database, in(1000), {}));
+    first.leave();
+    EXPECT_TRUE(there());
+    EXPECT_FALSE(first.claim(database));
 }
 
 TEST_F(Locks, ClaimIsForOneAloneAndOthersWait) {

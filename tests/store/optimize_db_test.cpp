@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <unistd.h>
+
 namespace kurbo::test {
 namespace {
 
@@ -76,6 +78,25 @@ TEST_F(Optimize, EachRefusalHasItsWordAndTouchesNothing) {
     EXPECT_EQ(readFile(desk.file(u"cut.mdb"_q)), whole.left(whole.size() - 8192));
     EXPECT_EQ(readFile(path), whole);
     EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"TEXT.MDB"_q, u"cut.mdb"_q, u"store.mdb"_q}));
+}
+
+TEST_F(Optimize, FollowsALinkAndKeepsTheGroup) {
+    connection.close();
+    const QString link = desk.file(u"link.mdb"_q);
+    ASSERT_TRUE(QFile::link(path, link));
+    const bool root = ::geteuid() == 0;
+    if (root && ::chown(path.toUtf8().constData(), 0, 100) != 0) ADD_FAILURE() << "no other group";
+    EXPECT_EQ(run(link), u"OK"_q);
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_TRUE(!root || QFileInfo(path).groupId() == 100U);
+    connection.open(link, databasePassword());
+    EXPECT_TRUE(QFileInfo::exists(desk.file(u"store.ldb"_q))) << "one lock file, whatever the name";
+    EXPECT_EQ(run(path), u"ExistLdb"_q);
+    connection.close();
+    ASSERT_EQ(::link(path.toUtf8().constData(), desk.file(u"twin.mdb"_q).toUtf8().constData()), 0);
+    EXPECT_EQ(run(path), u"Opened"_q) << "a second name would keep the old contents";
+    copyDatabase(path, link);
+    EXPECT_TRUE(QFileInfo(link).isSymLink()) << "a file is not copied over itself";
 }
 
 TEST_F(Optimize, APlaceThatCantBeWrittenKeepsTheFile) {
