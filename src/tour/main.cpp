@@ -23,6 +23,20 @@ void makeCompany(const QString& path, Day today) {
     makeDemoCompany(connection, options);
 }
 
+// The rows that the day's punches must have left: an arrival of today, and the night shift's end on yesterday's row.
+bool punchesStand(const QString& path, Day today) {
+    Connection connection;
+    connection.open(path, databasePassword());
+    const QString yesterday = dateId(today - std::chrono::days(1));
+    return connection.hasRow(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = '1003') AND "
+                                            "(F_DateID = ?) AND (F_Enter Is Not Null);"),
+                             {dateId(today)}) &&
+           connection.hasRow(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = '1010') AND "
+                                            "(F_DateID = ?) AND (F_Leave > ?);"),
+                             {yesterday, today}) &&
+           checkDatabase(path).isEmpty();
+}
+
 int tour(const QString& folder) {
     if (!QDir().mkpath(folder)) return 1;
     for (const QString& old : QDir(folder).entryList({QStringLiteral("*.png"), QStringLiteral("*.pdf")}))
@@ -40,7 +54,7 @@ int tour(const QString& folder) {
     WorkingDay(client, clock, prompts, camera).play();
     const bool written = camera.writePdf(QStringLiteral("tour.pdf"));
     std::printf("%d pictures\n", static_cast<int>(camera.count()));
-    return written && checkDatabase(client.DbPath).isEmpty() ? 0 : 1;
+    return written && punchesStand(client.DbPath, clock.today()) ? 0 : 1;
 }
 
 } // namespace
