@@ -99,6 +99,14 @@ void MonthBare(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(reader.read(person(++i).toLatin1()));
 }
 
+void MonthRead(benchmark::State& state) {
+    Connection connection;
+    connection.open(companyFile(), databasePassword());
+    int i = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(readCardDays(connection, person(++i), *makeDay(2026, 5, 1), *makeDay(2026, 5, 31)));
+}
+
 void MonthCard(benchmark::State& state) {
     const QTemporaryDir folder;
     Office office(folder.path());
@@ -121,6 +129,7 @@ void MonthCard(benchmark::State& state) {
 }
 
 BENCHMARK(MonthBare)->Unit(benchmark::kMicrosecond);
+BENCHMARK(MonthRead)->Unit(benchmark::kMicrosecond);
 BENCHMARK(MonthCard)->Unit(benchmark::kMicrosecond);
 
 } // namespace

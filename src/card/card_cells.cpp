@@ -41,14 +41,36 @@ QString shortDate(Day day) {
     return slashDate(day).mid(2) + u'(' + names[std::chrono::weekday{day}.c_encoding()] + u')';
 }
 
+// The texts of all minutes of a day in one form, written once: a card repeats them, and shares them at no cost.
+template <typename Write>
+QList<QString> textsOfDay(Write write) {
+    constexpr int minutesOfDay = 24 * 60;
+    QList<QString> texts;
+    texts.reserve(minutesOfDay);
+    for (Minutes minutes = 0; minutes < minutesOfDay; ++minutes) texts.append(write(minutes));
+    return texts;
+}
+
+const QList<QString>& hourTexts(int unit) {
+    static const QList<QString> decimal = textsOfDay([](Minutes m) { return FormatHours(m, 0, false); });
+    static const QList<QString> sexagesimal = textsOfDay([](Minutes m) { return FormatHours(m, 1, false); });
+    return unit == 0 ? decimal : sexagesimal;
+}
+
+QString timeText(Moment moment) {
+    static const QList<QString> clocks =
+        textsOfDay([](Minutes m) { return hourMinute(Moment{} + std::chrono::minutes(m)); });
+    return clocks[static_cast<qsizetype>((moment - dayOf(moment)).count() / 60)];
+}
+
 QString leaveText(Moment leave, Day day) {
-    if (dayOf(leave) == day) return hourMinute(leave);
+    if (dayOf(leave) == day) return timeText(leave);
     return u'(' + slashDate(dayOf(leave)).mid(5) + u')' + hourMinute(leave);
 }
 
 class CellWriter final {
   public:
-    explicit CellWriter(const clsWorkTime& rules) : rules_(rules) {}
+    explicit CellWriter(const clsWorkTime& rules) : rules_(rules), hours_(hourTexts(rules.plngCountUnit)) {}
 
     [[nodiscard]] QStringList day(int number, const CardDay& day, const Figures& figures) const {
         QStringList row = blankRow();
@@ -97,7 +119,9 @@ class CellWriter final {
 
   private:
     [[nodiscard]] QString hours(Minutes minutes) const {
-        return minutes == 0 ? QString() : FormatHours(minutes, rules_.plngCountUnit, false);
+        if (minutes == 0) return {};
+        if (minutes > 0 && minutes < hours_.size()) return hours_[minutes];
+        return FormatHours(minutes, rules_.plngCountUnit, false);
     }
 
     static void writeFacts(QStringList& row, int number, const CardDay& day) {
@@ -106,7 +130,7 @@ class CellWriter final {
         row[index(CardColumn::Date)] = shortDate(facts.date);
         if (!facts.type.isNull()) row[index(CardColumn::Holiday)] = facts.type;
         row[index(CardColumn::Plan)] = day.plan;
-        if (facts.enter) row[index(CardColumn::Enter)] = hourMinute(*facts.enter);
+        if (facts.enter) row[index(CardColumn::Enter)] = timeText(*facts.enter);
         if (facts.leave) row[index(CardColumn::Leave)] = leaveText(*facts.leave, facts.date);
         row[index(CardColumn::Paid)] = leaveWord(facts.paid);
         row[index(CardColumn::Special)] = leaveWord(facts.special);
@@ -124,6 +148,7 @@ class CellWriter final {
     }
 
     const clsWorkTime& rules_;
+    const QList<QString>& hours_;
 };
 
 void roundSums(const clsWorkTime& rules, Figures& sum) {
