@@ -57,10 +57,17 @@ int tour(const QString& folder) {
     return written && punchesStand(client.DbPath, clock.today()) ? 0 : 1;
 }
 
+// Offscreen there is no window manager to ask for anything; the toolkit says so for every window.
+void passOver(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+    if (!text.startsWith(QStringLiteral("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+}
+
 } // namespace
 } // namespace kurbo
 
 int main(int argc, char** argv) {
+    qInstallMessageHandler(kurbo::passOver);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     kurbo::dress(application);
