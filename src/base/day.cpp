@@ -1,12 +1,13 @@
 #include "base/day.h"
 
 #include <array>
-#include <cstdio>
 
 using namespace std::chrono;
 
 namespace kurbo {
 namespace {
+
+constexpr std::array weekdayNames{u'日', u'月', u'火', u'水', u'木', u'金', u'土'};
 
 struct Clock {
     int hour;
@@ -134,6 +135,20 @@ QString slashDate(Day day) {
     return Writer(10).date(day, u'/').text();
 }
 
+QString shortDate(Day day) {
+    const auto date = civil(day);
+    return Writer(11)
+        .number(static_cast<unsigned>(static_cast<int>(date.year())) % 100, 2)
+        .sign(u'/')
+        .number(static_cast<unsigned>(date.month()), 2)
+        .sign(u'/')
+        .number(static_cast<unsigned>(date.day()), 2)
+        .sign(u'(')
+        .sign(weekdayNames[std::chrono::weekday{day}.c_encoding()])
+        .sign(u')')
+        .text();
+}
+
 QString hourMinute(Moment moment) {
     const auto clock = clockOf(moment);
     return Writer(5)
@@ -157,17 +172,16 @@ QString slashMoment(Moment moment) {
 }
 
 std::string isoText(Moment moment) {
-    const auto date = civil(dayOf(moment));
-    const auto clock = clockOf(moment);
-    std::array<char, 40> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d:%02d",
-                                     static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-                                     static_cast<unsigned>(date.day()), clock.hour, clock.minute, clock.second);
-    return {text.data(), static_cast<std::size_t>(length)};
+    std::string text(19, ' ');
+    const QString slash = slashMoment(moment);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = slash[static_cast<qsizetype>(i)].toLatin1();
+        text[i] = c == '/' ? '-' : c;
+    }
+    return text;
 }
 
 QString clockText(Moment moment) {
-    static constexpr std::array names{u'日', u'月', u'火', u'水', u'木', u'金', u'土'};
     const Day day = dayOf(moment);
     const auto date = civil(day);
     const auto clock = clockOf(moment);
@@ -175,7 +189,7 @@ QString clockText(Moment moment) {
         .arg(static_cast<int>(date.year()), 4, 10, QChar(u'0'))
         .arg(static_cast<unsigned>(date.month()), 2, 10, QChar(u'0'))
         .arg(static_cast<unsigned>(date.day()), 2, 10, QChar(u'0'))
-        .arg(QChar(names[weekday{day}.c_encoding()]))
+        .arg(QChar(weekdayNames[weekday{day}.c_encoding()]))
         .arg(clock.hour)
         .arg(clock.minute, 2, 10, QChar(u'0'))
         .arg(clock.second, 2, 10, QChar(u'0'));

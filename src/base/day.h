@@ -34,6 +34,8 @@ using Minutes = std::int32_t;
 [[nodiscard]] QString dateId(Day day);
 [[nodiscard]] QString slashDate(Day day);
 [[nodiscard]] QString hourMinute(Moment moment);
+// "yy/mm/dd(aaa)", aaa being the weekday's one letter.
+[[nodiscard]] QString shortDate(Day day);
 [[nodiscard]] QString slashMoment(Moment moment);
 [[nodiscard]] std::string isoText(Moment moment);
 // "yyyy年mm月dd日(aaa)  h:mm:ss", aaa being the weekday's one letter.

@@ -35,12 +35,6 @@ QString leaveWord(QChar code) {
     return code == u'2' ? QStringLiteral("午後") : QString();
 }
 
-// "yy/mm/dd(aaa)"
-QString shortDate(Day day) {
-    static const QString names = QStringLiteral("日月火水木金土");
-    return slashDate(day).mid(2) + u'(' + names[std::chrono::weekday{day}.c_encoding()] + u')';
-}
-
 // The texts of all minutes of a day in one form, written once: a card repeats them, and shares them at no cost.
 template <typename Write>
 QList<QString> textsOfDay(Write write) {
@@ -55,6 +49,17 @@ const QList<QString>& hourTexts(int unit) {
     static const QList<QString> decimal = textsOfDay([](Minutes m) { return FormatHours(m, 0, false); });
     static const QList<QString> sexagesimal = textsOfDay([](Minutes m) { return FormatHours(m, 1, false); });
     return unit == 0 ? decimal : sexagesimal;
+}
+
+// The numbers of a long card's rows.
+QString numberText(int number) {
+    static const QList<QString> numbers = textsOfDay([](Minutes m) { return QString::number(m); });
+    return number < numbers.size() ? numbers[number] : QString::number(number);
+}
+
+QString typeText(QChar type) {
+    if (type == u'0') return QStringLiteral("0");
+    return type == u'3' ? QStringLiteral("3") : QString(type);
 }
 
 QString timeText(Moment moment) {
@@ -126,9 +131,9 @@ class CellWriter final {
 
     static void writeFacts(QStringList& row, int number, const CardDay& day) {
         const DayFacts& facts = day.facts;
-        row[index(CardColumn::No)] = QString::number(number);
+        row[index(CardColumn::No)] = numberText(number);
         row[index(CardColumn::Date)] = shortDate(facts.date);
-        if (!facts.type.isNull()) row[index(CardColumn::Holiday)] = facts.type;
+        if (!facts.type.isNull()) row[index(CardColumn::Holiday)] = typeText(facts.type);
         row[index(CardColumn::Plan)] = day.plan;
         if (facts.enter) row[index(CardColumn::Enter)] = timeText(*facts.enter);
         if (facts.leave) row[index(CardColumn::Leave)] = leaveText(*facts.leave, facts.date);
