@@ -221,7 +221,7 @@ Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, 
     for (const CardDay& day : read.days) facts.push_back(day.facts);
     std::optional<Moment> carry;
     if (!facts.empty())
-        carry = EndAllNight(context, connection, staff, startOfDay(rules, facts.front().date, facts.front().type));
+        carry = leaveBeyond(connection, staff, startOfDay(rules, facts.front().date, facts.front().type));
     CardFigures figures = calculateDays(rules, facts, read.next, carry, context.clock.today());
     roundSums(rules, figures.sum);
 

@@ -1,5 +1,7 @@
 #include "ctl/options.h"
 
+#include "ctl/result_output.h"
+
 namespace kurbo {
 
 Options::Options() {
@@ -24,10 +26,7 @@ void Options::read(const QStringList& arguments, qsizetype places) {
     if (given < places) throw WrongUse{QStringLiteral("an argument is missing")};
     if (given > places) throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
     (void)clock();
-    static const QStringList formats{QString(), QStringLiteral("table"), QStringLiteral("tsv"), QStringLiteral("csv"),
-                                     QStringLiteral("json")};
-    if (!formats.contains(value(QStringLiteral("format"))))
-        throw WrongUse{QStringLiteral("--format takes table, tsv, csv or json")};
+    (void)formatNamed(value(QStringLiteral("format")));
 }
 
 QString Options::needed(const QString& name) const {

@@ -3,7 +3,6 @@
 #include "store/lock_file.h"
 #include "store/rows.h"
 
-#include <QHash>
 #include <QString>
 
 #include <array>

@@ -16,7 +16,7 @@ constexpr std::array clauseWords{u"SELECT",  u"DISTINCT", u"FROM", u"WHERE",  u"
                                  u"BETWEEN", u"LIKE",     u"IS",   u"AS",     u"ON",     u"INNER",  u"JOIN",  u"OUTER",
                                  u"GROUP",   u"ORDER",    u"BY",   u"HAVING", u"UNION",  u"ALL",    u"SET",   u"INTO",
                                  u"VALUES",  u"ASC",      u"DESC", u"UPDATE", u"DELETE", u"INSERT", u"LIMIT", u"CASE",
-                                 u"WHEN",    u"THEN",     u"ELSE", u"END",    u"CREATE", u"TABLE"};
+                                 u"WHEN",    u"THEN",     u"ELSE", u"END"};
 
 struct Function {
     std::u16string_view dialect;

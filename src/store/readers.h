@@ -27,6 +27,8 @@ namespace kurbo {
 // The leave time of the person's last row before the day of `border`, when it lies later than `border`; else nothing.
 [[nodiscard]] std::optional<Moment> EndAllNight(const Context& context, Connection& connection, const QString& staff,
                                                 Moment border);
+// The same without a report; throws.
+[[nodiscard]] std::optional<Moment> leaveBeyond(Connection& connection, const QString& staff, Moment border);
 // Days between the first and the last card row, 0 without rows, or -1.
 [[nodiscard]] int RecordedDays(const Context& context, Connection& connection);
 // First calendar day, today on an empty calendar, nothing on a failure.
