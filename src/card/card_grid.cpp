@@ -1,13 +1,16 @@
 #include "card/card_grid.h"
 
+#include <array>
+
 namespace kurbo {
 namespace {
 
-constexpr int firstDay = 4;
+constexpr GridColour summaryPaper{232, 238, 246};
 
-void writeRow(GridModel& grid, int row, const QStringList& cells) {
-    for (int column = 0; column < cells.size(); ++column) grid.setText(row, column, cells[column]);
-}
+// In twips, in the order of the columns.
+constexpr std::array widths{500, 1400, 500, 1400, 1400, 1400, 900, 900, 900, 900, 900, 900, 900,
+                            900, 900,  600, 600,  600,  600,  600, 600, 500, 500, 500, 500};
+static_assert(widths.size() == cardColumns);
 
 // Holidays red, half holidays blue.
 std::optional<GridColour> dateColour(const QString& type) {
@@ -16,21 +19,37 @@ std::optional<GridColour> dateColour(const QString& type) {
     return {};
 }
 
+void describeColumns(GridModel& grid, const Card& card) {
+    for (int column = 0; column < cardColumns; ++column) {
+        grid.ColAlignment(column, GridAlign::Centre);
+        grid.ColWidth(column, widths[static_cast<std::size_t>(column)]);
+        grid.ColHidden(column, card.hidden[static_cast<std::size_t>(column)]);
+    }
+    grid.ColAlignment(static_cast<int>(CardColumn::Plan), GridAlign::Left);
+    grid.ColComboList(static_cast<int>(CardColumn::Holiday), QStringLiteral("|#0;全日|#1;午前|#2;午後|#3;法定休日"));
+}
+
 } // namespace
 
 void fillCardGrid(GridModel& grid, const Card& card) {
-    grid.reset(firstDay + static_cast<int>(card.days.size()), cardColumns, firstDay);
-    writeRow(grid, 0, card.headings);
-    for (int i = 0; i < 3; ++i) writeRow(grid, i + 1, card.summary[static_cast<std::size_t>(i)]);
+    grid.Redraw(false);
+    grid.reset({.rows = firstCardDay + static_cast<int>(card.days.size()),
+                .columns = cardColumns,
+                .frozenRows = firstCardDay - 1,
+                .frozenColumns = 1});
+    describeColumns(grid, card);
+    grid.fillRow(0, card.headings);
+    for (int row = 1; row < firstCardDay; ++row) {
+        grid.fillRow(row, card.summary[static_cast<std::size_t>(row - 1)]);
+        grid.RowBackColor(row, summaryPaper);
+    }
     for (int i = 0; i < card.days.size(); ++i) {
         const QStringList& cells = card.days[i];
-        writeRow(grid, firstDay + i, cells);
-        grid.setColour(firstDay + i, static_cast<int>(CardColumn::Date),
-                       dateColour(cells[static_cast<int>(CardColumn::Holiday)]));
+        grid.fillRow(firstCardDay + i, cells);
+        if (const auto colour = dateColour(cells[static_cast<int>(CardColumn::Holiday)]))
+            grid.CellForeColor(firstCardDay + i, static_cast<int>(CardColumn::Date), colour);
     }
-    grid.setComboList(static_cast<int>(CardColumn::Holiday), QStringLiteral("|#0;全日|#1;午前|#2;午後|#3;法定休日"));
-    for (int column = 0; column < cardColumns; ++column)
-        grid.setColumnHidden(column, card.hidden[static_cast<std::size_t>(column)]);
+    grid.Redraw(true);
 }
 
 } // namespace kurbo

@@ -5,6 +5,11 @@
 
 namespace kurbo {
 
+// The grid's row of the first day.
+inline constexpr int firstCardDay = 4;
+// The row of the final sums.
+inline constexpr int finalSumRow = 3;
+
 // Fills the grid of a card: row 0 the headings, rows 1 to 3 the summary, the days from row 4 on.
 void fillCardGrid(GridModel& grid, const Card& card);
 

@@ -1,100 +1,214 @@
 #include "screen/grid_model.h"
 
-namespace kurbo {
+#include "screen/grid_format.h"
 
-void GridModel::reset(int rows, int columns, int fixedRows) {
+namespace kurbo {
+namespace {
+
+// What a box of a yes/no column holds.
+constexpr QStringView yes = u"-1";
+constexpr QStringView no = u"0";
+
+GridAlign alignOf(QChar sign) {
+    return sign == u'^' ? GridAlign::Centre : sign == u'>' ? GridAlign::Right : GridAlign::Left;
+}
+
+} // namespace
+
+void GridModel::reset(const Shape& shape) {
     beginResetModel();
-    rows_ = rows;
-    columns_ = columns;
-    fixedRows_ = fixedRows;
-    texts_ = QList<QString>(qsizetype{rows} * columns);
-    lists_.clear();
-    colours_.clear();
-    hiddenRows_.clear();
-    hiddenColumns_.clear();
+    shape_ = shape;
+    columns_.assign(static_cast<std::size_t>(shape.columns), Column());
+    rows_.assign(static_cast<std::size_t>(shape.rows), emptyRow());
+    mergeHeadings_ = false;
     endResetModel();
 }
 
+void GridModel::FormatString(const QString& headings) {
+    const QStringList names = headings.split(u'|');
+    for (int column = 0; column < names.size() && holds(0, column); ++column) {
+        const QString& name = names[column];
+        const bool aligned = name.startsWith(u'^') || name.startsWith(u'<') || name.startsWith(u'>');
+        if (aligned) columnAt(column).align = alignOf(name.front());
+        rowAt(0).cells[column] = aligned ? name.mid(1) : name;
+    }
+    lookChanged();
+}
+
 bool GridModel::holds(int row, int column) const {
-    return row >= 0 && row < rows_ && column >= 0 && column < columns_;
+    return row >= 0 && row < Rows() && column >= 0 && column < Cols();
 }
 
-QString GridModel::text(int row, int column) const {
-    return holds(row, column) ? texts_[at(row, column)] : QString();
+GridModel::Row GridModel::emptyRow() const {
+    return {.cells = QStringList(shape_.columns), .status = {}, .hidden = false, .look = {}, .looks = {}};
 }
 
-void GridModel::setText(int row, int column, const QString& text) {
-    if (!holds(row, column) || texts_[at(row, column)] == text) return;
-    texts_[at(row, column)] = text;
-    Q_EMIT dataChanged(index(row, column), index(row, column), {Qt::DisplayRole, Qt::EditRole});
+void GridModel::Rows(int rows) {
+    if (rows > Rows()) {
+        beginInsertRows({}, Rows(), rows - 1);
+        rows_.resize(static_cast<std::size_t>(rows), emptyRow());
+        endInsertRows();
+    } else if (rows < Rows()) {
+        beginRemoveRows({}, rows, Rows() - 1);
+        rows_.resize(static_cast<std::size_t>(rows));
+        endRemoveRows();
+    }
 }
 
-QString GridModel::shownText(int row, int column) const {
-    const QString held = text(row, column);
-    if (row < fixedRows_) return held;
-    const auto list = lists_.constFind(column);
-    return list == lists_.cend() ? held : list->value(held, held);
+void GridModel::AddItem(int row) {
+    if (row < shape_.fixedRows || row > Rows()) return;
+    beginInsertRows({}, row, row);
+    rows_.insert(rows_.begin() + row, emptyRow());
+    endInsertRows();
 }
 
-void GridModel::setComboList(int column, const QString& list) {
-    QHash<QString, QString> shown;
-    for (const QString& entry : list.split(u'|', Qt::SkipEmptyParts))
-        if (entry.startsWith(u'#')) shown.insert(entry.mid(1).section(u';', 0, 0), entry.section(u';', 1));
-    lists_.insert(column, shown);
-    if (rows_ > 0 && holds(0, column)) Q_EMIT dataChanged(index(0, column), index(rows_ - 1, column));
+void GridModel::RemoveItem(int row) {
+    if (row < shape_.fixedRows || row >= Rows()) return;
+    beginRemoveRows({}, row, row);
+    rows_.erase(rows_.begin() + row);
+    endRemoveRows();
 }
 
-void GridModel::setColour(int row, int column, std::optional<GridColour> colour) {
+QString GridModel::TextMatrix(int row, int column) const {
+    return holds(row, column) ? rowAt(row).cells[column] : QString();
+}
+
+void GridModel::TextMatrix(int row, int column, const QString& text) {
+    write(row, column, text, GridStatus::Updated);
+}
+
+// A row that the person has changed stays marked so.
+void GridModel::write(int row, int column, const QString& text, GridStatus status) {
     if (!holds(row, column)) return;
-    if (colour)
-        colours_.insert(at(row, column), *colour);
-    else
-        colours_.remove(at(row, column));
-    Q_EMIT dataChanged(index(row, column), index(row, column), {ColourRole});
+    Row& target = rowAt(row);
+    if (target.cells[column] == text) return;
+    target.cells[column] = text;
+    target.status = std::max(target.status, status);
+    changed(row, column);
+    if (row < shape_.fixedRows) lookChanged();
 }
 
-std::optional<GridColour> GridModel::colour(int row, int column) const {
-    const auto found = colours_.constFind(at(row, column));
-    return holds(row, column) && found != colours_.cend() ? std::optional(*found) : std::nullopt;
+void GridModel::changed(int row, int column) {
+    if (!quiet_) Q_EMIT dataChanged(index(row, column), index(row, column));
 }
 
-void GridModel::setRowHidden(int row, bool hidden) {
-    hiddenRows_.insert(row, hidden);
-    Q_EMIT hiddenChanged();
+void GridModel::lookChanged() {
+    if (!quiet_) Q_EMIT looksChanged();
 }
 
-void GridModel::setColumnHidden(int column, bool hidden) {
-    hiddenColumns_.insert(column, hidden);
-    Q_EMIT hiddenChanged();
+void GridModel::fillRow(int row, const QStringList& cells) {
+    if (!holds(row, 0) || cells.size() != Cols()) return;
+    rowAt(row).cells = cells;
+    if (!quiet_) Q_EMIT dataChanged(index(row, 0), index(row, Cols() - 1));
+}
+
+QString GridModel::CellText(int row, int column) const {
+    const QString held = TextMatrix(row, column);
+    if (held.isEmpty() || row < shape_.fixedRows) return held;
+    const Column& own = columnAt(column);
+    return own.list.isEmpty() ? formatted(held, own.format) : own.list.textOf(held);
+}
+
+bool GridModel::CellChecked(int row, int column) const {
+    const QString held = TextMatrix(row, column);
+    return !held.isEmpty() && held != no;
+}
+
+void GridModel::CellChecked(int row, int column, bool checked) {
+    TextMatrix(row, column, (checked ? yes : no).toString());
+}
+
+void GridModel::edit(int row, int column, const QString& text) {
+    if (!Editable(row, column)) return;
+    const QString trimmed = text.trimmed();
+    const GridList& list = columnAt(column).list;
+    const QString held = list.isEmpty() ? trimmed : list.codeOf(trimmed);
+    if (held == TextMatrix(row, column)) return;
+    write(row, column, held, GridStatus::Modified);
+    rules_->edited(row, column);
+}
+
+void GridModel::clear(int row, int column) {
+    if (holds(row, column)) edit(row, column, columnAt(column).type == GridType::YesNo ? no.toString() : QString());
+}
+
+bool GridModel::Editable(int row, int column) const {
+    return rules_ && holds(row, column) && row >= shape_.fixedRows && column >= shape_.fixedColumns &&
+           rules_->mayEdit(row, column);
+}
+
+GridStatus GridModel::RowStatus(int row) const {
+    return holds(row, 0) ? rowAt(row).status : GridStatus::None;
+}
+
+void GridModel::RowStatus(int row, GridStatus status) {
+    if (holds(row, 0)) rowAt(row).status = status;
+}
+
+void GridModel::clearRowStatus() {
+    for (Row& row : rows_) row.status = GridStatus::None;
+}
+
+void GridModel::Redraw(bool redraw) {
+    if (quiet_ != redraw) return;
+    quiet_ = !redraw;
+    if (quiet_) return;
+    if (Rows() > 0 && Cols() > 0) Q_EMIT dataChanged(index(0, 0), index(Rows() - 1, Cols() - 1));
+    Q_EMIT looksChanged();
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : rows_;
+    return parent.isValid() ? 0 : Rows();
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : columns_;
+    return parent.isValid() ? 0 : Cols();
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || !holds(index.row(), index.column())) return {};
+    const auto colour = [](std::optional<GridColour> found) {
+        return found ? QVariant::fromValue(*found) : QVariant();
+    };
+    const bool box = columnAt(index.column()).type == GridType::YesNo && index.row() >= shape_.fixedRows;
     switch (role) {
     case Qt::DisplayRole:
-        return shownText(index.row(), index.column());
+        return box ? QVariant() : CellText(index.row(), index.column());
     case Qt::EditRole:
-        return text(index.row(), index.column());
-    case ColourRole: {
-        const auto found = colour(index.row(), index.column());
-        return found ? QVariant::fromValue(*found) : QVariant();
-    }
+        return TextMatrix(index.row(), index.column());
+    case Qt::CheckStateRole:
+        return box ? QVariant(CellChecked(index.row(), index.column()) ? Qt::Checked : Qt::Unchecked) : QVariant();
+    case ForeColourRole:
+        return colour(CellForeColor(index.row(), index.column()));
+    case BackColourRole:
+        return colour(CellBackColor(index.row(), index.column()));
+    case AlignRole:
+        return static_cast<int>(columnAt(index.column()).align);
     default:
         return {};
     }
 }
 
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (!index.isValid() || !Editable(index.row(), index.column())) return false;
+    if (role == Qt::CheckStateRole)
+        edit(index.row(), index.column(), (value.toInt() == Qt::Checked ? yes : no).toString());
+    else if (role == Qt::EditRole)
+        edit(index.row(), index.column(), value.toString());
+    return role == Qt::CheckStateRole || role == Qt::EditRole;
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    if (!index.isValid()) return Qt::NoItemFlags;
+    const Qt::ItemFlags seen = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (!Editable(index.row(), index.column())) return seen;
+    const bool box = columnAt(index.column()).type == GridType::YesNo;
+    return seen | (box ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+}
+
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    return text(0, section);
+    if (role != Qt::DisplayRole) return {};
+    return orientation == Qt::Horizontal ? TextMatrix(0, section) : TextMatrix(section, 0);
 }
 
 } // namespace kurbo
