@@ -89,14 +89,12 @@ std::optional<seconds> clockAt(QStringView text, qsizetype& from) {
     return hours{*hour} + minutes{*minute} + seconds{second};
 }
 
-// The number in text[from, from + length), or -1 when it is not all digits.
-int number(std::string_view text, std::size_t from, std::size_t length) {
-    int value = 0;
-    for (const char c : text.substr(from, length)) {
-        if (c < '0' || c > '9') return -1;
-        value = value * 10 + (c - '0');
-    }
-    return value;
+// The number of two digits, or one that spoils every sum it goes into.
+int twoDigits(const char* text) {
+    constexpr int noNumber = -10000;
+    const int tens = text[0] - '0';
+    const int ones = text[1] - '0';
+    return tens >= 0 && tens <= 9 && ones >= 0 && ones <= 9 ? tens * 10 + ones : noNumber;
 }
 
 } // namespace
@@ -222,10 +220,11 @@ std::optional<Moment> parseSlashMoment(QStringView text) {
 std::optional<Moment> parseIso(std::string_view text) {
     if (text.size() != 19 || text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
         return {};
-    const int hour = number(text, 11, 2);
-    const int minute = number(text, 14, 2);
-    const int second = number(text, 17, 2);
-    const auto day = makeDay(number(text, 0, 4), number(text, 5, 2), number(text, 8, 2));
+    const char* const bytes = text.data();
+    const int hour = twoDigits(bytes + 11);
+    const int minute = twoDigits(bytes + 14);
+    const int second = twoDigits(bytes + 17);
+    const auto day = makeDay(twoDigits(bytes) * 100 + twoDigits(bytes + 2), twoDigits(bytes + 5), twoDigits(bytes + 8));
     if (!day || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) return {};
     return at(*day, hour, minute, second);
 }

@@ -19,14 +19,20 @@ constexpr std::array leaveColumns{&Figures::paidHalves, &Figures::specialHalves,
 constexpr std::array countColumns{&Figures::absentDays, &Figures::lateEnters, &Figures::earlyLeaves};
 
 QStringList blankRow() {
-    return QStringList(cardColumns, QString());
+    return QStringList(cardColumns);
 }
 
-QStringList headingsFor(bool flexible) {
+QStringList headings(const QString& sixth) {
     const QString line = QStringLiteral(
         "No|日付|休日|予定（メモ）|出社時刻|退社時刻|%1|普通残業|深夜残業|早出勤務|休日出勤|休日深夜|法休出勤|法休深夜|"
         "欠勤時間|有給|特休|代休|欠勤|遅刻|早退|実働時間|詳細出社|詳細退社|ID");
-    return line.arg(flexible ? QStringLiteral("時間差") : QStringLiteral("法内残業")).split(u'|');
+    return line.arg(sixth).split(u'|');
+}
+
+const QStringList& headingsFor(bool flexible) {
+    static const QStringList ofFixed = headings(QStringLiteral("法内残業"));
+    static const QStringList ofFlexible = headings(QStringLiteral("時間差"));
+    return flexible ? ofFlexible : ofFixed;
 }
 
 QString leaveWord(QChar code) {
@@ -79,12 +85,13 @@ class CellWriter final {
 
     [[nodiscard]] QStringList day(int number, const CardDay& day, const Figures& figures) const {
         QStringList row = blankRow();
-        writeFacts(row, number, day);
-        writeTimes(row, figures);
+        QString* const cells = row.data();
+        writeFacts(cells, number, day);
+        writeTimes(cells, figures);
         for (int i = 0; i < 3; ++i)
             if (figures.*countColumns[static_cast<std::size_t>(i)] != 0)
-                row[index(CardColumn::AbsentDay) + i] = QStringLiteral("1");
-        row[index(CardColumn::WorkTime)] = hours(figures.work);
+                cells[index(CardColumn::AbsentDay) + i] = QStringLiteral("1");
+        if (figures.work != 0) cells[index(CardColumn::WorkTime)] = hours(figures.work);
         return row;
     }
 
@@ -101,10 +108,9 @@ class CellWriter final {
         QStringList row = blankRow();
         row[index(CardColumn::Date)] = QStringLiteral("合計(実働)");
         row[3] = QString::number(sum.workDays);
-        row[4] = FormatHours(sum.work, rules_.plngCountUnit, false);
+        row[4] = hours(sum.work);
         row[5] = daysText(static_cast<double>(rules_.psngPaidTotal) - sum.paidHalves * 0.5);
-        for (std::size_t i = 0; i < timeColumns.size(); ++i)
-            row[6 + static_cast<int>(i)] = FormatHours(sum.*timeColumns[i], rules_.plngCountUnit, false);
+        for (std::size_t i = 0; i < timeColumns.size(); ++i) row[6 + static_cast<int>(i)] = hours(sum.*timeColumns[i]);
         if (rules_.pbleFlexTime) row[6] = FormatHours(sum.difference, rules_.plngCountUnit, true);
         for (std::size_t i = 0; i < 3; ++i) {
             row[15 + static_cast<int>(i)] = daysText(sum.*leaveColumns[i] * 0.5);
@@ -119,37 +125,36 @@ class CellWriter final {
         const bool days = column == CardColumn::Leave || (column >= CardColumn::Paid && column <= CardColumn::Compens);
         if (days) return daysText(month.real(field));
         if (column == CardColumn::Plan || column >= CardColumn::AbsentDay) return month.text(field);
-        return FormatHours(static_cast<Minutes>(month.integer(field)), rules_.plngCountUnit, false);
+        return hours(static_cast<Minutes>(month.integer(field)));
     }
 
   private:
     [[nodiscard]] QString hours(Minutes minutes) const {
-        if (minutes == 0) return {};
-        if (minutes > 0 && minutes < hours_.size()) return hours_[minutes];
-        return FormatHours(minutes, rules_.plngCountUnit, false);
+        return minutes >= 0 && minutes < hours_.size() ? hours_[minutes]
+                                                       : FormatHours(minutes, rules_.plngCountUnit, false);
     }
 
-    static void writeFacts(QStringList& row, int number, const CardDay& day) {
+    static void writeFacts(QString* cells, int number, const CardDay& day) {
         const DayFacts& facts = day.facts;
-        row[index(CardColumn::No)] = numberText(number);
-        row[index(CardColumn::Date)] = shortDate(facts.date);
-        if (!facts.type.isNull()) row[index(CardColumn::Holiday)] = typeText(facts.type);
-        row[index(CardColumn::Plan)] = day.plan;
-        if (facts.enter) row[index(CardColumn::Enter)] = timeText(*facts.enter);
-        if (facts.leave) row[index(CardColumn::Leave)] = leaveText(*facts.leave, facts.date);
-        row[index(CardColumn::Paid)] = leaveWord(facts.paid);
-        row[index(CardColumn::Special)] = leaveWord(facts.special);
-        row[index(CardColumn::Compens)] = leaveWord(facts.compens);
-        if (facts.enter) row[index(CardColumn::FullEnter)] = slashMoment(*facts.enter);
-        if (facts.leave) row[index(CardColumn::FullLeave)] = slashMoment(*facts.leave);
-        if (day.kurboId) row[index(CardColumn::Id)] = QString::number(*day.kurboId);
+        cells[index(CardColumn::No)] = numberText(number);
+        cells[index(CardColumn::Date)] = shortDate(facts.date);
+        if (!facts.type.isNull()) cells[index(CardColumn::Holiday)] = typeText(facts.type);
+        cells[index(CardColumn::Plan)] = day.plan;
+        if (facts.enter) cells[index(CardColumn::Enter)] = timeText(*facts.enter);
+        if (facts.leave) cells[index(CardColumn::Leave)] = leaveText(*facts.leave, facts.date);
+        cells[index(CardColumn::Paid)] = leaveWord(facts.paid);
+        cells[index(CardColumn::Special)] = leaveWord(facts.special);
+        cells[index(CardColumn::Compens)] = leaveWord(facts.compens);
+        if (facts.enter) cells[index(CardColumn::FullEnter)] = slashMoment(*facts.enter);
+        if (facts.leave) cells[index(CardColumn::FullLeave)] = slashMoment(*facts.leave);
+        if (day.kurboId) cells[index(CardColumn::Id)] = QString::number(*day.kurboId);
     }
 
-    void writeTimes(QStringList& row, const Figures& figures) const {
+    void writeTimes(QString* cells, const Figures& figures) const {
         for (std::size_t i = 0; i < timeColumns.size(); ++i)
-            row[6 + static_cast<int>(i)] = hours(figures.*timeColumns[i]);
+            if (figures.*timeColumns[i] != 0) cells[6 + i] = hours(figures.*timeColumns[i]);
         if (figures.difference != 0 && figures.legalOver == 0)
-            row[6] = FormatHours(figures.difference, rules_.plngCountUnit, true);
+            cells[6] = FormatHours(figures.difference, rules_.plngCountUnit, true);
     }
 
     const clsWorkTime& rules_;

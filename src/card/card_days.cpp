@@ -8,10 +8,14 @@ QChar code(const Rows& rows, int column) {
     return text.empty() ? QChar() : QChar(QLatin1Char(text.front()));
 }
 
-CardDay joined(Day date, QChar type, const Rows& card) {
-    return {{date, type, card.moment(2), card.moment(3), code(card, 4), code(card, 5), code(card, 6)},
-            card.text(1),
-            card.integer(7)};
+void readCard(CardDay& day, const Rows& card) {
+    day.plan = card.text(1);
+    day.facts.enter = card.moment(2);
+    day.facts.leave = card.moment(3);
+    day.facts.paid = code(card, 4);
+    day.facts.special = code(card, 5);
+    day.facts.compens = code(card, 6);
+    day.kurboId = card.integer(7);
 }
 
 } // namespace
@@ -28,7 +32,20 @@ CardDays readCardDays(Connection& connection, const QString& staff, Day from, Da
         {staff, dateId(from), dateId(to)});
     CardDays result;
     result.days.reserve(static_cast<std::size_t>((behind - from).count()));
-    bool more = cards.next();
+    bool more = false;
+    std::string_view cardDay;
+    const auto nextCard = [&] {
+        more = cards.next();
+        if (more) cardDay = cards.bytes(0);
+    };
+    nextCard();
+    // Filled in its place: building each row aside and moving it in shows in the time of a card.
+    const auto addDay = [&](Day date, QChar type) -> CardDay& {
+        CardDay& day = result.days.emplace_back();
+        day.facts.date = date;
+        day.facts.type = type;
+        return day;
+    };
     while (calendar.next()) {
         const auto moment = calendar.moment(0);
         if (!moment) continue;
@@ -38,11 +55,10 @@ CardDays readCardDays(Connection& connection, const QString& staff, Day from, Da
             result.next = type;
             break;
         }
-        while (more && cards.bytes(0) < calendar.bytes(2)) more = cards.next();
-        if (!more || cards.bytes(0) != calendar.bytes(2))
-            result.days.push_back({{date, type, {}, {}, {}, {}, {}}, {}, {}});
-        for (; more && cards.bytes(0) == calendar.bytes(2); more = cards.next())
-            result.days.push_back(joined(date, type, cards));
+        const std::string_view calendarDay = calendar.bytes(2);
+        while (more && cardDay < calendarDay) nextCard();
+        if (!more || cardDay != calendarDay) addDay(date, type);
+        for (; more && cardDay == calendarDay; nextCard()) readCard(addDay(date, type), cards);
     }
     return result;
 }

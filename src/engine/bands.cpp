@@ -70,8 +70,14 @@ std::optional<std::int32_t> timeOfDay(QStringView text) {
 
 void BandList::set(int index, std::int32_t start, std::int32_t end) {
     bands_[static_cast<std::size_t>(index)] = {start, end};
-    used_ = 0;
-    while (used_ < capacity && !bands_[used_].isEmpty()) ++used_;
+    starts_ = {};
+    ends_ = {};
+    length_ = 0;
+    for (std::size_t i = 0; i < bands_.size() && !bands_[i].isEmpty(); ++i) {
+        starts_[i] = bands_[i].start;
+        ends_[i] = bands_[i].end;
+        length_ += ends_[i] - starts_[i];
+    }
 }
 
 const BandProperty* bandProperty(DayType day, BandKind kind) {

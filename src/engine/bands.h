@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -31,9 +32,15 @@ struct Band {
 class BandList final {
   public:
     static constexpr int capacity = 4;
-    [[nodiscard]] const Band* begin() const { return bands_.data(); }
-    [[nodiscard]] const Band* end() const { return bands_.data() + used_; }
     [[nodiscard]] const Band& at(int index) const { return bands_[static_cast<std::size_t>(index)]; }
+    // How much of a stay lies in the bands, all in seconds since the midnight of the bands.
+    [[nodiscard]] std::int32_t overlap(std::int32_t enter, std::int32_t leave) const {
+        std::int32_t total = 0;
+        for (std::size_t i = 0; i < starts_.size(); ++i)
+            total += std::max(0, std::min(leave, ends_[i]) - std::max(enter, starts_[i]));
+        return total;
+    }
+    [[nodiscard]] std::int32_t length() const { return length_; }
     void setStart(int index, std::int32_t seconds) { set(index, seconds, at(index).end); }
     void setEnd(int index, std::int32_t seconds) { set(index, at(index).start, seconds); }
 
@@ -41,7 +48,10 @@ class BandList final {
     void set(int index, std::int32_t start, std::int32_t end);
 
     std::array<Band, capacity> bands_;
-    std::uint8_t used_ = 0;
+    // The bands of the walk side by side, so that all four are compared at once; places behind them have no length.
+    std::array<std::int32_t, capacity> starts_{};
+    std::array<std::int32_t, capacity> ends_{};
+    std::int32_t length_ = 0;
 };
 
 // One pair of band properties, as "pstrStartWork" and "pstrEndWork", with the words of its failures.

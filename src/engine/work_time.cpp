@@ -149,19 +149,18 @@ void clsWorkTime::plngNextDayType(int type) {
 
 // The stay's overlap with the bands placed on the day that begins at `dayStart`.
 clsWorkTime::Seconds clsWorkTime::overlap(Seconds dayStart, const BandList& list) const {
-    Seconds total = 0;
-    for (const Band& band : list) {
-        const Seconds from = std::max(enter_, dayStart + band.start);
-        const Seconds to = std::min(leave_, dayStart + band.end);
-        total += std::max<Seconds>(to - from, 0);
-    }
-    return total;
+    return list.overlap(enter_ - dayStart, leave_ - dayStart);
 }
 
-// Every date from the enter's to the leave's, and at least the first.
-clsWorkTime::Seconds clsWorkTime::walked(const BandList& list) const {
-    Seconds total = overlap(0, list);
-    for (Seconds day = secondsOfDay; day <= lastDay_; day += secondsOfDay) total += overlap(day, list);
+// Every date from the enter's to the leave's, and at least the first; with `shift`, from so much later on.
+clsWorkTime::Seconds clsWorkTime::walked(const BandList& list, Seconds shift) const {
+    const Seconds first = overlap(shift, list);
+    return lastDay_ == 0 ? first : first + walkedBeyondFirst(list, shift);
+}
+
+clsWorkTime::Seconds clsWorkTime::walkedBeyondFirst(const BandList& list, Seconds shift) const {
+    Seconds total = 0;
+    for (Seconds day = secondsOfDay; day <= lastDay_; day += secondsOfDay) total += overlap(day + shift, list);
     return total;
 }
 
@@ -186,10 +185,7 @@ Minutes clsWorkTime::overWork(DayType day, DayType afterAmHoliday) const {
     Seconds total = walked(bands(day, BandKind::Over));
     if (nextDayType_ >= 0 && nextDayType_ <= 3) {
         const auto next = nextDayType_ == 2 ? afterAmHoliday : static_cast<DayType>(nextDayType_);
-        const BandList& list = bands(next, BandKind::AfterLate);
-        Seconds dayStart = secondsOfDay;
-        do total += overlap(dayStart, list);
-        while ((dayStart += secondsOfDay) <= lastDay_ + secondsOfDay);
+        total += walked(bands(next, BandKind::AfterLate), secondsOfDay);
     }
     return minutes(total);
 }
@@ -237,9 +233,7 @@ Minutes clsWorkTime::PmEarlyWork() const {
 
 Minutes clsWorkTime::absentHour(DayType day, bool flexible) const {
     const BandList& list = bands(day, flexible ? BandKind::Core : BandKind::Work);
-    Seconds total = -overlap(0, list);
-    for (const Band& band : list) total += band.end - band.start;
-    return minutes(total);
+    return minutes(list.length() - overlap(0, list));
 }
 
 Minutes clsWorkTime::AbsentHour() const {

@@ -126,7 +126,9 @@ class clsWorkTime final {
     void placeLeave();
 
     [[nodiscard]] Seconds overlap(Seconds dayStart, const BandList& list) const;
-    [[nodiscard]] Seconds walked(const BandList& list) const;
+    [[nodiscard]] Seconds walked(const BandList& list, Seconds shift = 0) const;
+    // Cold: few stays go over midnight, and the others are not to pay for it.
+    [[nodiscard, gnu::cold]] Seconds walkedBeyondFirst(const BandList& list, Seconds shift) const;
     [[nodiscard]] Minutes workTime(DayType day, bool flexible) const;
     [[nodiscard]] Minutes overWork(DayType day, DayType afterAmHoliday) const;
     [[nodiscard]] Minutes absentHour(DayType day, bool flexible) const;

@@ -131,6 +131,7 @@ void Connection::close() {
             for (const auto& prepared : shelf) sqlite3_finalize(prepared->statement);
         shelves.clear();
     }
+    for (sqlite3_stmt*& frame : frames_) sqlite3_finalize(std::exchange(frame, nullptr));
     sqlite3_close_v2(std::exchange(database_, nullptr));
     lock_.leave();
     ++opening_;
@@ -154,6 +155,25 @@ void Connection::fail(int result) {
 void Connection::engine(const QByteArray& sql) {
     if (!database_) throw storeFault(StoreError::NoFile, path_);
     const int result = sqlite3_exec(database_, sql.constData(), nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK) fail(result);
+}
+
+int Connection::run(Frame frame) {
+    constexpr std::array texts{"BEGIN", "BEGIN IMMEDIATE", "COMMIT"};
+    if (!database_) throw storeFault(StoreError::NoFile, path_);
+    const auto index = static_cast<std::size_t>(frame);
+    sqlite3_stmt*& statement = frames_[index];
+    if (!statement) {
+        const int result =
+            sqlite3_prepare_v3(database_, texts[index], -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+        if (result != SQLITE_OK) return result;
+    }
+    sqlite3_step(statement);
+    return sqlite3_reset(statement);
+}
+
+void Connection::runOrFail(Frame frame) {
+    const int result = run(frame);
     if (result != SQLITE_OK) fail(result);
 }
 
@@ -282,7 +302,7 @@ Transaction::Transaction(Connection& connection)
     : connection_(connection), turn_(connection), opening_(connection.opening_) {
     if (connection_.transactions_ == 0) {
         if (connection_.readOnly()) throw storeFault(StoreError::ReadOnly, connection_.path());
-        connection_.engine("BEGIN IMMEDIATE");
+        connection_.runOrFail(Connection::Frame::BeginWriting);
     }
     ++connection_.transactions_;
 }
@@ -296,7 +316,7 @@ Transaction::~Transaction() {
 
 void Transaction::commit() {
     if (opening_ != connection_.opening_) throw storeFault(StoreError::Moved, connection_.path());
-    if (connection_.transactions_ == 1) connection_.engine("COMMIT");
+    if (connection_.transactions_ == 1) connection_.runOrFail(Connection::Frame::Commit);
     --connection_.transactions_;
     open_ = false;
 }
@@ -305,12 +325,11 @@ Reading::Reading(Connection& connection)
     : connection_(connection),
       opening_(connection.opening_),
       own_(!connection.database_ || sqlite3_get_autocommit(connection.database_) != 0) {
-    if (own_) connection_.engine("BEGIN");
+    if (own_) connection_.runOrFail(Connection::Frame::Begin);
 }
 
 Reading::~Reading() {
-    if (own_ && opening_ == connection_.opening_)
-        sqlite3_exec(connection_.database_, "COMMIT", nullptr, nullptr, nullptr);
+    if (own_ && opening_ == connection_.opening_) connection_.run(Connection::Frame::Commit);
 }
 
 } // namespace kurbo

@@ -72,6 +72,8 @@ class Connection final {
     friend class Reading;
 
     enum class Form { Plain, FromLast, WithId };
+    // The statements around all others, kept ready.
+    enum class Frame { Begin, BeginWriting, Commit };
     // Statements of one wording; more than one where the same question is asked within its own loop.
     using Shelf = std::vector<std::unique_ptr<Prepared>>;
 
@@ -81,6 +83,8 @@ class Connection final {
     void checkIdentity(const QString& password);
     void beginTurn();
     void endTurn();
+    int run(Frame frame);
+    void runOrFail(Frame frame);
     Prepared& prepare(Form form, const QString& statement);
     static void forgetIdle(std::unordered_map<QString, Shelf>& shelves);
     Rows bound(Prepared& prepared, const Values& values);
@@ -101,6 +105,7 @@ class Connection final {
     Patience nextNotice_;
     WaitNotice notice_;
     std::array<std::unordered_map<QString, Shelf>, 3> shelves_;
+    std::array<sqlite3_stmt*, 3> frames_{};
 };
 
 // This connection's turn among the writers of all clients: the questions asked during a turn and the writes that follow

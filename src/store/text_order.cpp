@@ -20,7 +20,8 @@ int compareBytes(std::string_view left, std::string_view right) {
     for (std::size_t i = 0; i < common; ++i) {
         const auto a = static_cast<unsigned char>(left[i]);
         const auto b = static_cast<unsigned char>(right[i]);
-        if (a >= 0x80 && b >= 0x80 && a != b) {
+        if (a == b) continue;
+        if (a >= 0x80 && b >= 0x80) {
             const auto rest = [](std::string_view text) {
                 return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
             };
