@@ -20,7 +20,7 @@ class LoudPrompts final : public Prompts {
         std::printf("message: %s\n", message.text.toUtf8().constData());
         return message.preset;
     }
-    std::optional<QString> openFile(const QString& /*filter*/) override { return {}; }
+    QStringList chooseFiles(const FileQuestion& /*question*/) override { return {}; }
 };
 
 struct Office {

@@ -217,6 +217,12 @@ std::optional<Moment> parseSlashMoment(QStringView text) {
     return Moment{*day} + *clock;
 }
 
+std::optional<seconds> parseClock(QStringView text) {
+    qsizetype from = 0;
+    const auto clock = clockAt(text, from);
+    return from == text.size() ? clock : std::nullopt;
+}
+
 std::optional<Moment> parseIso(std::string_view text) {
     if (text.size() != 19 || text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
         return {};

@@ -47,6 +47,8 @@ using Minutes = std::int32_t;
 [[nodiscard]] std::optional<Day> parseSlashDate(QStringView text);
 // "yyyy/mm/dd", optionally followed by a blank and "hh:nn" or "hh:nn:ss".
 [[nodiscard]] std::optional<Moment> parseSlashMoment(QStringView text);
+// "hh:nn" or "hh:nn:ss" from midnight, also with one-digit parts; hours 0 to 23.
+[[nodiscard]] std::optional<std::chrono::seconds> parseClock(QStringView text);
 // "yyyy-mm-dd hh:nn:ss", the hot path of every read.
 [[nodiscard]] std::optional<Moment> parseIso(std::string_view text);
 

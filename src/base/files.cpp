@@ -36,8 +36,8 @@ void syncFolderOf(const QString& path) {
 
 QString addSlash(const QString& folder) {
     QString result = folder.trimmed();
-    if (!result.endsWith(u'/')) result += u'/';
-    return result;
+    while (result.endsWith(u'/')) result.chop(1);
+    return result + u'/';
 }
 
 bool CheckPath(QString& path, bool folder) {
@@ -45,6 +45,31 @@ bool CheckPath(QString& path, bool folder) {
     if (path.isEmpty()) return false;
     const QFileInfo info(path);
     return folder ? info.isDir() : info.isFile();
+}
+
+bool FileExists(const QString& path, bool orFolder) {
+    QString trimmed = path;
+    return CheckPath(trimmed) || (orFolder && CheckPath(trimmed, true));
+}
+
+QString FileNameOf(const QString& path) {
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+QString FolderOf(const QString& path) {
+    return path.left(path.lastIndexOf(u'/'));
+}
+
+QString WithoutExtension(const QString& fileName) {
+    return fileName.left(fileName.indexOf(u'.'));
+}
+
+QStringList SplitFileList(const QString& chosen) {
+    QStringList names = chosen.split(QChar(u'\0'), Qt::SkipEmptyParts);
+    if (names.size() < 2) return names;
+    const QString folder = addSlash(names.takeFirst());
+    for (QString& name : names) name.prepend(folder);
+    return names;
 }
 
 QByteArray readFile(const QString& path) {

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 namespace kurbo {
 
@@ -11,6 +12,17 @@ namespace kurbo {
 // Trims `path` in place. True when the file, or with `folder` the folder, is there; false for an empty path and on any
 // failure.
 [[nodiscard]] bool CheckPath(QString& path, bool folder = false);
+
+// Whether the trimmed path is a file, or with `orFolder` a file or a folder; false for an empty path.
+[[nodiscard]] bool FileExists(const QString& path, bool orFolder = false);
+
+// What follows the last slash, and what stands before it; the whole text without one.
+[[nodiscard]] QString FileNameOf(const QString& path);
+[[nodiscard]] QString FolderOf(const QString& path);
+// What stands before the name's first dot; the whole name without one.
+[[nodiscard]] QString WithoutExtension(const QString& fileName);
+// The paths of a folder and names that NUL characters part. A single field is a path already.
+[[nodiscard]] QStringList SplitFileList(const QString& chosen);
 
 // All bytes of a file; throws a Fault.
 [[nodiscard]] QByteArray readFile(const QString& path);

@@ -3,6 +3,13 @@
 #include "base/product.h"
 
 namespace kurbo {
+namespace {
+
+std::optional<QString> firstOf(const QStringList& paths) {
+    return paths.isEmpty() ? std::nullopt : std::optional(paths.constFirst());
+}
+
+} // namespace
 
 void Prompts::exclaim(const QString& text) {
     ask({productName(), text, Icon::Exclamation});
@@ -14,6 +21,19 @@ void Prompts::inform(const QString& text) {
 
 bool Prompts::confirm(const QString& text) {
     return ask({productName(), text, Icon::Question, Buttons::YesNo, Answer::No}) == Answer::Yes;
+}
+
+std::optional<QString> Prompts::openFile(const QString& filter) {
+    return firstOf(chooseFiles({FileQuestion::Kind::Open, filter, {}, {}}));
+}
+
+QStringList Prompts::openFiles(const QString& filter) {
+    return chooseFiles({FileQuestion::Kind::OpenMany, filter, {}, {}});
+}
+
+std::optional<QString> Prompts::saveFile(const QString& filter, const QString& defaultExtension,
+                                         const QString& suggestedName) {
+    return firstOf(chooseFiles({FileQuestion::Kind::Save, filter, defaultExtension, suggestedName}));
 }
 
 } // namespace kurbo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -18,20 +19,38 @@ struct Message {
     Answer preset = Answer::Ok;
 };
 
+// What a file dialog asks for.
+struct FileQuestion {
+    enum class Kind { Open, OpenMany, Save };
+    Kind kind = Kind::Open;
+    // "text|pattern|text|pattern"; empty for all files.
+    QString filter;
+    // Of a save: what a name without an extension gets, without the dot.
+    QString defaultExtension;
+    QString suggestedName;
+};
+
 // Whatever the program tells or asks a person goes through here: boxes on the screen, standard error in the command
 // line, a script in tests.
 class Prompts {
   public:
     virtual ~Prompts() = default;
     virtual Answer ask(const Message& message) = 0;
-    // `filter` in the form "text|pattern"; nothing when the dialog is cancelled.
-    virtual std::optional<QString> openFile(const QString& filter) = 0;
+    // The paths chosen, none when the dialog is cancelled. Files to open are there; to replace one by saving, the
+    // person has said yes.
+    virtual QStringList chooseFiles(const FileQuestion& question) = 0;
 
     // The common boxes, titled with the product's name.
     void exclaim(const QString& text);
     void inform(const QString& text);
     // Question of a risky kind: Yes and No, No being the preset.
     [[nodiscard]] bool confirm(const QString& text);
+
+    // The file dialogs; nothing when they are cancelled.
+    [[nodiscard]] std::optional<QString> openFile(const QString& filter);
+    [[nodiscard]] QStringList openFiles(const QString& filter);
+    [[nodiscard]] std::optional<QString> saveFile(const QString& filter, const QString& defaultExtension,
+                                                  const QString& suggestedName = {});
 };
 
 } // namespace kurbo

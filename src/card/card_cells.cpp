@@ -2,6 +2,7 @@
 
 #include "store/readers.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kurbo {
@@ -35,10 +36,14 @@ const QStringList& headingsFor(bool flexible) {
     return flexible ? ofFlexible : ofFixed;
 }
 
+// By their codes "0", "1", "2".
+const std::array<QString, 3>& leaveWords() {
+    static const std::array words{QStringLiteral("全日"), QStringLiteral("午前"), QStringLiteral("午後")};
+    return words;
+}
+
 QString leaveWord(QChar code) {
-    if (code == u'0') return QStringLiteral("全日");
-    if (code == u'1') return QStringLiteral("午前");
-    return code == u'2' ? QStringLiteral("午後") : QString();
+    return code >= u'0' && code <= u'2' ? leaveWords()[static_cast<std::size_t>(code.unicode() - u'0')] : QString();
 }
 
 // The texts of all minutes of a day in one form, written once: a card repeats them, and shares them at no cost.
@@ -246,6 +251,11 @@ Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, 
 }
 
 } // namespace
+
+QString leaveCode(const QString& word) {
+    const auto found = std::ranges::find(leaveWords(), word);
+    return found == leaveWords().end() ? QString() : QString::number(found - leaveWords().begin());
+}
 
 QString daysText(double days) {
     return QString::number(days, 'f', 1);

@@ -61,6 +61,9 @@ struct Card {
 [[nodiscard]] std::optional<Card> makeCard(const Context& context, Connection& connection, clsWorkTime& rules,
                                            const QString& staff, Period span);
 
+// The stored code of a leave's word (全日, 午前, 午後); empty for any other text.
+[[nodiscard]] QString leaveCode(const QString& word);
+
 // Days as text with one place, "18.5".
 [[nodiscard]] QString daysText(double days);
 

@@ -32,7 +32,7 @@ void describeColumns(GridModel& grid, const Card& card) {
 } // namespace
 
 void fillCardGrid(GridModel& grid, const Card& card) {
-    grid.Redraw(false);
+    const Undrawn undrawn(grid);
     grid.reset({.rows = firstCardDay + static_cast<int>(card.days.size()),
                 .columns = cardColumns,
                 .frozenRows = firstCardDay - 1,
@@ -49,7 +49,6 @@ void fillCardGrid(GridModel& grid, const Card& card) {
         if (const auto colour = dateColour(cells[static_cast<int>(CardColumn::Holiday)]))
             grid.CellForeColor(firstCardDay + i, static_cast<int>(CardColumn::Date), colour);
     }
-    grid.Redraw(true);
 }
 
 } // namespace kurbo

@@ -2,6 +2,7 @@
 
 #include "screen/grid_model.h"
 
+#include <functional>
 #include <set>
 
 namespace kurbo {
@@ -18,6 +19,9 @@ struct CardSheet {
     // keep their stored seconds.
     std::set<int> enterEdited;
     std::set<int> leaveEdited;
+
+    // Told after every edit.
+    std::function<void()> onEdit;
 
     [[nodiscard]] bool blnEnterEdited(int row) const { return enterEdited.contains(row); }
     [[nodiscard]] bool blnLeaveEdited(int row) const { return leaveEdited.contains(row); }

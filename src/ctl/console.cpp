@@ -31,7 +31,7 @@ Answer ConsolePrompts::ask(const Message& message) {
     return *answer_;
 }
 
-std::optional<QString> ConsolePrompts::openFile(const QString& /*filter*/) {
+QStringList ConsolePrompts::chooseFiles(const FileQuestion& /*question*/) {
     return {};
 }
 

@@ -18,7 +18,7 @@ class ConsolePrompts final : public Prompts {
   public:
     explicit ConsolePrompts(std::optional<Answer> answer = {}) : answer_(answer) {}
     Answer ask(const Message& message) override;
-    std::optional<QString> openFile(const QString& filter) override;
+    QStringList chooseFiles(const FileQuestion& question) override;
     // Whether a fault of the program, the store or a file was reported.
     [[nodiscard]] bool sawFault() const { return sawFault_; }
 

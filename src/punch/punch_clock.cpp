@@ -41,9 +41,9 @@ class TurnUntilMessage final : public Prompts {
         turn_.reset();
         return prompts_.ask(message);
     }
-    std::optional<QString> openFile(const QString& filter) override {
+    QStringList chooseFiles(const FileQuestion& question) override {
         turn_.reset();
-        return prompts_.openFile(filter);
+        return prompts_.chooseFiles(question);
     }
 
   private:

@@ -1,6 +1,7 @@
 #include "punch/record.h"
 
 #include "store/engine_fault.h"
+#include "store/fresh_keys.h"
 #include "store/readers.h"
 #include "store/record_set.h"
 
@@ -50,25 +51,13 @@ void setTime(Connection& connection, const QString& staff, const QString& dateId
     connection.execute(statement, {when, *id});
 }
 
-// Runs the write in one transaction; a key taken by another client is left to it, and the write starts over.
 template <typename Write>
 bool written(const Context& context, Connection& connection, QStringView procedure, Write write) {
-    constexpr int mostRetries = 5;
-    const auto attempt = [&] {
-        Transaction transaction(connection);
-        write();
-        transaction.commit();
-        return true;
-    };
+    constexpr int mostAttempts = 6;
     try {
         return guarded(context, u"frmLogin", procedure, false, [&] {
-            for (int retries = 1;; ++retries) {
-                try {
-                    return attempt();
-                } catch (const Fault& fault) {
-                    if (!isDuplicateKey(fault) || retries > mostRetries) throw;
-                }
-            }
+            writeWithFreshKeys(connection, mostAttempts, write);
+            return true;
         });
     } catch (const NoId& none) {
         report(context, u"basKurbo", u"GenerateKurboID", none.fault);

@@ -4,6 +4,7 @@
 #include "screen/hourglass.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -72,6 +73,47 @@ void setText(QMessageBox& box, const Message& message) {
     keepLinesWhole(box);
 }
 
+// The toolkit's own dialog, with the program's question before a file is replaced.
+class FileDialog final : public QFileDialog {
+  public:
+    FileDialog(BoxPrompts& prompts, const FileQuestion& question)
+        : QFileDialog(QApplication::activeWindow()), prompts_(prompts) {
+        constexpr QSize roomy(860, 520);
+        setObjectName(QStringLiteral("dlgFile"));
+        setOption(QFileDialog::DontUseNativeDialog);
+        setOption(QFileDialog::DontConfirmOverwrite);
+        resize(roomy);
+        setNameFilters(kurbo::nameFilters(question.filter));
+        setFor(question);
+        setLabelText(QFileDialog::Reject, QStringLiteral("ｷｬﾝｾﾙ"));
+        setLabelText(QFileDialog::LookIn, QStringLiteral("場所："));
+        setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名(&N)："));
+        setLabelText(QFileDialog::FileType, QStringLiteral("ファイルの種類："));
+    }
+    void accept() override {
+        if (acceptMode() == AcceptOpen || mayReplace()) QFileDialog::accept();
+    }
+
+  private:
+    void setFor(const FileQuestion& question) {
+        const bool saves = question.kind == FileQuestion::Kind::Save;
+        setWindowTitle(productName() +
+                       (saves ? QStringLiteral("－名前を付けて保存") : QStringLiteral("－ファイルを開く")));
+        setAcceptMode(saves ? AcceptSave : AcceptOpen);
+        setFileMode(saves ? AnyFile : question.kind == FileQuestion::Kind::OpenMany ? ExistingFiles : ExistingFile);
+        setLabelText(QFileDialog::Accept, saves ? QStringLiteral("保存(&S)") : QStringLiteral("開く(&O)"));
+        setDefaultSuffix(question.defaultExtension);
+        if (!question.suggestedName.isEmpty()) selectFile(question.suggestedName);
+    }
+    bool mayReplace() {
+        const QStringList paths = selectedFiles();
+        if (paths.isEmpty() || !QFileInfo(paths.constFirst()).isFile()) return true;
+        return prompts_.confirm(paths.constFirst() + QStringLiteral("は既に存在します。\r\n\r\n上書きしますか？"));
+    }
+
+    BoxPrompts& prompts_;
+};
+
 } // namespace
 
 Answer BoxPrompts::ask(const Message& message) {
@@ -88,22 +130,10 @@ Answer BoxPrompts::ask(const Message& message) {
     return box.clickedButton() == accept ? first : second;
 }
 
-std::optional<QString> BoxPrompts::openFile(const QString& filter) {
-    constexpr QSize roomy(860, 520);
+QStringList BoxPrompts::chooseFiles(const FileQuestion& question) {
     const NormalPointer pointer;
-    QFileDialog dlgFile(QApplication::activeWindow(), productName() + QStringLiteral("－ファイルを開く"));
-    dlgFile.setObjectName(QStringLiteral("dlgFile"));
-    dlgFile.setOption(QFileDialog::DontUseNativeDialog);
-    dlgFile.setFileMode(QFileDialog::ExistingFile);
-    dlgFile.resize(roomy);
-    dlgFile.setNameFilters(nameFilters(filter));
-    dlgFile.setLabelText(QFileDialog::Accept, QStringLiteral("開く(&O)"));
-    dlgFile.setLabelText(QFileDialog::Reject, QStringLiteral("ｷｬﾝｾﾙ"));
-    dlgFile.setLabelText(QFileDialog::LookIn, QStringLiteral("場所："));
-    dlgFile.setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名(&N)："));
-    dlgFile.setLabelText(QFileDialog::FileType, QStringLiteral("ファイルの種類："));
-    if (dlgFile.exec() != QDialog::Accepted || dlgFile.selectedFiles().isEmpty()) return std::nullopt;
-    return dlgFile.selectedFiles().constFirst();
+    FileDialog dlgFile(*this, question);
+    return dlgFile.exec() == QDialog::Accepted ? dlgFile.selectedFiles() : QStringList();
 }
 
 QStringList nameFilters(const QString& filter) {

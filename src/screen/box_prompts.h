@@ -10,7 +10,7 @@ namespace kurbo {
 class BoxPrompts final : public Prompts {
   public:
     Answer ask(const Message& message) override;
-    std::optional<QString> openFile(const QString& filter) override;
+    QStringList chooseFiles(const FileQuestion& question) override;
 };
 
 // "text|pattern|text|pattern" as the toolkit's dialogs want it; an empty filter means all files.

@@ -1,5 +1,7 @@
 #include "screen/fields.h"
 
+#include "screen/prefectures.h"
+
 #include <QGuiApplication>
 #include <QInputMethod>
 
@@ -23,6 +25,21 @@ void SetImeOpen(QWidget* field, bool open) {
 
 void SelectAllText(QLineEdit* field) {
     field->setSelection(0, static_cast<int>(field->text().size()));
+}
+
+QLineEdit* editorOf(QWidget* field) {
+    if (auto* const combo = qobject_cast<QComboBox*>(field)) return combo->lineEdit();
+    return qobject_cast<QLineEdit*>(field);
+}
+
+void FillPrefectures(QComboBox& list, bool withAll) {
+    list.clear();
+    for (int code = withAll ? 0 : 1; code <= prefectureCount; ++code) list.addItem(PrefectureName(code), code);
+}
+
+void RefusePassword(Prompts& prompts, QLineEdit& box, const QString& text) {
+    prompts.exclaim(QStringLiteral("不正なパスワードです。正しいパスワードを入力して下さい。"));
+    box.setText(text);
 }
 
 } // namespace kurbo

@@ -4,7 +4,7 @@
 
 namespace kurbo {
 
-GridList::GridList(const QString& list) : open_(list.startsWith(u'|')) {
+GridList::GridList(const QString& list) : source_(list), open_(list.startsWith(u'|')) {
     for (const QString& entry : list.split(u'|', Qt::SkipEmptyParts))
         if (entry.startsWith(u'#'))
             entries_.append({entry.mid(1).section(u';', 0, 0), entry.section(u';', 1)});

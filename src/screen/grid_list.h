@@ -17,6 +17,8 @@ class GridList final {
     GridList() = default;
     explicit GridList(const QString& list);
 
+    // The list as it was given.
+    [[nodiscard]] const QString& source() const { return source_; }
     [[nodiscard]] bool isEmpty() const { return entries_.isEmpty(); }
     [[nodiscard]] bool isOpen() const { return open_; }
     [[nodiscard]] const QList<Entry>& entries() const { return entries_; }
@@ -26,6 +28,7 @@ class GridList final {
     [[nodiscard]] bool hasText(const QString& text) const;
 
   private:
+    QString source_;
     QList<Entry> entries_;
     bool open_ = false;
 };

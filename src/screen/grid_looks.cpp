@@ -18,6 +18,10 @@ void GridModel::ColFormat(int column, const QString& format) {
     lookChanged();
 }
 
+QString GridModel::ColFormat(int column) const {
+    return columnAt(column).format;
+}
+
 void GridModel::ColEditMask(int column, const QString& mask) {
     columnAt(column).mask = mask;
 }
@@ -38,6 +42,10 @@ GridType GridModel::ColDataType(int column) const {
 void GridModel::ColAlignment(int column, GridAlign align) {
     columnAt(column).align = align;
     lookChanged();
+}
+
+GridAlign GridModel::ColAlignment(int column) const {
+    return columnAt(column).align;
 }
 
 void GridModel::ColWidth(int column, int twips) {
@@ -111,6 +119,14 @@ std::optional<GridColour> GridModel::CellForeColor(int row, int column) const {
 
 std::optional<GridColour> GridModel::CellBackColor(int row, int column) const {
     return colourOf(row, column, &Look::back);
+}
+
+std::optional<GridColour> GridModel::RowForeColor(int row) const {
+    return holds(row, 0) ? rowAt(row).look.fore : std::nullopt;
+}
+
+std::optional<GridColour> GridModel::RowBackColor(int row) const {
+    return holds(row, 0) ? rowAt(row).look.back : std::nullopt;
 }
 
 } // namespace kurbo

@@ -90,12 +90,14 @@ class GridModel final : public QAbstractTableModel {
     void ColComboList(int column, const QString& list);
     [[nodiscard]] const GridList& ColComboList(int column) const;
     void ColFormat(int column, const QString& format);
+    [[nodiscard]] QString ColFormat(int column) const;
     // Places of an edited text: "0" a digit that must be there, "#" one that may be there, other signs themselves.
     void ColEditMask(int column, const QString& mask);
     [[nodiscard]] QString ColEditMask(int column) const;
     void ColDataType(int column, GridType type);
     [[nodiscard]] GridType ColDataType(int column) const;
     void ColAlignment(int column, GridAlign align);
+    [[nodiscard]] GridAlign ColAlignment(int column) const;
     void ColWidth(int column, int twips);
     [[nodiscard]] int ColWidth(int column) const;
     void ColHidden(int column, bool hidden);
@@ -111,8 +113,11 @@ class GridModel final : public QAbstractTableModel {
     void CellBackColor(int row, int column, std::optional<GridColour> colour);
     void RowForeColor(int row, std::optional<GridColour> colour);
     void RowBackColor(int row, std::optional<GridColour> colour);
+    // What the cell is drawn in: its own colour before its row's.
     [[nodiscard]] std::optional<GridColour> CellForeColor(int row, int column) const;
     [[nodiscard]] std::optional<GridColour> CellBackColor(int row, int column) const;
+    [[nodiscard]] std::optional<GridColour> RowForeColor(int row) const;
+    [[nodiscard]] std::optional<GridColour> RowBackColor(int row) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -164,6 +169,18 @@ class GridModel final : public QAbstractTableModel {
     GridRules* rules_ = nullptr;
     bool mergeHeadings_ = false;
     bool quiet_ = false;
+};
+
+// A grid that isn't redrawn for as long as it lives.
+class Undrawn final {
+  public:
+    explicit Undrawn(GridModel& grid) : grid_(grid) { grid_.Redraw(false); }
+    ~Undrawn() { grid_.Redraw(true); }
+    Undrawn(const Undrawn&) = delete;
+    Undrawn& operator=(const Undrawn&) = delete;
+
+  private:
+    GridModel& grid_;
 };
 
 } // namespace kurbo

@@ -15,6 +15,8 @@ class GridRules {
     [[nodiscard]] virtual QString comboList(int /*row*/, int /*column*/) const { return {}; }
     // Why a typed text, trimmed and not empty, can't be taken; empty when it can.
     [[nodiscard]] virtual QString refusal(int /*row*/, int /*column*/, const QString& /*text*/) const { return {}; }
+    // Whether a click may open the cell's editor; typing and F2 always do.
+    [[nodiscard]] virtual bool opensByClick(int /*row*/, int /*column*/) const { return true; }
     // The person has changed the cell, by typing, pasting or clearing.
     virtual void edited(int /*row*/, int /*column*/) {}
     // Shown where the mouse rests, and while the list is scrolled.

@@ -14,6 +14,16 @@ void placeInMiddle(QWidget* window) {
     window->move(frame.topLeft());
 }
 
+void fillScreen(QWidget* window, QSize most) {
+    // What a window's frame takes.
+    constexpr QSize frame(4, 34);
+    const QRect room = window->screen()->availableGeometry();
+    const QSize size = most.boundedTo(room.size() - frame);
+    window->resize(size);
+    window->move(room.left() + (room.width() - size.width()) / 2,
+                 room.top() + (room.height() - size.height() - frame.height()) / 2);
+}
+
 void paintNow(QWidget* window) {
     constexpr int patience = 200;
     QElapsedTimer waited;

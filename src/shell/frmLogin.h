@@ -1,9 +1,9 @@
 #pragma once
 
 #include "punch/punch_clock.h"
-#include "shell/client.h"
 #include "shell/login.h"
 #include "shell/setup_order.h"
+#include "store/client.h"
 
 #include <QMainWindow>
 #include <QTimer>

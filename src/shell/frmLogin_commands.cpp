@@ -1,10 +1,11 @@
+#include "screen/coming_screens.h"
+#include "screen/frmAbout.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/open_forms.h"
-#include "shell/coming_screens.h"
-#include "shell/frmAbout.h"
 #include "shell/frmLogin.h"
 #include "shell/frmParm.h"
+#include "shell/screens.h"
 #include "ui_frmLogin.h"
 
 #include <QShortcut>
@@ -68,7 +69,10 @@ void frmLogin::openScreen(const QString& screen) {
     tmrTimer_->stop();
     {
         const Hourglass hourglass;
-        showComingScreen(client_.context, screen);
+        if (QMainWindow* const form = makeScreen(client_, screen))
+            form->show();
+        else
+            showComingScreen(client_.context, screen);
     }
     tmrTimer_->start();
 }

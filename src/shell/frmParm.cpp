@@ -2,10 +2,10 @@
 
 #include "base/product.h"
 #include "screen/fields.h"
+#include "screen/frmAbout.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "shell/choose_database.h"
-#include "shell/frmAbout.h"
 #include "ui_frmParm.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/client.h"
+#include "store/client.h"
 
 #include <QDialog>
 

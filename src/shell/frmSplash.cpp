@@ -1,9 +1,9 @@
 #include "shell/frmSplash.h"
 
 #include "base/product.h"
+#include "screen/legal.h"
 #include "screen/show_now.h"
 #include "shell/application.h"
-#include "shell/legal.h"
 #include "ui_frmSplash.h"
 
 namespace kurbo {

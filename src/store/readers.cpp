@@ -14,6 +14,17 @@ QList<CodeName> codeNames(Rows rows) {
     return list;
 }
 
+// "#code;name" joined by "|"; without a code field the names alone.
+QString gridList(Connection& connection, const QString& statement, const QString& codeField, const QString& nameField) {
+    QStringList entries;
+    RecordSet set(connection, statement);
+    for (; set.atRow(); set.moveNext()) {
+        const QString name = set.value(nameField).text();
+        entries.append(codeField.isEmpty() ? name : u'#' + set.value(codeField).text() + u';' + name);
+    }
+    return entries.join(u'|');
+}
+
 } // namespace
 
 QString GetDbPath(const Context& context, Connection& connection, const QString& section) {
@@ -110,14 +121,16 @@ std::optional<Day> GetFirstMonth(const Context& context, Connection& connection)
 QString VfgComboList(const Context& context, Connection& connection, const QString& statement,
                      const QString& valueField, const QString& codeField, bool blank) {
     return guarded(context, module, u"VfgComboList", QStringLiteral("ERROR"), [&] {
-        QStringList entries;
-        RecordSet set(connection, statement);
-        for (; set.atRow(); set.moveNext()) {
-            const QString value = set.value(valueField).text();
-            entries.append(codeField.isEmpty() ? value : u'#' + set.value(codeField).text() + u';' + value);
-        }
-        const QString list = entries.join(u'|');
-        return blank && !entries.isEmpty() ? list + u'|' : list;
+        const QString list = gridList(connection, statement, codeField, valueField);
+        return blank && !list.isEmpty() ? list + u'|' : list;
+    });
+}
+
+QString BuildGridList(const Context& context, Connection& connection, const QString& statement,
+                      const QString& codeField, const QString& nameField, bool blank) {
+    return guarded(context, module, u"BuildGridList", QStringLiteral("ERROR"), [&] {
+        const QString list = gridList(connection, statement, codeField, nameField);
+        return blank ? u'|' + list : list;
     });
 }
 

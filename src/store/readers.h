@@ -39,6 +39,9 @@ namespace kurbo {
 // more at the end. "ERROR" on a failure.
 [[nodiscard]] QString VfgComboList(const Context& context, Connection& connection, const QString& statement,
                                    const QString& valueField, const QString& codeField, bool blank);
+// The same with the blank entry, one "|" more, at the beginning.
+[[nodiscard]] QString BuildGridList(const Context& context, Connection& connection, const QString& statement,
+                                    const QString& codeField, const QString& nameField, bool blank);
 
 // One entry of a list in which a code is chosen by its name.
 struct CodeName {

@@ -32,7 +32,7 @@ void PhotographedPrompts::photographAndAnswer(Answer answer) {
         if (box->buttonRole(button) == roleOf(answer)) return button->click();
 }
 
-std::optional<QString> PhotographedPrompts::openFile(const QString& /*filter*/) {
+QStringList PhotographedPrompts::chooseFiles(const FileQuestion& /*question*/) {
     return {};
 }
 

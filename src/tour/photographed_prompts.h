@@ -12,7 +12,7 @@ class PhotographedPrompts final : public Prompts {
     // How the next question is answered; every other box gets its preset.
     void answerNext(Answer answer) { answer_ = answer; }
     Answer ask(const Message& message) override;
-    std::optional<QString> openFile(const QString& filter) override;
+    QStringList chooseFiles(const FileQuestion& question) override;
 
   private:
     void photographAndAnswer(Answer answer);

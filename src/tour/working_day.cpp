@@ -1,6 +1,6 @@
 #include "tour/working_day.h"
 
-#include "shell/frmAbout.h"
+#include "screen/frmAbout.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWaiting.h"

@@ -1,5 +1,6 @@
 #include "base/clock.h"
 #include "base/day.h"
+#include "base/day_arithmetic.h"
 #include "support/desk.h"
 
 namespace kurbo::test {
@@ -34,6 +35,28 @@ TEST(Days, MonthsEndWithTheirOwnLastDay) {
     EXPECT_EQ(addMonths(*makeDay(2026, 1, 31), 1), makeDay(2026, 2, 28));
     EXPECT_EQ(addMonths(*makeDay(2024, 3, 31), -1), makeDay(2024, 2, 29));
     EXPECT_EQ(addMonths(*makeDay(2026, 12, 15), 1), makeDay(2027, 1, 15));
+}
+
+// April 2026 begins on a Wednesday, 4, and has 30 days.
+TEST(Days, NthWeekdayOfAMonth) {
+    const Day april = *makeDay(2026, 4, 20);
+    EXPECT_EQ(NthWeekday(april, 1, 4), makeDay(2026, 4, 1));
+    EXPECT_EQ(NthWeekday(april, 1, 3), makeDay(2026, 4, 7));
+    EXPECT_EQ(NthWeekday(april, 2, 1), makeDay(2026, 4, 12));
+    EXPECT_EQ(NthWeekday(april, 5, 5), makeDay(2026, 4, 30));
+    EXPECT_EQ(NthWeekday(april, 5, 6), std::nullopt);
+    EXPECT_EQ(NthWeekday(april, 0, 4), std::nullopt);
+}
+
+TEST(Days, YearsAndMonthsAreWholeOnes) {
+    const Day today = *makeDay(2026, 4, 15);
+    const auto until = [&](std::optional<Day> from, std::optional<Day> to) { return YearsAndMonths(*from, to, today); };
+    EXPECT_EQ(until(makeDay(1990, 4, 15), {}), u"003600"_q);
+    EXPECT_EQ(until(makeDay(1990, 4, 16), {}), u"003511"_q);
+    EXPECT_EQ(until(makeDay(2025, 12, 31), {}), u"000003"_q);
+    EXPECT_EQ(until(makeDay(2024, 2, 29), makeDay(2025, 2, 28)), u"000100"_q);
+    EXPECT_EQ(until(makeDay(2025, 11, 30), makeDay(2026, 2, 28)), u"000003"_q);
+    EXPECT_EQ(until(makeDay(2026, 4, 16), {}), u"000000"_q);
 }
 
 TEST(Clocks, ShiftedClockRunsOnAnotherDay) {

@@ -22,7 +22,26 @@ TEST(Files, PathsAreTestedTrimmed) {
     QString empty = u"  "_q;
     EXPECT_FALSE(CheckPath(empty));
     EXPECT_EQ(addSlash(u" /a/b "_q), u"/a/b/"_q);
-    EXPECT_EQ(addSlash(u"/a/b/"_q), u"/a/b/"_q);
+    EXPECT_EQ(addSlash(u"/a/b//"_q), u"/a/b/"_q);
+    EXPECT_TRUE(FileExists(desk.file(u"A.mdb "_q)));
+    EXPECT_TRUE(FileExists(desk.file(u"A.mdb"_q), true));
+    EXPECT_FALSE(FileExists(desk.folder.path()));
+    EXPECT_TRUE(FileExists(desk.folder.path(), true));
+    EXPECT_FALSE(FileExists(u" "_q, true));
+}
+
+TEST(Files, PathsAreTakenApart) {
+    EXPECT_EQ(FileNameOf(u"/a/b.mdb"_q), u"b.mdb"_q);
+    EXPECT_EQ(FolderOf(u"/a/b.mdb"_q), u"/a"_q);
+    EXPECT_EQ(FolderOf(u"/b.mdb"_q), QString());
+    EXPECT_EQ(FileNameOf(u"b.mdb"_q), u"b.mdb"_q);
+    EXPECT_EQ(FolderOf(u"b.mdb"_q), u"b.mdb"_q);
+    EXPECT_EQ(WithoutExtension(u"b.tar.gz"_q), u"b"_q);
+    EXPECT_EQ(WithoutExtension(u"b"_q), u"b"_q);
+    EXPECT_EQ(SplitFileList(QStringList{u"/a"_q, u"1.csv"_q, u"2.csv"_q, QString()}.join(QChar())),
+              (QStringList{u"/a/1.csv"_q, u"/a/2.csv"_q}));
+    EXPECT_EQ(SplitFileList(u"/a/1.csv"_q), QStringList{u"/a/1.csv"_q});
+    EXPECT_EQ(SplitFileList(QString()), QStringList());
 }
 
 TEST(Files, AFailedReplaceKeepsTheOldFile) {

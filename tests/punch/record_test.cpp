@@ -2,47 +2,18 @@
 
 #include "base/code_page.h"
 #include "base/files.h"
-#include "support/sample_company.h"
-
-#include <sqlite3.h>
-
-#include <QFileInfo>
+#include "support/collisions.h"
 
 namespace kurbo::test {
-namespace {
-
-// Other clients that take the id first, as often as told.
-class Collisions : public SampleCompany {
-  protected:
-    void takeIds(int times) {
-        connection.engine(
-            "CREATE TEMP TABLE Others (Times); INSERT INTO Others VALUES (" + QByteArray::number(times) +
-            ");"
-            "CREATE TEMP TRIGGER Taken BEFORE INSERT ON main.T02_Kurbo WHEN (SELECT Times FROM Others) > 0 "
-            "AND NEW.F_Plan IS NULL BEGIN "
-            "INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Plan) "
-            "VALUES (NEW.F_KurboID, NEW.F_DateID, '1002', 'x'); END");
-        sqlite3_update_hook(
-            connection.handle(),
-            [](void* self, int, const char*, const char* table, sqlite3_int64) {
-                if (qstrcmp(table, "T02_Kurbo") == 0) ++static_cast<Collisions*>(self)->attempts;
-            },
-            this);
-    }
-    int attempts = 0;
-};
-
-} // namespace
 
 TEST_F(Collisions, TheSixthFailureIsReportedWithTheEnginesText) {
-    takeIds(1);
+    takeIds(6);
     desk.prompts.expect(u"エラー番号：3022\r\nインデックス、主キー、"_q);
     EXPECT_FALSE(RecordEnter(desk.context, connection, u"1001"_q, desk.clock.now(), true, false));
     EXPECT_EQ(attempts, 6);
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－RecordEnter"_q);
     EXPECT_TRUE(fromCodePage(readFile(desk.file(u"Error.log"_q))).contains(u"\"RecordEnter\",\"Kurbo.Store\",3022,"_q));
     EXPECT_EQ(count(u"T02_Kurbo"_q), 0) << "nothing half written";
-    connection.engine("UPDATE Others SET Times = 0");
     EXPECT_TRUE(RecordLeave(desk.context, connection, u"1001"_q, desk.clock.now(), QString()));
 }
 

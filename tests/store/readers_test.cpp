@@ -75,6 +75,10 @@ TEST_F(Readers, ComboListOfAGridColumn) {
     EXPECT_EQ(VfgComboList(desk.context, connection, u"SELECT F_DestName FROM T04_Destination"_q, u"F_DestName"_q,
                            QString(), true),
               QString());
+    EXPECT_EQ(BuildGridList(desk.context, connection, statement, u"F_StaffCode"_q, u"F_StaffName"_q, true),
+              u"|#ADMIN;ADMIN|#NEW;新しい社員"_q);
+    EXPECT_EQ(BuildGridList(desk.context, connection, statement, QString(), u"F_StaffName"_q, false),
+              u"ADMIN|新しい社員"_q);
 }
 
 TEST_F(Readers, LoginListsShowWhoMayPunchHere) {

@@ -21,7 +21,8 @@ void addRules(Connection& connection) {
     connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
                        "VALUES ('S01', '総務部', ?, 1, True)"_q,
                        {currentDatabase()});
-    connection.execute(u"INSERT INTO M01_CorpInfo (F_WorkStyle, F_RoundMethod, F_RoundUnit) VALUES (0, 0, 30)"_q);
+    connection.execute(
+        u"INSERT INTO M01_CorpInfo (F_WorkStyle, F_AmHolidayWork, F_PmHolidayWork, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit) VALUES (0, 1, 1, 0, 1, 0, 0, 30, 1)"_q);
     connection.execute(u"INSERT INTO M03_WeekdayStyle (F_WeekdayCode, F_WeekdayName, F_StartWork0, F_EndWork0) "
                        "VALUES (1, '日勤', '09:00', '17:30')"_q);
     connection.execute(u"INSERT INTO M07_AdjustHours (F_AdjustCode, F_AdjustName, F_Over) VALUES (1, '通常', 2700)"_q);

@@ -14,8 +14,12 @@ ScriptedPrompts& ScriptedPrompts::expect(const QString& textPart, Answer answer)
     return *this;
 }
 
-ScriptedPrompts& ScriptedPrompts::expectFile(std::optional<QString> path) {
-    files_.append(std::move(path));
+ScriptedPrompts& ScriptedPrompts::expectFile(const std::optional<QString>& path) {
+    return expectFiles(path ? QStringList{*path} : QStringList());
+}
+
+ScriptedPrompts& ScriptedPrompts::expectFiles(const QStringList& paths) {
+    files_.append(paths);
     return *this;
 }
 
@@ -28,9 +32,10 @@ Answer ScriptedPrompts::ask(const Message& message) {
     return script_.takeFirst().answer;
 }
 
-std::optional<QString> ScriptedPrompts::openFile(const QString& filter) {
+QStringList ScriptedPrompts::chooseFiles(const FileQuestion& question) {
+    lastFileQuestion_ = question;
     if (!files_.isEmpty()) return files_.takeFirst();
-    ADD_FAILURE() << "unexpected file dialog: " << filter.toStdString();
+    ADD_FAILURE() << "unexpected file dialog: " << question.filter.toStdString();
     return {};
 }
 

@@ -17,14 +17,17 @@ class ScriptedPrompts final : public Prompts {
 
     // The next message holds `textPart`; it gets `answer`.
     ScriptedPrompts& expect(const QString& textPart, Answer answer = Answer::Ok);
-    ScriptedPrompts& expectFile(std::optional<QString> path);
+    // The next file dialog gives this path, or these, or is cancelled.
+    ScriptedPrompts& expectFile(const std::optional<QString>& path);
+    ScriptedPrompts& expectFiles(const QStringList& paths);
 
     Answer ask(const Message& message) override;
-    std::optional<QString> openFile(const QString& filter) override;
+    QStringList chooseFiles(const FileQuestion& question) override;
 
     // All that was asked, for looking at titles, icons and buttons.
     [[nodiscard]] const QList<Message>& seen() const { return seen_; }
     [[nodiscard]] const Message& last() const { return seen_.last(); }
+    [[nodiscard]] const FileQuestion& lastFileQuestion() const { return lastFileQuestion_; }
     // Whether everything that was expected has come.
     [[nodiscard]] bool allShown() const { return script_.isEmpty() && files_.isEmpty(); }
 
@@ -34,7 +37,8 @@ class ScriptedPrompts final : public Prompts {
         Answer answer;
     };
     QList<Expectation> script_;
-    QList<std::optional<QString>> files_;
+    QList<QStringList> files_;
+    FileQuestion lastFileQuestion_;
     QList<Message> seen_;
 };
 

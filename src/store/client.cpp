@@ -1,4 +1,4 @@
-#include "shell/client.h"
+#include "store/client.h"
 
 #include "store/database_file.h"
 

@@ -1,4 +1,4 @@
-#include "shell/coming_screens.h"
+#include "screen/coming_screens.h"
 
 #include <algorithm>
 #include <array>
@@ -12,7 +12,7 @@ struct Screen {
 };
 
 constexpr std::array screens{
-    Screen{u"frmKurbo", u"タイムカード"},      Screen{u"frmTotal", u"月次集計"},
+    Screen{u"frmGoOut", u"外出明細"},          Screen{u"frmTotal", u"月次集計"},
     Screen{u"frmCorp", u"会社情報登録"},       Screen{u"frmSection", u"部課情報登録"},
     Screen{u"frmStaff", u"社員情報登録"},      Screen{u"frmWorkStyle", u"勤務形態設定"},
     Screen{u"frmWorkTime", u"勤務時間設定"},   Screen{u"frmAccess", u"アクセス権設定"},

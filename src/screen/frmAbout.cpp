@@ -1,13 +1,13 @@
-#include "shell/frmAbout.h"
+#include "screen/frmAbout.h"
 
 #include "base/product.h"
-#include "shell/application.h"
-#include "shell/legal.h"
+#include "screen/legal.h"
 #include "ui_frmAbout.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDateTime>
 #include <QFileInfo>
+#include <QIcon>
 
 namespace kurbo {
 namespace {
@@ -22,10 +22,10 @@ QString dateOf(const QString& path) {
 frmAbout::frmAbout(const QString& helpPath, QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAbout>()) {
     ui_->setupUi(this);
     setWindowTitle(productName() + QStringLiteral("－ヴァージョン情報"));
-    ui_->imgLogo->setPixmap(logo(96));
+    ui_->imgLogo->setPixmap(QApplication::windowIcon().pixmap(96, 96));
     ui_->lblProductName->setText(productName());
     ui_->lblVersion->setText(QStringLiteral("version ") + productVersion());
-    ui_->lblProgramDate->setText(dateOf(QCoreApplication::applicationFilePath()));
+    ui_->lblProgramDate->setText(dateOf(QApplication::applicationFilePath()));
     ui_->lblHelpDate->setText(dateOf(helpPath));
     ui_->lblLegal->setText(legalLine());
     connect(ui_->cmdOK, &QPushButton::clicked, this, &QDialog::accept);

@@ -1,0 +1,39 @@
+#include "base/day_arithmetic.h"
+
+namespace kurbo {
+namespace {
+
+int monthOf(Day day) {
+    return static_cast<int>(static_cast<unsigned>(civil(day).month()));
+}
+
+// The years that a calendar shows between two days, less one when the last is not yet whole.
+int wholeYears(Day from, Day to) {
+    const int years = yearOf(to) - yearOf(from);
+    return addMonths(from, years * 12) > to ? years - 1 : years;
+}
+
+int wholeMonths(Day from, Day to) {
+    const int months = (yearOf(to) - yearOf(from)) * 12 + monthOf(to) - monthOf(from);
+    return addMonths(from, months) > to ? months - 1 : months;
+}
+
+} // namespace
+
+std::optional<Day> NthWeekday(Day dateInMonth, int nth, int weekday) {
+    const auto month = civil(dateInMonth);
+    const int first = static_cast<int>(
+        std::chrono::weekday{Day{month.year() / month.month() / std::chrono::day{1}}}.c_encoding() + 1);
+    const int week = weekday < first ? nth : nth - 1;
+    const int day = week * 7 + weekday - first + 1;
+    return makeDay(yearOf(dateInMonth), monthOf(dateInMonth), day);
+}
+
+QString YearsAndMonths(Day from, std::optional<Day> to, Day today) {
+    const Day end = to.value_or(today);
+    const int years = end < from ? 0 : wholeYears(from, end);
+    const int months = end < from ? 0 : wholeMonths(addMonths(from, years * 12), end);
+    return QStringLiteral("%1%2").arg(years, 4, 10, QChar(u'0')).arg(months, 2, 10, QChar(u'0'));
+}
+
+} // namespace kurbo

@@ -1,0 +1,247 @@
+#include "card/card_screen.h"
+
+#include "card/card_checks.h"
+#include "card/card_grid.h"
+#include "card/card_update.h"
+#include "engine/loaders.h"
+#include "store/section_switch.h"
+
+namespace kurbo {
+namespace {
+
+int monthOf(Day day) {
+    return static_cast<int>(static_cast<unsigned>(civil(day).month()));
+}
+
+Period oneMonthFrom(Day from) {
+    return {from, addMonths(from, 1) - std::chrono::days(1)};
+}
+
+QList<CodeName> readNames(Connection& connection, const QString& statement, const Values& values = {}) {
+    QList<CodeName> names;
+    for (Rows rows = connection.rows(statement, values); rows.next();) names.append({rows.text(0), rows.text(1)});
+    return names;
+}
+
+} // namespace
+
+CardScreen::CardScreen(Client& client)
+    : client_(client), reader_{client.session.access}, cells_(sheet, reader_, rules_) {
+    sheet.grid.setRules(&cells_);
+}
+
+bool CardScreen::load() {
+    section_ = client_.session.SessionSection;
+    staff_ = client_.session.SessionStaff;
+    clsWorkTime rules;
+    if (!readLists() || !loadRules(staff_, rules)) return false;
+    const auto base = baseDate();
+    if (!base) return false;
+    const auto first = parseSlashDate(PeriodStartDate(*base, rules.plngCloseDay(), client_.context.clock.today()));
+    if (!first) return false;
+    choosePeriod(oneMonthFrom(*first));
+    return ShowKurbo(staff_, period_, rules);
+}
+
+bool CardScreen::readLists() {
+    return guarded(client_.context, u"frmKurbo", u"Form_Load", false, [this] {
+        sections_ = readNames(connection(), QStringLiteral("SELECT F_SectionCode, F_SectionName FROM C02_Section "
+                                                           "WHERE (F_Display = True) ORDER BY F_Order;"));
+        readPeople();
+        return true;
+    });
+}
+
+void CardScreen::readPeople() {
+    people_ = readNames(connection(),
+                        QStringLiteral("SELECT F_StaffCode, F_StaffName FROM C03_Staff "
+                                       "WHERE (F_Section = ?) AND (F_Display = True) ORDER BY F_Order;"),
+                        {section_});
+}
+
+bool CardScreen::loadRules(const QString& staff, clsWorkTime& rules) const {
+    const Context& context = client_.context;
+    return GetWorkStyle(context, connection(), rules) && GetStaffInfo(context, connection(), rules, staff) &&
+           GetWorkTime(context, connection(), rules, staff);
+}
+
+// Today, or the calendar's first day when the month from today on has none.
+std::optional<Day> CardScreen::baseDate() const {
+    const Day today = client_.context.clock.today();
+    const Period month = oneMonthFrom(today);
+    const int days = ExistCalendar(client_.context, connection(), month.from, month.to);
+    if (days > 0) return today;
+    return days == 0 ? GetFirstDate(client_.context, connection()) : std::nullopt;
+}
+
+bool CardScreen::hasCalendarIn(Period period) const {
+    const int days = ExistCalendar(client_.context, connection(), period.from, period.to);
+    if (days == 0)
+        client_.context.prompts.exclaim(lines(QStringLiteral("カレンダーが作成されていません。"),
+                                              QStringLiteral("管理者にカレンダーの作成を依頼して下さい。")));
+    return days > 0;
+}
+
+// The month of a period is the month of its end.
+void CardScreen::choosePeriod(Period period) {
+    period_ = period;
+    year_ = yearOf(period.to);
+    month_ = monthOf(period.to);
+}
+
+bool CardScreen::ShowKurbo(const QString& staff, Period period, clsWorkTime& rules) {
+    const auto card = makeCard(client_.context, connection(), rules, staff, period);
+    if (!card) return false;
+    rules_ = rules;
+    reader_.blnMyCard = staff == client_.session.SessionStaff;
+    reader_.cardShown = true;
+    fillCardGrid(sheet.grid, *card);
+    sheet.drawn();
+    alive_ = true;
+    ++drawings_;
+    wholePeriod_ = card->wholePeriod;
+    personalApproval_ = card->personalApproval;
+    superiorApproval_ = card->superiorApproval;
+    period_ = period;
+    return true;
+}
+
+void CardScreen::leave() {
+    leaveSection(client_);
+}
+
+bool CardScreen::mayDiscard() const {
+    return (!sheet.blnCardChanged && !sheet.blnMonthChanged) ||
+           client_.context.prompts.confirm(QStringLiteral("タイムカードは変更されています。変更を破棄しますか？"));
+}
+
+bool CardScreen::mayClose() const {
+    Prompts& prompts = client_.context.prompts;
+    if (sheet.blnCardChanged &&
+        !prompts.confirm(QStringLiteral("タイムカードは変更されています。変更を破棄しますか？")))
+        return false;
+    return !sheet.blnMonthChanged ||
+           prompts.confirm(QStringLiteral("月次データ（合計）は変更されています。変更を破棄しますか？"));
+}
+
+bool CardScreen::chooseSection(const QString& section) {
+    if (!mayDiscard()) return false;
+    return guarded(client_.context, u"frmKurbo", u"dcbSection_Change", false, [&] {
+        if (!switchSection(client_, section, period_.from, period_.to)) return false;
+        section_ = section;
+        staff_.clear();
+        people_.clear();
+        reader_.cardShown = false;
+        sheet.blnCardChanged = sheet.blnMonthChanged = false;
+        readPeople();
+        return true;
+    });
+}
+
+bool CardScreen::chooseStaff(const QString& staff) {
+    if (!mayDiscard()) return false;
+    if (staff.isEmpty()) {
+        staff_.clear();
+        reader_.cardShown = false;
+        sheet.blnCardChanged = sheet.blnMonthChanged = false;
+        return true;
+    }
+    clsWorkTime rules;
+    if (!loadRules(staff, rules)) return false;
+    const auto period = periodOfMonth(year_, month_, rules.plngCloseDay());
+    if (!period || !hasCalendarIn(*period) || !ShowKurbo(staff, *period, rules)) return false;
+    staff_ = staff;
+    return true;
+}
+
+bool CardScreen::chooseMonth(int month) {
+    if (!hasName() || !mayDiscard()) return false;
+    const auto period = periodOfMonth(year_, month, rules_.plngCloseDay());
+    clsWorkTime rules = rules_;
+    if (!period || !hasCalendarIn(*period) || !ShowKurbo(staff_, *period, rules)) return false;
+    month_ = month;
+    return true;
+}
+
+// Two boxes that hold no dates stand for the period of the chosen month.
+bool CardScreen::moveYears(int years, const QString& start, const QString& end) {
+    constexpr int monthsOfYear = 12;
+    if (!hasName() || !mayDiscard()) return false;
+    const auto from = parseSlashDate(start);
+    const auto to = parseSlashDate(end);
+    auto period = from && to ? std::optional(Period{*from, *to}) : periodOfMonth(year_, month_, rules_.plngCloseDay());
+    if (!period) return false;
+    *period = {addMonths(period->from, years * monthsOfYear), addMonths(period->to, years * monthsOfYear)};
+    clsWorkTime rules = rules_;
+    if (!hasCalendarIn(*period) || !ShowKurbo(staff_, *period, rules)) return false;
+    year_ += years;
+    return true;
+}
+
+bool CardScreen::display(const QString& start, const QString& end) {
+    const auto period = checkedPeriod(client_.context, start, end);
+    if (!period || !hasName() || !mayDiscard() || !hasCalendarIn(*period)) return false;
+    clsWorkTime rules = rules_;
+    return ShowKurbo(staff_, *period, rules);
+}
+
+bool CardScreen::hasName() const {
+    if (staff_.isEmpty()) client_.context.prompts.exclaim(QStringLiteral("氏名が入力されていません。"));
+    return !staff_.isEmpty();
+}
+
+bool CardScreen::update(const QString& start, const QString& end) {
+    Prompts& prompts = client_.context.prompts;
+    if (!hasName() || !CheckDayly(client_.context, sheet, start, end)) return false;
+    if (prompts.ask({{},
+                     lines(QStringLiteral("追加・変更を更新します。"), QString(), QStringLiteral("よろしいですか？")),
+                     Icon::Question,
+                     Buttons::OkCancel,
+                     Answer::Ok}) != Answer::Ok)
+        return false;
+    if (!UpdateDayly(client_.context, connection(), sheet, staff_)) {
+        prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
+        return false;
+    }
+    const auto period = checkedPeriod(client_.context, start, end);
+    clsWorkTime rules = rules_;
+    return period && ShowKurbo(staff_, *period, rules);
+}
+
+bool CardScreen::deletePeriod(const QString& start, const QString& end) {
+    Prompts& prompts = client_.context.prompts;
+    if (sheet.blnFileMode) {
+        prompts.exclaim(QStringLiteral("タイムカードファイルを呼出した状態で削除はできません。"));
+        return false;
+    }
+    const auto period = checkedPeriod(client_.context, start, end);
+    if (!period || !hasName()) return false;
+    const QString question =
+        lines(QStringLiteral("表示期間(%1～%2)の出退勤データ及び外出データを削除します。").arg(start, end),
+              QStringLiteral("削除したデータは復活できません。"), QString(), QStringLiteral("よろしいですか？"));
+    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) != Answer::Ok) return false;
+    if (!DeleteKurbo(client_.context, connection(), staff_, period->from, period->to)) {
+        prompts.exclaim(QStringLiteral("出退勤データの削除に失敗しました。"));
+        return false;
+    }
+    clsWorkTime rules = rules_;
+    return ShowKurbo(staff_, *period, rules);
+}
+
+bool CardScreen::mayChooseOthers() const {
+    return client_.session.access.has(Right::ReadOtherKurbo);
+}
+
+bool CardScreen::mayDelete() const {
+    return hasRight(reader_, Right::DeleteMyData, Right::DeleteOtherData);
+}
+
+bool CardScreen::mayGoOut() const {
+    return hasRight(reader_, Right::ReadMyGoOut, Right::ReadOtherGoOut);
+}
+
+bool CardScreen::mayApprove() const {
+    return client_.session.access.has(Right::WriteApproval);
+}
+
+} // namespace kurbo

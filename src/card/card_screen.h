@@ -1,0 +1,97 @@
+#pragma once
+
+#include "card/card_rules.h"
+#include "card/card_sheet.h"
+#include "engine/hours.h"
+#include "store/client.h"
+#include "store/readers.h"
+
+namespace kurbo {
+
+// What frmKurbo works on, without its window: whose card of which period stands in the grid, what may be done with it,
+// and the commands. A refusal or a failure is told here and leaves everything as it was; the window then shows again
+// what stands here.
+class CardScreen final {
+  public:
+    explicit CardScreen(Client& client);
+
+    // The own card of the period of today, or of the calendar's first day where today has none. False leaves a screen
+    // on which nothing can be done but closing it.
+    [[nodiscard]] bool load();
+    // Back to the person's own file and rights.
+    void leave();
+
+    // The questions before changes are lost; true to go on.
+    [[nodiscard]] bool mayDiscard() const;
+    [[nodiscard]] bool mayClose() const;
+
+    // Another section: its people can be chosen, and the old card stays until one is.
+    bool chooseSection(const QString& section);
+    // Another person's card, of the period of the same month. Empty for none.
+    bool chooseStaff(const QString& staff);
+    // The period that ends in the month, 1 to 12, of the chosen year.
+    bool chooseMonth(int month);
+    // The shown dates and the year, moved by so many years.
+    bool moveYears(int years, const QString& start, const QString& end);
+    // Any range, as it stands in the two boxes.
+    bool display(const QString& start, const QString& end);
+    // The changed days into the store; the card is drawn anew.
+    bool update(const QString& start, const QString& end);
+    // The shown person's days of the range out of the store.
+    bool deletePeriod(const QString& start, const QString& end);
+
+    CardSheet sheet;
+
+    [[nodiscard]] const QList<CodeName>& sections() const { return sections_; }
+    [[nodiscard]] const QList<CodeName>& people() const { return people_; }
+    [[nodiscard]] const QString& section() const { return section_; }
+    [[nodiscard]] const QString& staff() const { return staff_; }
+    [[nodiscard]] Period period() const { return period_; }
+    [[nodiscard]] int year() const { return year_; }
+    [[nodiscard]] int month() const { return month_; }
+    [[nodiscard]] const clsWorkTime& rules() const { return rules_; }
+    [[nodiscard]] const CardRules& cells() const { return cells_; }
+
+    // How often a card has been drawn.
+    [[nodiscard]] int drawings() const { return drawings_; }
+    // A card is shown, and the commands of the screen are alive.
+    [[nodiscard]] bool isAlive() const { return alive_; }
+    [[nodiscard]] bool isWholePeriod() const { return wholePeriod_; }
+    [[nodiscard]] bool personalApproval() const { return personalApproval_; }
+    [[nodiscard]] bool superiorApproval() const { return superiorApproval_; }
+    [[nodiscard]] bool mayChooseOthers() const;
+    [[nodiscard]] bool mayDelete() const;
+    [[nodiscard]] bool mayGoOut() const;
+    [[nodiscard]] bool mayApprove() const;
+    [[nodiscard]] bool isOwnCard() const { return reader_.blnMyCard; }
+
+  private:
+    [[nodiscard]] Connection& connection() const { return *client_.CurrentConnection; }
+    [[nodiscard]] bool readLists();
+    void readPeople();
+    [[nodiscard]] bool loadRules(const QString& staff, clsWorkTime& rules) const;
+    [[nodiscard]] std::optional<Day> baseDate() const;
+    [[nodiscard]] bool hasCalendarIn(Period period) const;
+    void choosePeriod(Period period);
+    [[nodiscard]] bool ShowKurbo(const QString& staff, Period period, clsWorkTime& rules);
+    [[nodiscard]] bool hasName() const;
+
+    Client& client_;
+    clsWorkTime rules_;
+    CardReader reader_;
+    CardRules cells_;
+    QList<CodeName> sections_;
+    QList<CodeName> people_;
+    QString section_;
+    QString staff_;
+    Period period_{};
+    int year_ = 0;
+    int month_ = 1;
+    int drawings_ = 0;
+    bool alive_ = false;
+    bool wholePeriod_ = false;
+    bool personalApproval_ = false;
+    bool superiorApproval_ = false;
+};
+
+} // namespace kurbo

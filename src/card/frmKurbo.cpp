@@ -1,0 +1,220 @@
+#include "card/frmKurbo.h"
+
+#include "base/product.h"
+#include "card/card_cells.h"
+#include "screen/coming_screens.h"
+#include "screen/fields.h"
+#include "screen/frmAbout.h"
+#include "screen/help.h"
+#include "screen/hourglass.h"
+#include "screen/show_now.h"
+#include "screen/vfg_copy.h"
+#include "ui_frmKurbo.h"
+
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QShortcut>
+
+namespace kurbo {
+namespace {
+
+// A box tells its state by its word and weight too.
+void showMark(QCheckBox& box, bool given) {
+    box.setChecked(given);
+    box.setText(given ? QStringLiteral("済") : QStringLiteral("未"));
+    QFont font = box.font();
+    font.setBold(given);
+    box.setFont(font);
+}
+
+} // namespace
+
+frmKurbo::frmKurbo(Client& client, QWidget* parent)
+    : QMainWindow(parent), ui_(std::make_unique<Ui::frmKurbo>()), client_(client), screen_(client) {
+    ui_->setupUi(this);
+    ui_->menus->setNativeMenuBar(false);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(productName() + QStringLiteral("－タイムカード"));
+    dressFields();
+    connectSelection();
+    connectCommands();
+    screen_.sheet.onEdit = [this] { showCommands(); };
+    fillScreen(this, {1360, 900});
+}
+
+// The controls go before what they show.
+frmKurbo::~frmKurbo() {
+    ui_->vfgKurbo->cancelEdit();
+    hide();
+}
+
+void frmKurbo::dressFields() {
+    for (int month = 1; month <= months; ++month)
+        optMonth_[static_cast<std::size_t>(month - 1)] =
+            findChild<QRadioButton*>(QStringLiteral("optMonth_%1").arg(month));
+    const QString refusal = QStringLiteral("不正な入力です。日付を西暦年でyyyy/mm/dd形式で入力して下さい。");
+    for (const auto& [box, spin] : {std::pair{ui_->mskStart, ui_->udcStart}, {ui_->mskEnd, ui_->udcEnd}}) {
+        box->setRefusal(refusal, client_.context.prompts);
+        spin->setBuddy(box);
+    }
+    ui_->udcYear->setBuddy(ui_->txtYear);
+    for (QWidget* const combo : {ui_->dcbSection, ui_->dcbStaff}) SetImeOpen(combo, true);
+    ui_->vfgKurbo->setGrid(screen_.sheet.grid, client_.context);
+    ui_->vfgKurbo->setStretchColumn(static_cast<int>(CardColumn::Plan));
+    wireGridMenu(*ui_->vfgKurbo, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
+}
+
+void frmKurbo::connectSelection() {
+    connect(ui_->dcbSection, &QComboBox::activated, this, &frmKurbo::sectionChosen);
+    connect(ui_->dcbSection->lineEdit(), &QLineEdit::editingFinished, this, &frmKurbo::sectionChosen);
+    connect(ui_->dcbStaff, &QComboBox::activated, this, &frmKurbo::staffChosen);
+    connect(ui_->dcbStaff->lineEdit(), &QLineEdit::editingFinished, this, &frmKurbo::staffChosen);
+    for (int month = 1; month <= months; ++month)
+        connect(optMonth_[static_cast<std::size_t>(month - 1)], &QRadioButton::toggled, this, [this, month](bool on) {
+            if (on) run([this, month] { screen_.chooseMonth(month); });
+        });
+    connect(ui_->udcYear, &UpDown::UpClick, this, [this] { moveYear(1); });
+    connect(ui_->udcYear, &UpDown::DownClick, this, [this] { moveYear(-1); });
+    for (const auto& [box, spin] : {std::pair{ui_->mskStart, ui_->udcStart}, {ui_->mskEnd, ui_->udcEnd}}) {
+        const auto move = [field = box](int days) {
+            if (const auto day = field->day()) field->setDay(*day + std::chrono::days(days));
+        };
+        connect(spin, &UpDown::UpClick, this, [move] { move(1); });
+        connect(spin, &UpDown::DownClick, this, [move] { move(-1); });
+    }
+}
+
+void frmKurbo::connectCommands() {
+    const auto dates = [this](bool (CardScreen::*command)(const QString&, const QString&)) {
+        return [this, command] { (screen_.*command)(ui_->mskStart->maskText(), ui_->mskEnd->maskText()); };
+    };
+    onCommand(ui_->cmdDisplay, ui_->mnuDisplay, dates(&CardScreen::display));
+    onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
+    onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
+    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
+    onCommand(ui_->cmdGoOut, ui_->mnuDetail, [this] { coming(QStringLiteral("frmGoOut")); });
+    for (QAction* const action :
+         {ui_->mnuList, ui_->mnuAdjust, ui_->mnuUpdateMonthly, ui_->mnuLoadKrb, ui_->mnuSaveKrb})
+        onCommand(nullptr, action, [this, action] { coming(action->text().section(u'(', 0, 0)); });
+    connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    connect(ui_->mnuTopic, &QAction::triggered, this,
+            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
+    connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
+    connect(ui_->vfgKurbo, &QAbstractItemView::doubleClicked, this, &frmKurbo::showDetail);
+}
+
+void frmKurbo::onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command) {
+    const auto body = [this, command] { run(command); };
+    if (button) connect(button, &QAbstractButton::clicked, this, body);
+    connect(action, &QAction::triggered, this, body);
+}
+
+void frmKurbo::run(const std::function<void()>& command) {
+    if (blnShowing_) return;
+    if (ui_->vfgKurbo->finishEdit()) {
+        const QScopedValueRollback showing(blnShowing_, true);
+        const Hourglass hourglass;
+        command();
+    }
+    showState();
+}
+
+void frmKurbo::coming(const QString& name) {
+    showComingScreen(client_.context, name);
+}
+
+void frmKurbo::load() {
+    run([this] { (void)screen_.load(); });
+    ui_->vfgKurbo->setFocus();
+}
+
+void frmKurbo::sectionChosen() {
+    const QString code = ui_->dcbSection->isInList() ? ui_->dcbSection->boundText() : QString();
+    if (blnShowing_) return;
+    if (code.isEmpty() || code == screen_.section()) return showNames();
+    run([this, &code] { screen_.chooseSection(code); });
+}
+
+void frmKurbo::staffChosen() {
+    const QString code = ui_->dcbStaff->boundText();
+    if (blnShowing_ || code == screen_.staff()) return;
+    if (!code.isEmpty() && !ui_->dcbStaff->isInList()) return showNames();
+    run([this, &code] { screen_.chooseStaff(code); });
+}
+
+void frmKurbo::moveYear(int years) {
+    run([this, years] { screen_.moveYears(years, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
+}
+
+void frmKurbo::showDetail(const QModelIndex& cell) {
+    const QString detail = screen_.cells().detail(cell.row(), cell.column());
+    if (!detail.isEmpty()) client_.context.prompts.inform(detail);
+}
+
+void frmKurbo::showState() {
+    const QScopedValueRollback showing(blnShowing_, true);
+    showNames();
+    showPeriod();
+    showCommands();
+    showApproval();
+}
+
+void frmKurbo::showNames() {
+    const QScopedValueRollback showing(blnShowing_, true);
+    ui_->dcbSection->setEntries(screen_.sections());
+    ui_->dcbSection->setBoundText(screen_.section());
+    ui_->dcbStaff->setEntries(screen_.people());
+    ui_->dcbStaff->setBoundText(screen_.staff());
+}
+
+void frmKurbo::showPeriod() {
+    ui_->txtYear->setText(QString::number(screen_.year()));
+    optMonth_[static_cast<std::size_t>(screen_.month() - 1)]->setChecked(true);
+    // Dates that were typed and not shown yet stay.
+    if (drawings_ == screen_.drawings()) return;
+    drawings_ = screen_.drawings();
+    ui_->mskStart->setDay(screen_.period().from);
+    ui_->mskEnd->setDay(screen_.period().to);
+}
+
+void frmKurbo::showCommands() {
+    const bool alive = screen_.isAlive();
+    for (QWidget* const control :
+         {static_cast<QWidget*>(ui_->cmdDisplay), static_cast<QWidget*>(ui_->cmdPrint),
+          static_cast<QWidget*>(ui_->txtYear), static_cast<QWidget*>(ui_->mskStart), static_cast<QWidget*>(ui_->mskEnd),
+          static_cast<QWidget*>(ui_->udcYear), static_cast<QWidget*>(ui_->udcStart), static_cast<QWidget*>(ui_->udcEnd),
+          static_cast<QWidget*>(ui_->vfgKurbo)})
+        control->setEnabled(alive);
+    for (QRadioButton* const month : optMonth_) month->setEnabled(alive);
+    for (QAction* const action : {ui_->mnuDisplay, ui_->mnuPrint, ui_->mnuMonthly->menuAction(),
+                                  ui_->mnuKrb->menuAction(), ui_->mnuGrid->menuAction()})
+        action->setEnabled(alive);
+    const bool changed = alive && screen_.sheet.blnCardChanged;
+    ui_->cmdUpdate->setEnabled(changed);
+    ui_->mnuUpdate->setEnabled(changed);
+    ui_->mnuDelete->setEnabled(alive && screen_.mayDelete());
+    ui_->cmdGoOut->setEnabled(alive && screen_.mayGoOut());
+    ui_->mnuGoOut->setEnabled(alive && screen_.mayGoOut());
+    for (QWidget* const combo : {ui_->dcbSection, ui_->dcbStaff}) combo->setEnabled(alive && screen_.mayChooseOthers());
+}
+
+void frmKurbo::showApproval() {
+    const bool whole = screen_.isAlive() && screen_.isWholePeriod();
+    showMark(*ui_->chkPersonal, screen_.personalApproval());
+    showMark(*ui_->chkSuperior, screen_.superiorApproval());
+    ui_->chkPersonal->setEnabled(whole && screen_.isOwnCard());
+    ui_->chkSuperior->setEnabled(whole && screen_.mayApprove());
+    ui_->mnuAdjust->setEnabled(whole);
+}
+
+void frmKurbo::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayClose()) return;
+    screen_.leave();
+    event->accept();
+    Q_EMIT closed();
+}
+
+} // namespace kurbo

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "card/card_screen.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+class QAbstractButton;
+class QRadioButton;
+
+namespace kurbo {
+
+namespace Ui {
+class frmKurbo;
+}
+
+// The card of one person and period. What is chosen and what stands in the grid is decided by CardScreen.
+class frmKurbo final : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit frmKurbo(Client& client, QWidget* parent = nullptr);
+    ~frmKurbo() override;
+    frmKurbo(const frmKurbo&) = delete;
+    frmKurbo& operator=(const frmKurbo&) = delete;
+
+    // Reads the lists and shows the own card.
+    void load();
+
+  Q_SIGNALS:
+    void closed();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    static constexpr int months = 12;
+
+    void dressFields();
+    void connectSelection();
+    void connectCommands();
+    // Runs a command that works on the card: the open cell is taken first, and the window then shows what stands.
+    void run(const std::function<void()>& command);
+    void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
+    void coming(const QString& name);
+
+    void showState();
+    void showNames();
+    void showPeriod();
+    void showCommands();
+    void showApproval();
+    void sectionChosen();
+    void staffChosen();
+    void moveYear(int years);
+    void showDetail(const QModelIndex& cell);
+
+    const std::unique_ptr<Ui::frmKurbo> ui_;
+    Client& client_;
+    CardScreen screen_;
+    std::array<QRadioButton*, months> optMonth_{};
+    // The program fills the controls, or a command runs: their events mean nothing.
+    bool blnShowing_ = false;
+    int drawings_ = 0;
+};
+
+} // namespace kurbo

@@ -1,0 +1,63 @@
+#include "screen/vfg_copy.h"
+
+#include "base/failure.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace kurbo {
+namespace {
+
+// What the last mnuGCopy took, as it is held.
+QString& rawBuffer() {
+    static QString buffer;
+    return buffer;
+}
+
+QString clipboardText() {
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    if (!data || !data->hasText()) throw Complaint(QStringLiteral("テキスト以外のデータを貼付ける事はできません。"));
+    return data->text();
+}
+
+void paste(Grid& grid, const QString& givenText) {
+    const QString clipped = clipboardText();
+    GridModel& cells = *grid.grid();
+    if (!cells.Editable(grid.Row(), grid.Col()))
+        throw Complaint(QStringLiteral("貼付先が編集不可の設定になっています。"));
+    const Undrawn undrawn(cells);
+    pasteCells(cells, grid.GetSelection(), givenText.isEmpty() ? clipped : givenText);
+}
+
+} // namespace
+
+void VfgCopy(const Grid& grid, bool withRaw, QString& rawText) {
+    const GridCopy copy = copiedCells(*grid.grid(), grid.GetSelection());
+    if (withRaw) rawText = copy.held;
+    QGuiApplication::clipboard()->setText(copy.shown);
+}
+
+bool VfgPaste(const Context& context, Grid& grid, const QString& givenText) {
+    return guarded(context, u"basSTD", u"VfgPaste", false, [&] {
+        paste(grid, givenText);
+        return true;
+    });
+}
+
+void wireGridMenu(Grid& grid, const Context& context, QMenu* mnuGrid, QAction* mnuGCopy, QAction* mnuGPaste,
+                  QAction* mnuGClear) {
+    grid.setGridMenu(mnuGrid);
+    QObject::connect(mnuGCopy, &QAction::triggered, &grid, [&grid] {
+        if (grid.finishEdit()) VfgCopy(grid, true, rawBuffer());
+    });
+    QObject::connect(mnuGPaste, &QAction::triggered, &grid, [&grid, &context] {
+        if (grid.finishEdit()) VfgPaste(context, grid, rawBuffer());
+    });
+    QObject::connect(mnuGClear, &QAction::triggered, &grid, [&grid] {
+        if (grid.finishEdit()) clearCells(*grid.grid(), grid.GetSelection());
+    });
+}
+
+} // namespace kurbo

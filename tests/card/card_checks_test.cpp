@@ -1,0 +1,139 @@
+#include "card/card_checks.h"
+
+#include "card/sheet.h"
+#include "support/told_prompts.h"
+
+namespace kurbo::test {
+namespace {
+
+class CardChecks : public ::testing::Test {
+  protected:
+    CardChecks() { drawDays(sheet, *makeDay(2026, 4, 10), 5); }
+
+    // What the check says: one text, or nothing where all is well.
+    template <typename Check>
+    QString told(Check check) {
+        ToldPrompts prompts;
+        const bool passed = check(Context{prompts, desk.clock, desk.paths, desk.progress});
+        EXPECT_EQ(prompts.messages.size(), passed ? 0 : 1);
+        if (passed) return {};
+        EXPECT_EQ(prompts.messages.last().icon, Icon::Exclamation);
+        return prompts.messages.last().text;
+    }
+    QString monthly(const clsWorkTime& rules) {
+        return told([&](const Context& context) { return CheckMonthly(context, sheet, rules); });
+    }
+    QString dayly(const QString& start = u"2026/04/10"_q, const QString& end = u"2026/04/14"_q) {
+        return told([&](const Context& context) { return CheckDayly(context, sheet, start, end); });
+    }
+
+    Desk desk;
+    CardSheet sheet;
+};
+
+const QString enterLines = u"の出社時刻が不正です。\r\n出社時刻はhh:mm形式(半角)で入力します。\r\n"
+                           "例：8時48分に出社した場合は下記の様に入力します。\r\n    08:48"_q;
+const QString leaveLines = u"の退社時刻が不正です。\r\n退社時刻はhh:mm形式(半角)で入力します。\r\n"
+                           "例：18時12分に退社した場合は下記の様に入力します。\r\n    18:12\r\n\r\n"
+                           "勤務が翌日にまたがった場合の退社時刻には出社日の退社時刻\r\n"
+                           "欄に(mm/dd)hh:mm形式(半角)で退社日付を加えて入力します。\r\n"
+                           "例：1月30日からの勤務で翌1月31日の18:12に退社した場合は\r\n"
+                           "1月30日の退社時刻欄に下記の様に入力します。\r\n    (01/31)18:12"_q;
+const QString planLine = u"の予定が不正です。予定は全角15文字(半角30文字)以内で入力します。"_q;
+const QString orderLines = u"の出退社時刻が不正です。\r\n退社時刻は出社時刻以降に設定して下さい。"_q;
+
+} // namespace
+
+TEST_F(CardChecks, EachChangedDay) {
+    const struct {
+        QString plan, enter, leave;
+        CardColumn kindColumn;
+        QString kind, refusal;
+    } cases[] = {
+        {QString(15, u'予'), u"08:48"_q, u"08:48"_q, CardColumn::Paid, u"午前"_q, {}},
+        {QString(30, u'a'), {}, u"18:12"_q, CardColumn::Special, u"全日"_q, {}},
+        {{}, u"22:00"_q, u"(04/13)05:00"_q, CardColumn::Compens, u"午後"_q, {}},
+        {QString(16, u'予'), u"x"_q, {}, CardColumn::Paid, {}, planLine},
+        {{}, u"8:48"_q, u"x"_q, CardColumn::Paid, {}, enterLines},
+        {{}, u"08:48"_q, u"08:47"_q, CardColumn::Paid, u"x"_q, orderLines},
+        {{}, u"08:48"_q, u"1８:12"_q, CardColumn::Paid, {}, leaveLines},
+        {{}, {}, u"(04/31)18:12"_q, CardColumn::Paid, {}, leaveLines},
+        {{}, {}, {}, CardColumn::Paid, u"終日"_q, u"の有給休暇が不正です。\r\nリストから選択して下さい。"_q},
+        {{}, {}, {}, CardColumn::Special, u"0"_q, u"の特別休暇が不正です。\r\nリストから選択して下さい。"_q},
+        {{}, {}, {}, CardColumn::Compens, u"PM"_q, u"の代休が不正です。\r\nリストから選択して下さい。"_q},
+    };
+    for (const auto& c : cases) {
+        drawDays(sheet, *makeDay(2026, 4, 10), 5);
+        type(sheet, 2, CardColumn::Plan, c.plan);
+        type(sheet, 2, CardColumn::Enter, c.enter);
+        type(sheet, 2, CardColumn::Leave, c.leave);
+        type(sheet, 2, c.kindColumn, c.kind);
+        EXPECT_EQ(dayly(), c.refusal.isEmpty() ? QString() : u"26/04/12(日)"_q + c.refusal);
+    }
+    sheet.grid.RowStatus(firstCardDay + 2, GridStatus::Updated);
+    type(sheet, 3, CardColumn::Plan, u"会議"_q);
+    EXPECT_EQ(dayly(), QString()) << "rows that the person did not change are not checked";
+}
+
+TEST_F(CardChecks, FileModeAndPeriod) {
+    const QString noDates = u"期間が不正です。開始日付と終了日付を西暦年でyyyy/mm/dd形式(半角)で入力して下さい。"_q;
+    EXPECT_EQ(dayly(u"2026/04/31"_q), noDates);
+    EXPECT_EQ(dayly(u"2026/04/10"_q, u"    /  /  "_q), noDates);
+    EXPECT_EQ(dayly(u"2026/04/15"_q), u"開始日付が終了日付以降に設定されています。"_q);
+    EXPECT_EQ(dayly(u"2026/04/14"_q), QString());
+    EXPECT_EQ(checkedPeriod(desk.context, u"2026/04/01"_q, u"2026/04/30"_q),
+              (Period{*makeDay(2026, 4, 1), *makeDay(2026, 4, 30)}));
+    sheet.blnFileMode = true;
+    EXPECT_EQ(dayly(u"x"_q), u"タイムカードファイルを呼出した状態で更新はできません。"_q);
+    EXPECT_EQ(monthly({}), u"タイムカードファイルを呼出した状態で月次更新はできません。"_q);
+}
+
+TEST_F(CardChecks, FinalSums) {
+    const QString number = u"が不正です。数値(半角)を入力して下さい。"_q;
+    const QString hour = u"が不正です。時間を入力して下さい。\r\n時間はh:mm形式(半角)で入力します。\r\n"
+                         "例：30時間30分の場合は下記の様に入力します。\r\n    30:30"_q;
+    const struct {
+        int column;
+        QString text, decimal, sexagesimal; // what is said where hours are numbers, and where they are h:mm
+    } cases[] = {
+        {3, u"20.5"_q, {}, {}},
+        {3, u"２０"_q, u"出勤日数合計"_q + number, u"出勤日数合計"_q + number},
+        {4, u"170.5"_q, {}, u"実働時間合計"_q + hour},
+        {4, u"170:30"_q, u"実働時間合計"_q + number, {}},
+        {5, u"x"_q, u"有給休暇残数"_q + number, u"有給休暇残数"_q + number},
+        {6, u"x"_q, u"法定内残業合計"_q + number, u"法定内残業合計"_q + hour},
+        {7, u":30"_q, u"普通残業合計"_q + number, u"普通残業合計"_q + hour},
+        {7, u"1.5:30"_q, u"普通残業合計"_q + number, u"普通残業合計"_q + hour},
+        {7, u"1：30"_q, u"普通残業合計"_q + number, u"普通残業合計"_q + hour},
+        {18, u"1:00"_q, u"欠勤合計"_q + number, u"欠勤合計"_q + number},
+        {21, u"x"_q, {}, {}},
+    };
+    clsWorkTime rules;
+    for (const auto& c : cases) {
+        sheet.grid.fillRow(finalSumRow, QStringList(cardColumns, QString()));
+        sheet.grid.TextMatrix(finalSumRow, c.column, c.text);
+        for (rules.plngCountUnit = 0; rules.plngCountUnit < 2; ++rules.plngCountUnit)
+            EXPECT_EQ(monthly(rules), rules.plngCountUnit == 0 ? c.decimal : c.sexagesimal)
+                << c.column << ' ' << c.text;
+    }
+    sheet.grid.TextMatrix(finalSumRow, 21, QString());
+    sheet.grid.TextMatrix(finalSumRow, 6, u"+1:30"_q);
+    rules.pbleFlexTime = true;
+    rules.plngCountUnit = 0;
+    EXPECT_EQ(monthly(rules), QString());
+}
+
+TEST_F(CardChecks, MissingPunches) {
+    const QString heading = u"注意! 下記日付の打刻がありません。\r\n"_q;
+    EXPECT_EQ(ListMissingPunch(sheet.grid), QString());
+    type(sheet, 0, CardColumn::Enter, u"08:48"_q);
+    EXPECT_EQ(ListMissingPunch(sheet.grid), heading + u"26/04/10(金)"_q);
+    type(sheet, 1, CardColumn::Enter, u"08:48"_q);
+    type(sheet, 1, CardColumn::Leave, u"18:12"_q);
+    type(sheet, 2, CardColumn::Leave, u"18:12"_q);
+    EXPECT_EQ(ListMissingPunch(sheet.grid), heading + u"26/04/10(金), 26/04/12(日)"_q);
+    type(sheet, 2, CardColumn::AbsentDay, u"1"_q);
+    EXPECT_EQ(ListMissingPunch(sheet.grid), heading + u"26/04/10(金), 26/04/12(日), \r\n26/04/12(日)"_q);
+}
+
+} // namespace kurbo::test

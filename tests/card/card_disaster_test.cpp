@@ -1,0 +1,116 @@
+#include "card/card_update.h"
+#include "card/sheet.h"
+#include "store/database_file.h"
+#include "support/child.h"
+#include "support/sample_company.h"
+#include "support/told_prompts.h"
+
+namespace kurbo::test {
+namespace {
+
+constexpr int changedDays = 31;
+
+class CardDisaster : public SampleCompany {
+  protected:
+    // A month of rows, far apart in the file; its last days have none yet.
+    CardDisaster() {
+        constexpr int stored = 22;
+        constexpr int rowsBetween = 20;
+        drawDays(sheet, *makeDay(2026, 5, 1), changedDays);
+        {
+            Transaction transaction(connection);
+            for (int id = 1; id <= stored * rowsBetween; ++id)
+                addCard(id, *makeDay(2026, 5, 1) + std::chrono::days(id / rowsBetween), u"08:48"_q, u"18:12"_q, {},
+                        id % rowsBetween == 0 ? u"1001"_q : u"1002"_q);
+            transaction.commit();
+        }
+        connection.close();
+        for (int day = 0; day < changedDays; ++day) {
+            if (day < stored) sheet.grid.TextMatrix(firstCardDay + day, 24, QString::number((day + 1) * rowsBetween));
+            type(sheet, day, CardColumn::Plan, u"変更"_q);
+        }
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        before = file.readAll();
+    }
+
+    void restore() {
+        QFile::remove(path + u"-journal"_q);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        EXPECT_EQ(file.write(before), before.size());
+    }
+    // 0 updated, 1 refused for want of room, 2 refused for something else.
+    int update(DiskFailure failure, int call) {
+        failAtCall(failure, call);
+        Connection own;
+        own.open(path, databasePassword());
+        ToldPrompts prompts;
+        if (UpdateDayly({prompts, desk.clock, desk.paths, desk.progress}, own, sheet, u"1001"_q)) return 0;
+        return prompts.messages.last().text.contains(u"ディスクの空き容量が不足しているため"_q) ? 1 : 2;
+    }
+    int changedRows() {
+        EXPECT_TRUE(checkDatabase(path).isEmpty());
+        connection.open(path, databasePassword());
+        const int changed = asked(u"SELECT Count(*) FROM T02_Kurbo WHERE F_Plan = '変更'"_q).toInt();
+        connection.close();
+        return changed;
+    }
+
+    CardSheet sheet;
+    QByteArray before;
+};
+
+} // namespace
+
+TEST_F(CardDisaster, AtEachCallAllOrNothing) {
+    for (const auto failure : {DiskFailure::Killed, DiskFailure::KilledHalfway, DiskFailure::Full}) {
+        int end = -1;
+        int call = 0;
+        bool committed = false;
+        while (end != 0) {
+            restore();
+            ++call;
+            end = endOf(startChild([&] { return update(failure, call); }));
+            const int changed = changedRows();
+            ASSERT_TRUE(changed == 0 || changed == changedDays) << "call " << call;
+            ASSERT_TRUE(changed > 0 || !committed) << "call " << call;
+            committed = changed > 0;
+            ASSERT_TRUE(end == 0 ? committed : end == (failure == DiskFailure::Full ? 1 : -1)) << "call " << call;
+            ASSERT_TRUE(!committed || end == 0 || failure != DiskFailure::Full) << "call " << call;
+        }
+        RecordProperty("calls", call);
+        EXPECT_GT(call, changedDays) << "the update writes to many places";
+    }
+}
+
+TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {
+    constexpr int clients = 5;
+    constexpr int rounds = 20;
+    constexpr int days = 3;
+    const auto client = [&](int number) {
+        Connection own;
+        own.open(path, databasePassword());
+        int failures = 0;
+        for (int round = 0; round < rounds; ++round) {
+            drawDays(sheet, *makeDay(2026, 7, 1) + std::chrono::days(round * days), days);
+            for (int day = 0; day < days; ++day) type(sheet, day, CardColumn::Plan, u"追加"_q);
+            if (!UpdateDayly(desk.context, own, sheet, u"P%1"_q.arg(number))) ++failures;
+        }
+        return failures;
+    };
+    std::vector<pid_t> running;
+    running.reserve(clients);
+    for (int i = 0; i < clients; ++i) running.push_back(startChild([&] { return client(i); }));
+    for (const pid_t child : running) EXPECT_EQ(endOf(child), 0);
+    EXPECT_TRUE(checkDatabase(path).isEmpty());
+    connection.open(path, databasePassword());
+    const QString added = u"FROM T02_Kurbo WHERE F_Plan = '追加'"_q;
+    EXPECT_EQ(asked(u"SELECT Count(*) "_q + added).toInt(), clients * rounds * days);
+    EXPECT_EQ(asked(u"SELECT Max(F_KurboID) - Min(F_KurboID) + 1 "_q + added).toInt(), clients * rounds * days)
+        << "no gap";
+    EXPECT_EQ(asked(u"SELECT Count(*) FROM (SELECT DISTINCT F_User, F_DateID "_q + added + u")"_q).toInt(),
+              clients * rounds * days);
+}
+
+} // namespace kurbo::test

@@ -1,0 +1,144 @@
+#include "card/card_rules.h"
+
+#include "card/card_cells.h"
+#include "card/card_grid.h"
+#include "support/desk.h"
+
+namespace kurbo::test {
+namespace {
+
+constexpr int day = firstCardDay;
+
+// A card of 31 January with both punches, and one of 31 December without.
+class CardRulesTest : public ::testing::Test {
+  protected:
+    CardRulesTest() {
+        Card card;
+        card.headings = QStringList(cardColumns);
+        for (QStringList& row : card.summary) row = QStringList(cardColumns);
+        QStringList january(cardColumns);
+        january[1] = u"26/01/31(土)"_q;
+        january[22] = u"2026/01/31 08:52:17"_q;
+        QStringList december(cardColumns);
+        december[1] = u"26/12/31(木)"_q;
+        card.days = {january, december};
+        fillCardGrid(sheet.grid, card);
+        sheet.grid.setRules(&cells);
+        reader.cardShown = true;
+    }
+    // The columns that may be edited in the row.
+    [[nodiscard]] QList<int> open(int row) const {
+        QList<int> columns;
+        for (int column = 0; column < cardColumns; ++column)
+            if (sheet.grid.Editable(row, column)) columns.append(column);
+        return columns;
+    }
+
+    AccessRights access;
+    CardReader reader{access};
+    clsWorkTime rules;
+    CardSheet sheet;
+    CardRules cells{sheet, reader, rules};
+};
+
+TEST_F(CardRulesTest, EveryRightOpensItsOwnCells) {
+    const QList<int> sums{3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
+    const std::tuple<Right, Right, QList<int>, QList<int>> cases[] = {
+        {Right::WriteMyPlan, Right::WriteOtherPlan, {3}, {}},
+        {Right::WriteMyTime, Right::WriteOtherTime, {4, 5}, {}},
+        {Right::WriteMyPaid, Right::WriteOtherPaid, {15}, {}},
+        {Right::WriteMySpecial, Right::WriteOtherSpecial, {16}, {}},
+        {Right::WriteMyCompens, Right::WriteOtherCompens, {17}, {}},
+        {Right::WriteMyMonthly, Right::WriteOtherMonthly, {}, sums},
+    };
+    for (const auto& [my, other, dayCells, sumCells] : cases)
+        for (const bool own : {true, false}) {
+            access.rights = {};
+            access.set(own ? my : other, true);
+            reader.blnMyCard = own;
+            EXPECT_EQ(open(day), dayCells);
+            EXPECT_EQ(open(finalSumRow), sumCells);
+            reader.blnMyCard = !own;
+            EXPECT_TRUE(open(day).isEmpty() && open(finalSumRow).isEmpty());
+        }
+    reader.blnMyCard = false;
+    rules.pbleFlexTime = true;
+    EXPECT_FALSE(sheet.grid.Editable(finalSumRow, 6)) << "a time difference is never typed";
+    sheet.blnFileMode = true;
+    EXPECT_TRUE(open(finalSumRow).isEmpty());
+    EXPECT_EQ(cells.tip(finalSumRow, 6), u"編集できません"_q);
+}
+
+TEST_F(CardRulesTest, JudgesAnEntry) {
+    const QString number = u"数値(半角)"_q;
+    const QString hours = u"時間はh:mm形式(半角)"_q;
+    const QString list = u"リストから選択して下さい。"_q;
+    struct Case {
+        int row;
+        int column;
+        QString text;
+        QString refusal; // a part of it; empty when the text is taken
+    };
+    const Case cases[] = {
+        {day, 3, u"あいうえおかきくけこさしすせそ"_q, {}},
+        {day, 3, u"あいうえおかきくけこさしすせそa"_q, u"全角15文字"_q},
+        {day, 4, u"08:48"_q, {}},
+        {day, 4, u"8:48"_q, {}},
+        {day, 4, u"24:00"_q, u"    08:48"_q},
+        {day, 4, u"０８:48"_q, u"時刻を入力して下さい。\r\n出社時刻は"_q},
+        {day, 5, u"18:12"_q, {}},
+        {day, 5, u"(02/01)06:00"_q, {}},
+        {day, 5, u"(13/01)06:00"_q, u"    (01/31)18:12"_q},
+        {day + 1, 5, u"(01/01)02:00"_q, {}},
+        {day, 15, u"午前"_q, {}},
+        {day, 16, u"半日"_q, list},
+        {3, 3, u"20"_q, {}},
+        {3, 3, u"２０"_q, number},
+        {3, 4, u"170:30"_q, {}},
+        {3, 4, u"170.5"_q, hours},
+        {3, 14, u"-1:30"_q, {}},
+        {3, 5, u"18.5"_q, {}},
+        {3, 20, u"x"_q, number},
+    };
+    for (const Case& c : cases) {
+        const QString refusal = cells.refusal(c.row, c.column, c.text);
+        EXPECT_EQ(refusal.isEmpty(), c.refusal.isEmpty()) << c.text << refusal;
+        EXPECT_TRUE(refusal.contains(c.refusal)) << refusal;
+    }
+    rules.plngCountUnit = 0;
+    EXPECT_TRUE(cells.refusal(3, 4, u"170.5"_q).isEmpty());
+    EXPECT_TRUE(cells.refusal(3, 4, u"170:30"_q).contains(number));
+}
+
+TEST_F(CardRulesTest, MarksWhatWasEdited) {
+    for (const Right right : {Right::WriteMyPlan, Right::WriteMyTime, Right::WriteMyMonthly}) access.set(right, true);
+    int told = 0;
+    sheet.onEdit = [&told] { ++told; };
+    sheet.grid.edit(day, 3, u"出張"_q);
+    EXPECT_TRUE(sheet.blnCardChanged && !sheet.blnMonthChanged && !sheet.blnEnterEdited(day));
+    sheet.grid.edit(day, 4, u"09:00"_q);
+    sheet.grid.edit(day + 1, 5, u"17:30"_q);
+    sheet.grid.edit(finalSumRow, 7, u"3:00"_q);
+    EXPECT_TRUE(sheet.blnEnterEdited(day) && !sheet.blnLeaveEdited(day) && sheet.blnLeaveEdited(day + 1));
+    EXPECT_TRUE(sheet.blnMonthChanged);
+    EXPECT_EQ(told, 4);
+    sheet.drawn();
+    EXPECT_FALSE(sheet.blnCardChanged || sheet.blnEnterEdited(day));
+    EXPECT_EQ(sheet.grid.RowStatus(day), GridStatus::None);
+}
+
+TEST_F(CardRulesTest, TellsWhatACellTakes) {
+    EXPECT_EQ(cells.PaidKindList(), u"|#0;全日|#1;午前|#2;午後"_q);
+    rules.plngAmHolidayWork = 0;
+    EXPECT_EQ(cells.comboList(day, 15), u"|#0;全日|#2;午後"_q);
+    EXPECT_EQ(cells.comboList(finalSumRow, 15) + cells.comboList(day, 14), u""_q);
+    EXPECT_EQ(cells.detail(day, 4), u"2026/01/31(土) 出社時刻 : 08:52:17"_q);
+    EXPECT_EQ(cells.detail(day, 5) + cells.detail(day + 1, 4) + cells.detail(day, 3), u""_q);
+    EXPECT_EQ(cells.scrollTip(day), u"26/01/31(土) / 26/12/31(木)"_q);
+    EXPECT_EQ(cells.tip(day, 5), u"退社時刻に変更があれば修正します(ﾀﾞﾌﾞﾙｸﾘｯｸで詳細時刻表示)"_q);
+    EXPECT_EQ(cells.tip(2, 6), u"法定内残業の合計に変更があれば修正します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"_q);
+    EXPECT_EQ(cells.tip(day, 7), u"編集できません(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"_q);
+}
+
+} // namespace
+} // namespace kurbo::test

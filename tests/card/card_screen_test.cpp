@@ -1,0 +1,165 @@
+#include "card/card_screen.h"
+
+#include "card/card_grid.h"
+#include "card/card_office.h"
+
+#include <QFile>
+
+namespace kurbo::test {
+namespace {
+
+const QString noCalendar = u"カレンダーが作成されていません。"_q;
+const QString discard = u"変更を破棄しますか？"_q;
+
+class CardScreenTest : public CardOffice {
+  protected:
+    [[nodiscard]] QString period() const {
+        return slashDate(screen.period().from) + u'-' + slashDate(screen.period().to);
+    }
+    [[nodiscard]] QString cell(int day, CardColumn column) const {
+        return screen.sheet.grid.TextMatrix(firstCardDay + day - 1, static_cast<int>(column));
+    }
+    void type(int day, CardColumn column, const QString& text) {
+        screen.sheet.grid.edit(firstCardDay + day - 1, static_cast<int>(column), text);
+    }
+
+    CardScreen screen{client};
+};
+
+TEST_F(CardScreenTest, BeginsWithTheOwnCardOfThisMonth) {
+    logIn(u"1001"_q);
+    ASSERT_TRUE(screen.load());
+    EXPECT_EQ(period(), u"2026/04/01-2026/04/30"_q);
+    EXPECT_EQ(screen.section() + u' ' + screen.staff(), u"S01 1001"_q);
+    EXPECT_EQ(screen.people().size(), 3) << "people who aren't displayed can't be chosen";
+    EXPECT_EQ(cell(2, CardColumn::Leave), u"(04/03)06:30"_q);
+    EXPECT_FALSE(screen.mayChooseOthers());
+    EXPECT_FALSE(screen.mayDelete());
+    desk.clock.set(at(*makeDay(2030, 7, 1), 9, 0));
+    EXPECT_TRUE(screen.load());
+    EXPECT_EQ(period(), u"2026/01/01-2026/01/31"_q) << "without a calendar of today its first day counts";
+}
+
+TEST_F(CardScreenTest, AFaultyRuleLeavesNothingToDo) {
+    logIn(u"1001"_q);
+    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = 99 WHERE (F_StaffCode = '1001')"_q);
+    desk.prompts.expect(u""_q);
+    EXPECT_FALSE(screen.load());
+    EXPECT_FALSE(screen.isAlive());
+}
+
+TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load());
+    EXPECT_EQ(period(), u"2026/03/21-2026/04/20"_q);
+    EXPECT_TRUE(screen.chooseMonth(3));
+    EXPECT_EQ(period(), u"2026/02/21-2026/03/20"_q);
+    desk.prompts.expect(noCalendar);
+    EXPECT_FALSE(screen.moveYears(1, u"2026/02/21"_q, u"2026/03/20"_q));
+    EXPECT_EQ(period() + QString::number(screen.year()), u"2026/02/21-2026/03/202026"_q);
+    EXPECT_TRUE(screen.display(u"2026/04/01"_q, u"2026/06/30"_q));
+    EXPECT_EQ(screen.sheet.grid.Rows(), firstCardDay + 91);
+    EXPECT_EQ(screen.month(), 3) << "the month buttons keep their state";
+    EXPECT_FALSE(screen.isWholePeriod());
+    const std::tuple<QString, QString, QString> refusals[] = {
+        {u"2026/04/31"_q, u"2026/06/30"_q, u"期間が不正です。"_q},
+        {u"2026/05/02"_q, u"2026/05/01"_q, u"開始日付が終了日付以降に設定されています。"_q},
+        {u"2027/01/01"_q, u"2027/01/31"_q, noCalendar},
+    };
+    for (const auto& [start, end, message] : refusals) {
+        desk.prompts.expect(message);
+        EXPECT_FALSE(screen.display(start, end));
+        EXPECT_EQ(period(), u"2026/04/01-2026/06/30"_q);
+    }
+}
+
+TEST_F(CardScreenTest, AnotherPersonHasAnotherPeriodAndOtherRights) {
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load());
+    EXPECT_FALSE(screen.mayDelete()) << "only others' data";
+    EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
+    EXPECT_EQ(period(), u"2026/04/01-2026/04/30"_q);
+    EXPECT_TRUE(screen.mayDelete());
+    EXPECT_FALSE(screen.isOwnCard());
+    type(1, CardColumn::Plan, u"出張"_q);
+    desk.prompts.expect(discard, Answer::No);
+    EXPECT_FALSE(screen.chooseStaff(u"1003"_q));
+    EXPECT_EQ(screen.staff() + cell(1, CardColumn::Plan), u"1001出張"_q);
+    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 29 WHERE (F_StaffCode = '1003')"_q);
+    desk.prompts.expect(discard, Answer::Yes).expect(u"タイムカード締日"_q);
+    EXPECT_FALSE(screen.chooseStaff(u"1003"_q));
+    EXPECT_EQ(screen.staff(), u"1001"_q);
+    EXPECT_TRUE(screen.sheet.blnCardChanged) << "what was refused changed nothing";
+}
+
+TEST_F(CardScreenTest, UpdatesAndDeletesWhatIsShown) {
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    type(1, CardColumn::Leave, u"18:30"_q);
+    type(6, CardColumn::Enter, u"09:05"_q);
+    desk.prompts.expect(u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q, Answer::Cancel);
+    EXPECT_FALSE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
+    EXPECT_EQ(count(u"T02_Kurbo"_q), 3);
+    desk.prompts.expect(u"よろしいですか？"_q);
+    EXPECT_TRUE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
+    EXPECT_EQ(asked(u"SELECT F_Leave FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"2026/04/01 18:30:00"_q);
+    EXPECT_EQ(cell(1, CardColumn::FullEnter), u"2026/04/01 08:52:17"_q) << "the enter keeps its seconds";
+    EXPECT_EQ(cell(6, CardColumn::Id), u"4"_q);
+    EXPECT_FALSE(screen.sheet.blnCardChanged);
+    desk.prompts.expect(u"表示期間(2026/04/01～2026/04/02)の"_q);
+    EXPECT_TRUE(screen.deletePeriod(u"2026/04/01"_q, u"2026/04/02"_q));
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    EXPECT_EQ(count(u"T02_Kurbo"_q), 2);
+}
+
+TEST_F(CardScreenTest, AnotherSitesSectionIsReadAndWrittenThere) {
+    const QString other = addOtherSite();
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load());
+    EXPECT_TRUE(screen.chooseSection(u"S02"_q));
+    EXPECT_EQ(screen.staff() + screen.people().first().code, u"2001"_q);
+    EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, static_cast<int>(CardColumn::Enter)))
+        << "the old card is only seen";
+    ASSERT_TRUE(screen.chooseStaff(u"2001"_q));
+    type(1, CardColumn::Enter, u"08:00"_q);
+    desk.prompts.expect(u"よろしいですか？"_q);
+    EXPECT_TRUE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
+    EXPECT_EQ(count(u"T02_Kurbo"_q), 3) << "the home file is left alone";
+    EXPECT_TRUE(client.OtherConnection.hasRow(u"SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = '2001')"_q));
+    screen.leave();
+    EXPECT_TRUE(client.CurrentConnection == &client.HomeConnection && !client.OtherConnection.isOpen());
+    EXPECT_TRUE(client.session.access.has(Right::DeleteOtherData)) << "the own section's rights again";
+}
+
+TEST_F(CardScreenTest, ARefusedSectionLeavesThePlaceAsItWas) {
+    const QString other = addOtherSite();
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    const auto refused = [this](const QString& message) {
+        desk.prompts.expect(message);
+        EXPECT_FALSE(screen.chooseSection(u"S02"_q)) << message;
+        EXPECT_EQ(screen.section() + screen.staff() + QString::number(screen.people().size()), u"S0110013"_q);
+        EXPECT_TRUE(client.CurrentConnection == &client.HomeConnection);
+        EXPECT_TRUE(client.session.access.has(Right::DeleteOtherData));
+    };
+    client.OtherConnection.close();
+    {
+        Connection site;
+        site.open(other, databasePassword());
+        site.execute(u"DELETE * FROM M08_Access WHERE (F_Section = 'S02')"_q);
+        refused(u"アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"_q);
+        site.execute(u"DELETE * FROM T01_Calendar"_q);
+        refused(noCalendar);
+    }
+    client.OtherConnection.close();
+    ASSERT_TRUE(QFile::rename(other, other + u".away"_q));
+    refused(u"選択した部課の情報を保存しているデータベースファイル\r\n  "_q + other);
+    QFile text(other);
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("no database") > 0);
+    text.close();
+    refused(u""_q);
+    EXPECT_TRUE(screen.chooseStaff(u"1003"_q)) << "work goes on";
+}
+
+} // namespace
+} // namespace kurbo::test

@@ -1,0 +1,191 @@
+#include "card/frmKurbo.h"
+
+#include "card/card_cells.h"
+#include "card/card_grid.h"
+#include "card/card_office.h"
+#include "screen/data_combo.h"
+#include "screen/grid.h"
+#include "screen/masked_box.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+namespace kurbo::test {
+namespace {
+
+constexpr int plan = static_cast<int>(CardColumn::Plan);
+constexpr int enter = static_cast<int>(CardColumn::Enter);
+
+// The card's window, worked as a person works it.
+class FrmKurbo : public CardOffice {
+  protected:
+    ~FrmKurbo() override { delete form; }
+    void openAs(const QString& staff) {
+        logIn(staff);
+        form = new frmKurbo(client);
+        form->load();
+        form->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    }
+    template <typename Widget>
+    [[nodiscard]] Widget* find(const char* name) const {
+        auto* const found = form->findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_TRUE(found) << name;
+        return found;
+    }
+    [[nodiscard]] Grid& grid() const { return *find<Grid>("vfgKurbo"); }
+    [[nodiscard]] GridModel& cells() const { return *grid().grid(); }
+    [[nodiscard]] QString cell(int day, int column) const { return cells().TextMatrix(firstCardDay + day - 1, column); }
+    void press(int key) const { QTest::keyClick(QApplication::focusWidget(), Qt::Key(key)); }
+    void type(int day, int column, const QString& text) const {
+        grid().setFocus();
+        grid().Select(firstCardDay + day - 1, column);
+        for (const QChar sign : text) QTest::keyClick(QApplication::focusWidget(), sign.toLatin1());
+    }
+    void choose(const char* combo, const QString& code) const {
+        auto* const list = find<DataCombo>(combo);
+        list->setFocus();
+        list->setBoundText(code);
+        Q_EMIT list->activated(list->currentIndex());
+    }
+    [[nodiscard]] QString shown() const {
+        return find<DataCombo>("dcbStaff")->boundText() + u' ' + find<MaskedBox>("mskStart")->maskText() + u'-' +
+               find<MaskedBox>("mskEnd")->maskText();
+    }
+    void trigger(const char* action) const { find<QAction>(action)->trigger(); }
+
+    QPointer<frmKurbo> form;
+};
+
+TEST_F(FrmKurbo, AnOrdinaryPersonSeesTheOwnCardOnly) {
+    openAs(u"1001"_q);
+    EXPECT_EQ(form->windowTitle(), u"Kurbo－タイムカード"_q);
+    EXPECT_EQ(shown(), u"1001 2026/04/01-2026/04/30"_q);
+    EXPECT_TRUE(find<QRadioButton>("optMonth_4")->isChecked());
+    for (const char* closed : {"dcbSection", "dcbStaff", "cmdUpdate", "cmdGoOut"})
+        EXPECT_FALSE(find<QWidget>(closed)->isEnabled()) << closed;
+    EXPECT_FALSE(find<QAction>("mnuDelete")->isEnabled());
+    EXPECT_EQ(grid().width(), form->centralWidget()->width() - 20);
+    EXPECT_EQ(grid().height(), form->centralWidget()->height() - 187);
+}
+
+TEST_F(FrmKurbo, ACorrectionIsTypedCheckedAndStored) {
+    openAs(u"1001"_q);
+    type(1, plan, u"Osaka"_q);
+    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled()) << "nothing is changed yet";
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled() && find<QAction>("mnuUpdate")->isEnabled());
+    type(6, enter, u"9;00"_q);
+    desk.prompts.expect(u"出社時刻はhh:mm形式(半角)で入力します。"_q);
+    trigger("mnuUpdate");
+    EXPECT_TRUE(grid().isEditing()) << "a command takes the open cell first";
+    grid().cancelEdit();
+    type(6, enter, u"09:00"_q);
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    trigger("mnuUpdate");
+    EXPECT_EQ(asked(u"SELECT F_Plan FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"Osaka"_q);
+    EXPECT_EQ(cell(6, static_cast<int>(CardColumn::Id)), u"4"_q);
+    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled());
+}
+
+TEST_F(FrmKurbo, PastedAndClearedPunchesAreEdits) {
+    openAs(u"1001"_q);
+    QApplication::clipboard()->setText(u"08:30\t17:00\r\n"_q);
+    grid().setFocus();
+    grid().Select(firstCardDay, enter);
+    QTest::keyClick(&grid(), Qt::Key_Right, Qt::ShiftModifier);
+    trigger("mnuGPaste");
+    grid().Select(firstCardDay + 2, enter);
+    trigger("mnuGClear");
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    find<QPushButton>("cmdUpdate")->click();
+    EXPECT_EQ(asked(u"SELECT F_Enter FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"2026/04/01 08:30:00"_q);
+    EXPECT_EQ(asked(u"SELECT F_Enter FROM T02_Kurbo WHERE (F_KurboID = 3)"_q), u"-"_q);
+}
+
+TEST_F(FrmKurbo, APersonAMonthAndARangeAreChosen) {
+    openAs(u"1002"_q);
+    EXPECT_EQ(shown(), u"1002 2026/03/21-2026/04/20"_q);
+    choose("dcbStaff", u"1001"_q);
+    EXPECT_EQ(shown(), u"1001 2026/04/01-2026/04/30"_q);
+    find<QRadioButton>("optMonth_2")->click();
+    EXPECT_EQ(shown(), u"1001 2026/02/01-2026/02/28"_q);
+    type(1, plan, u"x"_q);
+    press(Qt::Key_Return);
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
+    find<QRadioButton>("optMonth_3")->click();
+    EXPECT_TRUE(find<QRadioButton>("optMonth_2")->isChecked());
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes).expect(u"カレンダーが作成されていません。"_q);
+    QTest::keyClick(find<QWidget>("txtYear"), Qt::Key_Up);
+    EXPECT_EQ(find<QLineEdit>("txtYear")->text() + shown(), u"20261001 2026/02/01-2026/02/28"_q);
+    find<MaskedBox>("mskStart")->setText(u"2026/04/02"_q);
+    find<MaskedBox>("mskEnd")->setText(u"2026/04/02"_q);
+    QTest::keyClick(find<QWidget>("mskEnd"), Qt::Key_Up);
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
+    find<QPushButton>("cmdDisplay")->click();
+    EXPECT_EQ(shown(), u"1001 2026/04/02-2026/04/03"_q);
+    EXPECT_EQ(cells().Rows(), firstCardDay + 2);
+    desk.prompts.expect(u"2026/04/03(金) 退社時刻 : 06:30:00"_q);
+    Q_EMIT grid().doubleClicked(cells().index(firstCardDay, static_cast<int>(CardColumn::Leave)));
+    type(1, plan, u"x"_q);
+    press(Qt::Key_Return);
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
+    EXPECT_FALSE(form->close());
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
+    EXPECT_TRUE(form->close());
+}
+
+TEST_F(FrmKurbo, AnotherSiteGoneMidwayIsToldAndTheScreenStays) {
+    const QString other = addOtherSite();
+    openAs(u"1002"_q);
+    choose("dcbSection", u"S02"_q);
+    EXPECT_EQ(find<DataCombo>("dcbStaff")->currentText(), u""_q);
+    EXPECT_EQ(cells().Rows(), firstCardDay + 31) << "the old card stays until a name is chosen";
+    choose("dcbStaff", u"2001"_q);
+    EXPECT_EQ(shown(), u"2001 2026/04/01-2026/04/30"_q);
+    choose("dcbSection", u"S01"_q);
+    ASSERT_TRUE(QFile::rename(other, other + u".away"_q));
+    desk.prompts.expect(u"が見つかりません。データベースの保存場所，ファイル名"_q);
+    choose("dcbSection", u"S02"_q);
+    EXPECT_EQ(find<DataCombo>("dcbSection")->boundText(), u"S01"_q);
+    choose("dcbStaff", u"1001"_q);
+    EXPECT_EQ(cells().Rows(), firstCardDay + 30);
+}
+
+TEST_F(FrmKurbo, AScreenWithoutACardCanOnlyBeClosed) {
+    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = 99 WHERE (F_StaffCode = '1002')"_q);
+    desk.prompts.expect(u""_q);
+    openAs(u"1002"_q);
+    for (const char* closed : {"dcbSection", "dcbStaff", "txtYear", "mskStart", "udcEnd", "cmdDisplay", "cmdPrint",
+                               "optMonth_7", "chkSuperior", "vfgKurbo"})
+        EXPECT_FALSE(find<QWidget>(closed)->isEnabled()) << closed;
+    for (const char* closed : {"mnuMonthly", "mnuKrb", "mnuGrid"})
+        EXPECT_FALSE(find<QMenu>(closed)->menuAction()->isEnabled()) << closed;
+    EXPECT_TRUE(form->close());
+}
+
+TEST_F(FrmKurbo, TwoWindowsOnOneFileSeeEachOthersWork) {
+    openAs(u"1001"_q);
+    Client secondClient{desk.context};
+    secondClient.DbPath = path;
+    secondClient.openHome();
+    secondClient.session = client.session;
+    auto* const second = new frmKurbo(secondClient);
+    second->load();
+    type(1, plan, u"x"_q);
+    find<QMenu>("mnuFile")->popup({});
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    trigger("mnuUpdate");
+    second->findChild<QPushButton*>(u"cmdDisplay"_q)->click();
+    EXPECT_EQ(second->findChild<Grid*>(u"vfgKurbo"_q)->grid()->TextMatrix(firstCardDay, plan), u"x"_q);
+    delete second;
+}
+
+} // namespace
+} // namespace kurbo::test

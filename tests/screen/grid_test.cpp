@@ -1,0 +1,194 @@
+#include "screen/grid.h"
+
+#include "screen/vfg_copy.h"
+#include "support/desk.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTest>
+
+namespace kurbo::test {
+namespace {
+
+// Column 1 takes numbers, column 2 the words of a list, column 3 a masked time, column 4 is a box, column 5 is closed.
+struct Rules final : GridRules {
+    [[nodiscard]] bool mayEdit(int /*row*/, int column) const override { return column != 5; }
+    [[nodiscard]] QString comboList(int row, int column) const override {
+        return column == 2 && row > 2 ? u"|全日|午前"_q : QString();
+    }
+    [[nodiscard]] QString refusal(int /*row*/, int column, const QString& text) const override {
+        bool number = false;
+        (void)text.toInt(&number);
+        return column == 1 && !number ? u"数値を入力して下さい。"_q : QString();
+    }
+    [[nodiscard]] bool isJapanese(int column) const override { return column == 2; }
+};
+
+// A heading, two rows that stay in view, forty that scroll.
+class GridOnScreen : public ::testing::Test {
+  protected:
+    GridOnScreen() {
+        cells.setRules(&rules);
+        grid.setGrid(cells, desk.context);
+        cells.reset({.rows = 43, .columns = 6, .frozenRows = 2, .frozenColumns = 1});
+        cells.FormatString(u"No|^数|^種別|^時刻|^可|^計"_q);
+        cells.ColEditMask(3, u"##:##"_q);
+        cells.ColDataType(4, GridType::YesNo);
+        for (int row = 1; row < 43; ++row) cells.fillRow(row, {QString::number(row), u"1"_q, {}, {}, u"0"_q, u"-"_q});
+        grid.resize(420, 300);
+        grid.show();
+        grid.setFocus();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&grid));
+    }
+    void press(int key, Qt::KeyboardModifiers with = Qt::NoModifier) { QTest::keyClick(focus(), Qt::Key(key), with); }
+    // The first sign opens the editor, which takes the others.
+    void type(const QString& text) {
+        for (const QChar sign : text) QTest::keyClick(focus(), sign.toLatin1());
+    }
+    [[nodiscard]] QWidget* focus() { return grid.focusWidget() ? grid.focusWidget() : &grid; }
+    void click(int row, int column) {
+        const QPoint place = grid.cellRect(row, column).center();
+        QWidget* const under = grid.childAt(place);
+        ASSERT_TRUE(under);
+        QTest::mouseClick(under, Qt::LeftButton, {}, under->mapFrom(&grid, place));
+    }
+    [[nodiscard]] QString cursor() const { return u"%1,%2"_q.arg(grid.Row()).arg(grid.Col()); }
+
+    Desk desk;
+    Rules rules;
+    GridModel cells;
+    Grid grid;
+};
+
+TEST_F(GridOnScreen, TypedTextIsTakenByEnterAndTab) {
+    EXPECT_EQ(cursor(), u"3,1"_q) << "the first cell behind what stays in view";
+    type(u"25"_q);
+    EXPECT_TRUE(grid.isEditing());
+    press(Qt::Key_Return);
+    EXPECT_EQ(cells.TextMatrix(3, 1) + u' ' + cursor(), u"25 4,1"_q);
+    press(Qt::Key_F2);
+    type(u"7"_q);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(cells.TextMatrix(4, 1) + u' ' + cursor(), u"7 4,2"_q);
+    press(Qt::Key_Right);
+    type(u"0930"_q);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cells.TextMatrix(4, 3), u"09:30"_q);
+    press(Qt::Key_Up);
+    press(Qt::Key_F2);
+    type(u"1"_q);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(cells.TextMatrix(4, 3), u"09:30"_q);
+    press(Qt::Key_F2);
+    for (int digit = 0; digit < 5; ++digit) press(Qt::Key_Delete);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cells.TextMatrix(4, 3), u""_q) << "a mask without digits is empty";
+    click(5, 5);
+    type(u"9"_q);
+    EXPECT_FALSE(grid.isEditing());
+}
+
+TEST_F(GridOnScreen, ARefusedTextKeepsItsEditorOpen) {
+    type(u"x"_q);
+    desk.prompts.expect(u"数値を入力して下さい。"_q);
+    press(Qt::Key_Return);
+    EXPECT_EQ(grid.EditText(), u"x"_q);
+    desk.prompts.expect(u"数値を入力して下さい。"_q);
+    EXPECT_FALSE(grid.finishEdit());
+    desk.prompts.expect(u"数値を入力して下さい。"_q);
+    click(6, 2);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(grid.isEditing());
+    EXPECT_EQ(cursor(), u"3,1"_q) << "a click elsewhere doesn't leave it";
+    grid.cancelEdit();
+    EXPECT_EQ(cells.TextMatrix(3, 1), u"1"_q);
+    click(6, 2);
+    EXPECT_EQ(cursor(), u"6,2"_q);
+    EXPECT_TRUE(desk.prompts.allShown());
+}
+
+TEST_F(GridOnScreen, FrozenRowsStayInViewAndAreEditedThere) {
+    press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(grid.Row(), 42);
+    EXPECT_GT(grid.verticalScrollBar()->value(), 0);
+    const QRect frozen = grid.cellRect(1, 2);
+    EXPECT_TRUE(grid.rect().contains(frozen));
+    click(1, 1);
+    EXPECT_EQ(cursor(), u"1,1"_q);
+    EXPECT_GT(grid.verticalScrollBar()->value(), 0) << "the days stay where they were";
+    type(u"5"_q);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cells.TextMatrix(1, 1) + u' ' + cursor(), u"5 2,1"_q);
+    for (int row = 42; row > 2; --row) {
+        grid.Select(row, 2);
+        EXPECT_GE(grid.cellRect(row, 2).top(), grid.cellRect(2, 2).bottom()) << row;
+    }
+}
+
+TEST_F(GridOnScreen, ListsAndBoxesAreWorkedByKeyAndMouse) {
+    grid.Select(5, 2);
+    press(Qt::Key_F2);
+    auto* const list = grid.findChild<QComboBox*>();
+    ASSERT_TRUE(list);
+    EXPECT_TRUE(list->isEditable());
+    EXPECT_FALSE(list->inputMethodHints().testFlag(Qt::ImhPreferLatin));
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cells.TextMatrix(5, 2), u"全日"_q);
+    grid.Select(5, 4);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(cells.CellChecked(5, 4));
+    click(6, 4);
+    EXPECT_TRUE(cells.CellChecked(6, 4));
+    press(Qt::Key_Delete);
+    EXPECT_FALSE(cells.CellChecked(6, 4));
+}
+
+TEST_F(GridOnScreen, ASpreadsheetsCellsGoInAndOut) {
+    QClipboard* const clipboard = QApplication::clipboard();
+    // As LibreOffice Calc leaves two rows of two cells, and as Excel does.
+    auto* const calc = new QMimeData;
+    calc->setText(u"12\t全日\n34\t午前\n"_q);
+    calc->setHtml(u"<table><tr><td>12</td><td>全日</td></tr><tr><td>34</td><td>午前</td></tr></table>"_q);
+    clipboard->setMimeData(calc);
+    grid.Select(3, 1);
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(cells.TextMatrix(3, 1) + cells.TextMatrix(4, 2), u"12午前"_q);
+    EXPECT_EQ(grid.GetSelection().bottom, 4) << "the selection stays";
+    clipboard->setText(u"56\t \r\n"_q);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(cells.TextMatrix(3, 1) + cells.TextMatrix(3, 2) + cells.TextMatrix(4, 2), u"56午前"_q);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard->text(), u"56\t\r\n34\t午前\r\n"_q);
+    grid.Select(3, 5);
+    desk.prompts.expect(u"貼付先が編集不可の設定になっています。"_q);
+    press(Qt::Key_V, Qt::ControlModifier);
+    auto* const picture = new QMimeData;
+    picture->setData(u"image/png"_q, "png");
+    clipboard->setMimeData(picture);
+    grid.Select(3, 1);
+    desk.prompts.expect(u"テキスト以外のデータを貼付ける事はできません。"_q);
+    EXPECT_FALSE(VfgPaste(desk.context, grid, {}));
+}
+
+TEST_F(GridOnScreen, AFilledGridKeepsItsCursor) {
+    grid.Select(10, 2);
+    {
+        const Undrawn undrawn(cells);
+        cells.reset({.rows = 30, .columns = 6, .frozenRows = 2});
+        cells.RowHidden(10, true);
+    }
+    EXPECT_EQ(cursor(), u"11,2"_q);
+    EXPECT_TRUE(grid.isRowHidden(10));
+    EXPECT_FALSE(grid.isRowHidden(9));
+    EXPECT_EQ(grid.columnWidth(2), cells.ColWidth(2) * grid.logicalDpiX() / 1440);
+}
+
+} // namespace
+} // namespace kurbo::test
