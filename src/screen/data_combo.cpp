@@ -17,6 +17,8 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent) {
 }
 
 void DataCombo::setEntries(const QList<CodeName>& entries) {
+    if (entries == entries_) return;
+    entries_ = entries;
     const QString text = currentText();
     clear();
     for (const CodeName& entry : entries) addItem(entry.name, entry.code);

@@ -26,6 +26,8 @@ class DataCombo final : public QComboBox {
 
   private:
     [[nodiscard]] int shownEntry() const;
+
+    QList<CodeName> entries_;
 };
 
 } // namespace kurbo

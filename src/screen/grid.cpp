@@ -53,8 +53,8 @@ void Grid::setGrid(GridModel& grid, const Context& context) {
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, panes_[Top]->horizontalScrollBar(),
             &QScrollBar::setValue);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, panes_[Left]->verticalScrollBar(), &QScrollBar::setValue);
+    connect(&grid, &GridModel::aboutToRefill, this, &Grid::cancelEdit);
     connect(&grid, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
-        cancelEdit();
         keptRow_ = std::max(Row(), keptRow_);
         keptColumn_ = std::max(Col(), keptColumn_);
     });
@@ -66,7 +66,7 @@ void Grid::setGrid(GridModel& grid, const Context& context) {
 
 void Grid::dress(QTableView& view, GridHeader& headings, GridDelegate& cells) {
     headings.setGrid(grid_);
-    cells.setGrid(grid_, [this](const QString& text) { context_->prompts.exclaim(text); });
+    cells.setGrid(grid_, fontMetrics(), [this](const QString& text) { context_->prompts.exclaim(text); });
     const int height = std::max(rowTwips * logicalDpiY() / twipsAnInch, fontMetrics().height() + 2);
     headings.setRowHeight(height);
     headings.setFont(font());

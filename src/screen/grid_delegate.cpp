@@ -32,7 +32,8 @@ Qt::Alignment alignmentOf(const QModelIndex& index) {
     }
 }
 
-void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
+// `wideSign` is what the widest sign takes: measuring a text costs as much as painting it.
+void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index, int wideSign) {
     const QString text = index.data(Qt::DisplayRole).toString();
     if (text.isEmpty()) return;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
@@ -41,7 +42,8 @@ void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QMod
                             : colourOf(index.data(GridModel::ForeColourRole), colours.color(QPalette::Text)));
     painter.setFont(option.font);
     const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
-    const QString fitting = option.fontMetrics.elidedText(text, Qt::ElideRight, room.width());
+    const bool surelyFits = text.size() * wideSign <= room.width();
+    const QString fitting = surelyFits ? text : option.fontMetrics.elidedText(text, Qt::ElideRight, room.width());
     const auto alignment = fitting.size() == text.size() ? alignmentOf(index) : Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine, fitting);
 }
@@ -97,8 +99,9 @@ QWidget* textField(QWidget* parent, const QString& mask) {
 
 } // namespace
 
-void GridDelegate::setGrid(GridModel* grid, Refuse refuse) {
+void GridDelegate::setGrid(GridModel* grid, const QFontMetrics& font, Refuse refuse) {
     grid_ = grid;
+    wideSign_ = font.horizontalAdvance(u'国');
     refuse_ = std::move(refuse);
 }
 
@@ -109,7 +112,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
         painter->fillRect(option.rect, option.palette.color(QPalette::Highlight));
     else if (paper.isValid())
         painter->fillRect(option.rect, colourOf(paper, Qt::white));
-    paintText(*painter, option, index);
+    paintText(*painter, option, index, wideSign_);
     paintBox(*painter, option, index);
     const auto* const view = qobject_cast<const QAbstractItemView*>(option.widget);
     if (!view || view->currentIndex() != index) return;

@@ -20,7 +20,7 @@ class GridDelegate final : public QStyledItemDelegate {
     using Refuse = std::function<void(const QString& text)>;
 
     explicit GridDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
-    void setGrid(GridModel* grid, Refuse refuse);
+    void setGrid(GridModel* grid, const QFontMetrics& font, Refuse refuse);
 
     [[nodiscard]] bool isEditing() const { return !editor_.isNull(); }
     // The text in the open editor.
@@ -51,6 +51,7 @@ class GridDelegate final : public QStyledItemDelegate {
 
     GridModel* grid_ = nullptr;
     Refuse refuse_;
+    int wideSign_ = 0;
     mutable QPointer<QWidget> editor_;
     mutable QPersistentModelIndex cell_;
     // A refusal waits to be shown.

@@ -16,12 +16,17 @@ GridAlign alignOf(QChar sign) {
 } // namespace
 
 void GridModel::reset(const Shape& shape) {
-    beginResetModel();
+    Q_EMIT aboutToRefill();
+    const bool otherShape = shape_ != shape || Rows() != shape.rows;
+    if (otherShape) beginResetModel();
     shape_ = shape;
     columns_.assign(static_cast<std::size_t>(shape.columns), Column());
     rows_.assign(static_cast<std::size_t>(shape.rows), emptyRow());
     mergeHeadings_ = false;
-    endResetModel();
+    if (otherShape) endResetModel();
+    if (quiet_) return;
+    Redraw(false);
+    Redraw(true);
 }
 
 void GridModel::FormatString(const QString& headings) {

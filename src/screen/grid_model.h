@@ -43,8 +43,10 @@ class GridModel final : public QAbstractTableModel {
         int fixedColumns = 1;
         int frozenRows = 0;
         int frozenColumns = 0;
+        friend bool operator==(const Shape&, const Shape&) = default;
     };
-    // Empty cells; nothing hidden, coloured, listed or formatted. The rules stay.
+    // Empty cells; nothing hidden, coloured, listed or formatted. The rules stay. A grid of the same shape keeps its
+    // cursor and its selection.
     void reset(const Shape& shape);
     // The headings of row 0, parted by "|"; "^", "<" or ">" in front of one aligns its column.
     void FormatString(const QString& headings);
@@ -127,6 +129,8 @@ class GridModel final : public QAbstractTableModel {
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   Q_SIGNALS:
+    // All cells are about to be filled anew.
+    void aboutToRefill();
     // Hidden rows or columns, widths or headings have changed.
     void looksChanged();
 
