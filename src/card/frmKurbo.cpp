@@ -40,7 +40,7 @@ frmKurbo::frmKurbo(Client& client, QWidget* parent)
     connectSelection();
     connectCommands();
     screen_.sheet.onEdit = [this] { showCommands(); };
-    fillScreen(this, {1360, 900});
+    fillScreen(this, {1360, 990});
 }
 
 // The controls go before what they show.

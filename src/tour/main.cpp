@@ -23,7 +23,7 @@ void makeCompany(const QString& path, Day today) {
     makeDemoCompany(connection, options);
 }
 
-// The rows that the day's punches must have left: an arrival of today, and the night shift's end on yesterday's row.
+// What the day must have left: an arrival of today, the night shift's end on yesterday's row, and a corrected plan.
 bool punchesStand(const QString& path, Day today) {
     Connection connection;
     connection.open(path, databasePassword());
@@ -34,6 +34,8 @@ bool punchesStand(const QString& path, Day today) {
            connection.hasRow(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = '1010') AND "
                                             "(F_DateID = ?) AND (F_Leave > ?);"),
                              {yesterday, today}) &&
+           connection.hasRow(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = '1003') AND "
+                                            "(F_DateID = '20260601') AND (F_Plan = '大阪へ出張');")) &&
            checkDatabase(path).isEmpty();
 }
 

@@ -1,6 +1,10 @@
 #include "tour/working_day.h"
 
+#include "card/card_cells.h"
+#include "card/card_grid.h"
+#include "screen/data_combo.h"
 #include "screen/frmAbout.h"
+#include "screen/grid.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWaiting.h"
@@ -11,6 +15,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
 
 namespace kurbo {
 namespace {
@@ -38,6 +44,7 @@ void WorkingDay::play() {
     morning();
     mistakes();
     nightShiftEnds();
+    card();
     administrator();
     otherWindows();
     end();
@@ -107,6 +114,40 @@ void WorkingDay::nightShiftEnds() {
     clock_.set(clock_.now() + std::chrono::hours(9));
     logIn(QStringLiteral("営業部"), QStringLiteral("前田　裕二"), QStringLiteral("kurbo1006"));
     press(control("cmdLeave"), Qt::Key_Space);
+}
+
+QWidget* WorkingDay::screen(const char* name) {
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->objectName() == QLatin1String(name)) return window;
+    return nullptr;
+}
+
+// The superior sees the own month and corrects a day of somebody else's.
+void WorkingDay::card() {
+    logIn(QStringLiteral("総務部"), QStringLiteral("和田　学"), QStringLiteral("kurbo1001"));
+    press(control("cmdKurbo"), Qt::Key_Space);
+    QWidget* const form = screen("frmKurbo");
+    if (!form) return;
+    camera_.shoot(*form, QStringLiteral("タイムカード"));
+    auto* const names = form->findChild<DataCombo*>(QStringLiteral("dcbStaff"));
+    names->setBoundText(QStringLiteral("1003"));
+    Q_EMIT names->activated(names->currentIndex());
+    settle();
+    auto* const grid = form->findChild<Grid*>(QStringLiteral("vfgKurbo"));
+    grid->setFocus();
+    grid->Select(firstCardDay, static_cast<int>(CardColumn::Plan));
+    press(grid, Qt::Key_F2);
+    type(QApplication::focusWidget(), QStringLiteral("大阪へ出張"));
+    camera_.shoot(*form, QStringLiteral("セルの入力"));
+    press(QApplication::focusWidget(), Qt::Key_Return);
+    form->findChild<QPushButton*>(QStringLiteral("cmdUpdate"))->click();
+    settle();
+    camera_.shoot(*form, QStringLiteral("更新の後"));
+    form->findChild<QRadioButton*>(QStringLiteral("optMonth_5"))->click();
+    settle();
+    camera_.shoot(*form, QStringLiteral("保存した月"));
+    form->close();
+    settle();
 }
 
 void WorkingDay::administrator() {

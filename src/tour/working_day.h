@@ -18,6 +18,7 @@ class WorkingDay final {
     void morning();
     void mistakes();
     void nightShiftEnds();
+    void card();
     void administrator();
     void otherWindows();
     void end();
@@ -25,6 +26,8 @@ class WorkingDay final {
     void logIn(const QString& section, const QString& staff, const QString& password);
     void shoot(const QString& title) { camera_.shoot(window_, title); }
     [[nodiscard]] QWidget* control(const char* name) const;
+    // A screen that is open beside the main window.
+    [[nodiscard]] static QWidget* screen(const char* name);
 
     Client& client_;
     FixedClock& clock_;
