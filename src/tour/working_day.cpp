@@ -128,6 +128,7 @@ void WorkingDay::card() {
     press(control("cmdKurbo"), Qt::Key_Space);
     QWidget* const form = screen("frmKurbo");
     if (!form) return;
+    form->resize(1360, 700);
     camera_.shoot(*form, QStringLiteral("タイムカード"));
     auto* const names = form->findChild<DataCombo*>(QStringLiteral("dcbStaff"));
     names->setBoundText(QStringLiteral("1003"));
