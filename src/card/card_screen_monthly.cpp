@@ -65,8 +65,7 @@ bool CardScreen::updateMonthly() {
         !CheckMonthly(client_.context, sheet, rules_) ||
         !agreesWithMissing(QStringLiteral("月次集計の最終保存データを更新します。")))
         return false;
-    if (!rebuildPeriod() ||
-        !UpdateMonthly(client_.context, connection(), sheet, rules_, {staff_, section_, period_})) {
+    if (!rebuildPeriod() || !UpdateMonthly(client_.context, connection(), sheet, rules_, {staff_, section_, period_})) {
         client_.context.prompts.exclaim(QStringLiteral("月次集計の最終保存データを更新できませんでした。"));
         return false;
     }

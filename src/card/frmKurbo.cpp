@@ -96,8 +96,8 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdGoOut, ui_->mnuDetail, [this] { coming(QStringLiteral("frmGoOut")); });
     onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.adjust(); });
     onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.updateMonthly(); });
-    for (const auto& [box, approve] : {std::pair{ui_->chkPersonal, &CardScreen::approvePersonal},
-                                       {ui_->chkSuperior, &CardScreen::approveSuperior}})
+    for (const auto& [box, approve] :
+         {std::pair{ui_->chkPersonal, &CardScreen::approvePersonal}, {ui_->chkSuperior, &CardScreen::approveSuperior}})
         connect(box, &QCheckBox::toggled, this, [this, approve](bool approved) {
             run([&] { (screen_.*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
         });
