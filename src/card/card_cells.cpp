@@ -1,5 +1,6 @@
 #include "card/card_cells.h"
 
+#include "card/month_fields.h"
 #include "store/readers.h"
 
 #include <algorithm>
@@ -124,13 +125,11 @@ class CellWriter final {
         return row;
     }
 
-    // A saved figure in the form of its column: minutes, days or a count. Nothing for Null.
-    [[nodiscard]] QString saved(CardColumn column, const Rows& month, int field) const {
+    // A saved figure as text; nothing for Null.
+    [[nodiscard]] QString saved(MonthKind kind, const Rows& month, int field) const {
         if (month.isNull(field)) return {};
-        const bool days = column == CardColumn::Leave || (column >= CardColumn::Paid && column <= CardColumn::Compens);
-        if (days) return daysText(month.real(field));
-        if (column == CardColumn::Plan || column >= CardColumn::AbsentDay) return month.text(field);
-        return hours(static_cast<Minutes>(month.integer(field)));
+        if (kind == MonthKind::Days) return daysText(month.real(field));
+        return kind == MonthKind::Count ? month.text(field) : hours(static_cast<Minutes>(month.integer(field)));
     }
 
   private:
@@ -182,21 +181,26 @@ bool isWholePeriod(const clsWorkTime& rules, Period span, Day today) {
            span.to <= today;
 }
 
-// What counts for the month, once it has been saved. The fields stand in the order of the columns 3 to 20.
+QString savedMonthStatement() {
+    QString fields;
+    for (const MonthField& field : monthFields) fields += field.field() + QStringLiteral(", ");
+    return QStringLiteral("SELECT ") + fields +
+           QStringLiteral("F_PersonalApproval, F_SuperiorApproval FROM T05_Approved "
+                          "WHERE (F_Staff = ?) AND (F_Year = ?) AND (F_Month = ?);");
+}
+
+// What counts for the month, once it has been saved.
 void readSavedMonth(Connection& connection, const CellWriter& cells, const QString& staff, Day end, Card& card) {
-    constexpr int approvals = 18;
+    static const QString statement = savedMonthStatement();
     const QString id = dateId(end);
-    Rows month = connection.rows(
-        QStringLiteral("SELECT F_WorkDay, F_Work, F_PaidTotal, F_LegalOver, F_Over, F_Late, F_Early, F_Holiday, "
-                       "F_HolidayLate, F_LegalHoliday, F_LegalLate, F_Absent, F_Paid, F_Special, F_Compens, "
-                       "F_AbsentDay, F_LateEnter, F_EarlyLeave, F_PersonalApproval, F_SuperiorApproval "
-                       "FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year = ?) AND (F_Month = ?);"),
-        {staff, id.left(4), id.mid(4, 2)});
+    Rows month = connection.rows(statement, {staff, id.left(4), id.mid(4, 2)});
     if (!month.next()) return;
-    for (int i = 0; i < approvals; ++i) card.summary[2][3 + i] = cells.saved(static_cast<CardColumn>(3 + i), month, i);
+    int place = 0;
+    for (const MonthField& field : monthFields)
+        card.summary[2][index(field.column)] = cells.saved(field.kind, month, place++);
     card.saved = true;
-    card.personalApproval = month.yes(approvals);
-    card.superiorApproval = month.yes(approvals + 1);
+    card.personalApproval = month.yes(place);
+    card.superiorApproval = month.yes(place + 1);
 }
 
 // Columns 6 to 20 by their switches; the last three are for the program.

@@ -7,7 +7,8 @@ namespace kurbo {
 
 // The grid's row of the first day.
 inline constexpr int firstCardDay = 4;
-// The row of the final sums.
+// The rows of what the days add up to, and of what counts for the month.
+inline constexpr int daySumRow = 2;
 inline constexpr int finalSumRow = 3;
 
 // Fills the grid of a card: row 0 the headings, rows 1 to 3 the summary, the days from row 4 on.

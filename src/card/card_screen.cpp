@@ -98,12 +98,16 @@ bool CardScreen::ShowKurbo(const QString& staff, Period period, clsWorkTime& rul
     fillCardGrid(sheet.grid, *card);
     sheet.drawn();
     alive_ = true;
-    ++drawings_;
-    wholePeriod_ = card->wholePeriod;
+    wholePeriod_ = approvable_ = monthUnsaved_ = card->wholePeriod;
     personalApproval_ = card->personalApproval;
     superiorApproval_ = card->superiorApproval;
-    period_ = period;
+    setPeriod(period);
     return true;
+}
+
+void CardScreen::setPeriod(Period period) {
+    period_ = period;
+    ++periodChanges_;
 }
 
 void CardScreen::leave() {
@@ -238,10 +242,6 @@ bool CardScreen::mayDelete() const {
 
 bool CardScreen::mayGoOut() const {
     return hasRight(reader_, Right::ReadMyGoOut, Right::ReadOtherGoOut);
-}
-
-bool CardScreen::mayApprove() const {
-    return client_.session.access.has(Right::WriteApproval);
 }
 
 } // namespace kurbo

@@ -40,6 +40,15 @@ class CardScreen final {
     // The shown person's days of the range out of the store.
     bool deletePeriod(const QString& start, const QString& end);
 
+    // The final sums anew, out of the days' sums of the chosen month.
+    bool adjust();
+    // The final sums into the record of the chosen month, which loses its approvals.
+    bool updateMonthly();
+    // Give or take back an approval of the shown month's record; `start` and `end` stand in the two boxes. False leaves
+    // the mark as it was.
+    bool approvePersonal(bool approved, const QString& start, const QString& end);
+    bool approveSuperior(bool approved, const QString& start, const QString& end);
+
     CardSheet sheet;
 
     [[nodiscard]] const QList<CodeName>& sections() const { return sections_; }
@@ -52,8 +61,8 @@ class CardScreen final {
     [[nodiscard]] const clsWorkTime& rules() const { return rules_; }
     [[nodiscard]] const CardRules& cells() const { return cells_; }
 
-    // How often a card has been drawn.
-    [[nodiscard]] int drawings() const { return drawings_; }
+    // How often the period has been set, by a drawing or by a command of the month: the two boxes then show it.
+    [[nodiscard]] int periodChanges() const { return periodChanges_; }
     // A card is shown, and the commands of the screen are alive.
     [[nodiscard]] bool isAlive() const { return alive_; }
     [[nodiscard]] bool isWholePeriod() const { return wholePeriod_; }
@@ -62,7 +71,11 @@ class CardScreen final {
     [[nodiscard]] bool mayChooseOthers() const;
     [[nodiscard]] bool mayDelete() const;
     [[nodiscard]] bool mayGoOut() const;
-    [[nodiscard]] bool mayApprove() const;
+    [[nodiscard]] bool mayAdjust() const { return alive_ && wholePeriod_; }
+    // Not just after the month has been saved: only when something may have changed since.
+    [[nodiscard]] bool mayUpdateMonthly() const;
+    [[nodiscard]] bool mayApprovePersonal() const { return alive_ && approvable_ && isOwnCard(); }
+    [[nodiscard]] bool mayApproveSuperior() const;
     [[nodiscard]] bool isOwnCard() const { return reader_.blnMyCard; }
 
   private:
@@ -75,6 +88,13 @@ class CardScreen final {
     void choosePeriod(Period period);
     [[nodiscard]] bool ShowKurbo(const QString& staff, Period period, clsWorkTime& rules);
     [[nodiscard]] bool hasName() const;
+    void setPeriod(Period period);
+    [[nodiscard]] bool rebuildPeriod();
+    [[nodiscard]] bool isCardSaved(const QString& demand) const;
+    [[nodiscard]] bool agreesWithMissing(const QString& question) const;
+    struct Mark;
+    bool approve(const Mark& mark, bool approved, const QString& start, const QString& end);
+    [[nodiscard]] bool storeMark(const Mark& mark, bool approved);
 
     Client& client_;
     clsWorkTime rules_;
@@ -87,9 +107,12 @@ class CardScreen final {
     Period period_{};
     int year_ = 0;
     int month_ = 1;
-    int drawings_ = 0;
+    int periodChanges_ = 0;
     bool alive_ = false;
     bool wholePeriod_ = false;
+    // The month's record can be approved, and the final sums haven't just been saved.
+    bool approvable_ = false;
+    bool monthUnsaved_ = false;
     bool personalApproval_ = false;
     bool superiorApproval_ = false;
 };

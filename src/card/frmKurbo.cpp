@@ -94,8 +94,14 @@ void frmKurbo::connectCommands() {
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
     onCommand(ui_->cmdGoOut, ui_->mnuDetail, [this] { coming(QStringLiteral("frmGoOut")); });
-    for (QAction* const action :
-         {ui_->mnuList, ui_->mnuAdjust, ui_->mnuUpdateMonthly, ui_->mnuLoadKrb, ui_->mnuSaveKrb})
+    onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.adjust(); });
+    onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.updateMonthly(); });
+    for (const auto& [box, approve] :
+         {std::pair{ui_->chkPersonal, &CardScreen::approvePersonal}, {ui_->chkSuperior, &CardScreen::approveSuperior}})
+        connect(box, &QCheckBox::toggled, this, [this, approve](bool approved) {
+            run([&] { (screen_.*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
+        });
+    for (QAction* const action : {ui_->mnuList, ui_->mnuLoadKrb, ui_->mnuSaveKrb})
         onCommand(nullptr, action, [this, action] { coming(action->text().section(u'(', 0, 0)); });
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
@@ -173,8 +179,8 @@ void frmKurbo::showPeriod() {
     ui_->txtYear->setText(QString::number(screen_.year()));
     optMonth_[static_cast<std::size_t>(screen_.month() - 1)]->setChecked(true);
     // Dates that were typed and not shown yet stay.
-    if (drawings_ == screen_.drawings()) return;
-    drawings_ = screen_.drawings();
+    if (periodChanges_ == screen_.periodChanges()) return;
+    periodChanges_ = screen_.periodChanges();
     ui_->mskStart->setDay(screen_.period().from);
     ui_->mskEnd->setDay(screen_.period().to);
 }
@@ -195,18 +201,18 @@ void frmKurbo::showCommands() {
     ui_->cmdUpdate->setEnabled(changed);
     ui_->mnuUpdate->setEnabled(changed);
     ui_->mnuDelete->setEnabled(alive && screen_.mayDelete());
+    ui_->mnuAdjust->setEnabled(screen_.mayAdjust());
+    ui_->mnuUpdateMonthly->setEnabled(screen_.mayUpdateMonthly());
     ui_->cmdGoOut->setEnabled(alive && screen_.mayGoOut());
     ui_->mnuGoOut->setEnabled(alive && screen_.mayGoOut());
     for (QWidget* const combo : {ui_->dcbSection, ui_->dcbStaff}) combo->setEnabled(alive && screen_.mayChooseOthers());
 }
 
 void frmKurbo::showApproval() {
-    const bool whole = screen_.isAlive() && screen_.isWholePeriod();
     showMark(*ui_->chkPersonal, screen_.personalApproval());
     showMark(*ui_->chkSuperior, screen_.superiorApproval());
-    ui_->chkPersonal->setEnabled(whole && screen_.isOwnCard());
-    ui_->chkSuperior->setEnabled(whole && screen_.mayApprove());
-    ui_->mnuAdjust->setEnabled(whole);
+    ui_->chkPersonal->setEnabled(screen_.mayApprovePersonal());
+    ui_->chkSuperior->setEnabled(screen_.mayApproveSuperior());
 }
 
 void frmKurbo::closeEvent(QCloseEvent* event) {

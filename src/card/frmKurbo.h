@@ -63,7 +63,7 @@ class frmKurbo final : public QMainWindow {
     std::array<QRadioButton*, months> optMonth_{};
     // The program fills the controls, or a command runs: their events mean nothing.
     bool blnShowing_ = false;
-    int drawings_ = 0;
+    int periodChanges_ = 0;
 };
 
 } // namespace kurbo

@@ -1,6 +1,7 @@
 #include "engine/hours.h"
 
-#include <cmath>
+#include "base/numbers.h"
+
 #include <cstdlib>
 
 namespace kurbo {
@@ -19,10 +20,8 @@ QString sexagesimal(std::int64_t hours, std::int64_t minutes) {
     return QString::number(hours).append(places, 3);
 }
 
-std::optional<std::int64_t> wholeNumber(const QString& text) {
-    bool ok = false;
-    const std::int64_t number = text.trimmed().toLongLong(&ok);
-    return ok ? std::optional(number) : std::nullopt;
+std::optional<double> wholeNumber(const QString& text) {
+    return text.contains(u'.') ? std::nullopt : numberOf(text);
 }
 
 } // namespace
@@ -37,13 +36,12 @@ QString FormatHours(Minutes minutes, int unit, bool signedText) {
 
 Minutes ParseHours(const QString& text, int unit) {
     if (unit == 0) {
-        bool ok = false;
-        const float hours = text.trimmed().toFloat(&ok);
-        return ok && std::isfinite(hours) ? static_cast<Minutes>(std::lrint(hours * 60.0F)) : 0;
+        const auto hours = numberOf(text);
+        return hours ? wholeOf<Minutes>(static_cast<double>(singleOf(*hours) * 60.0F)) : 0;
     }
     const auto hours = wholeNumber(text.chopped(qMin(text.size(), qsizetype{3})));
     const auto minutes = wholeNumber(text.right(2));
-    return hours && minutes ? static_cast<Minutes>(*hours * 60 + *minutes) : 0;
+    return hours && minutes ? wholeOf<Minutes>(*hours * 60 + *minutes) : 0;
 }
 
 Minutes RoundMinutes(Minutes value, int direction, Minutes unit) {

@@ -13,7 +13,7 @@ namespace kurbo {
 [[nodiscard]] QString FormatHours(Minutes minutes, int unit, bool signedText);
 
 // The minutes of such a text; 0 for any other. Decimal hours are taken in single precision and rounded to the nearest
-// minute, halves to the even one.
+// minute, halves to the even one. A time past 32 bits throws the fault of an overflow.
 [[nodiscard]] Minutes ParseHours(const QString& text, int unit);
 
 // `value` as a multiple of `unit` minutes: direction 0 the largest not above it, 1 the smallest not below it; 0 for any

@@ -2,25 +2,12 @@
 
 #include "base/code_page.h"
 #include "base/day.h"
-
-#include <QRegularExpression>
+#include "base/numbers.h"
 
 #include <algorithm>
-#include <cmath>
-#include <optional>
 
 namespace kurbo {
 namespace {
-
-std::optional<double> numberOf(const QString& text) {
-    static const QRegularExpression form(
-        QStringLiteral("\\A[ \\t]*([+-]?(?:\\d[\\d,]*\\.?\\d*|\\.\\d+))(?:[eEdD]([+-]?\\d+))?[ \\t]*\\z"));
-    const auto match = form.match(text);
-    if (!match.hasMatch()) return {};
-    const QString exponent = match.hasCaptured(2) ? match.captured(2) : QStringLiteral("0");
-    const double number = (match.captured(1).remove(u',') + u'e' + exponent).toDouble();
-    return std::isinf(number) ? std::nullopt : std::optional(number);
-}
 
 bool isLetterOrDigit(QChar c) {
     return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');

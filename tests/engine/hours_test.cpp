@@ -33,6 +33,10 @@ TEST(Hours, AreReadBack) {
     for (const QString& text : {u"abc"_q, QString(), u"30"_q, u":30"_q, u"a:30"_q, u"1:x0"_q})
         EXPECT_EQ(ParseHours(text, 1), 0) << text;
     EXPECT_EQ(ParseHours(u"170.5"_q, 0), 10230);
+    EXPECT_EQ(ParseHours(u" 1,000.5 "_q, 0), 60030) << "as a person may type it";
+    EXPECT_EQ(ParseHours(u"1,000:30"_q, 1), 60030);
+    EXPECT_THROW((void)ParseHours(u"40000000:00"_q, 1), Fault);
+    EXPECT_THROW((void)ParseHours(u"1e39"_q, 0), Fault);
     EXPECT_EQ(ParseHours(u"x"_q, 0), 0);
     EXPECT_EQ(ParseHours(u"0.025"_q, 0), 2) << "1.5 goes to the even minute";
     EXPECT_EQ(ParseHours(u"0.04166"_q, 0), 2) << "2.5 too";

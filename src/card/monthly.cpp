@@ -1,0 +1,155 @@
+#include "card/monthly.h"
+
+#include "base/numbers.h"
+#include "card/card_grid.h"
+#include "card/month_fields.h"
+#include "store/engine_fault.h"
+#include "store/record_set.h"
+
+namespace kurbo {
+namespace {
+
+// The columns with a limit, one behind the other, and as many fields of the person's limits.
+constexpr int firstLimited = static_cast<int>(CardColumn::LegalOver);
+constexpr int limitedColumns = 8;
+
+// The time difference of a flexible person stands where others have the legal overtime.
+bool isDifference(CardColumn column, const clsWorkTime& rules) {
+    return column == CardColumn::LegalOver && rules.pbleFlexTime;
+}
+
+// The person's limits in minutes, Null for none.
+Values readLimits(Connection& connection, const QString& staff) {
+    Rows limits = connection.rows(
+        QStringLiteral("SELECT M07_AdjustHours.F_LegalOver, M07_AdjustHours.F_Over, M07_AdjustHours.F_Late, "
+                       "M07_AdjustHours.F_Early, M07_AdjustHours.F_Holiday, M07_AdjustHours.F_HolidayLate, "
+                       "M07_AdjustHours.F_LegalHoliday, M07_AdjustHours.F_LegalLate "
+                       "FROM M02_StaffInfo INNER JOIN M07_AdjustHours "
+                       "ON M02_StaffInfo.F_AdjustHours = M07_AdjustHours.F_AdjustCode "
+                       "WHERE (M02_StaffInfo.F_StaffCode = ?);"),
+        {staff});
+    Values values(limitedColumns);
+    if (limits.next())
+        for (int i = 0; i < limitedColumns; ++i) values[i] = limits.value(i);
+    return values;
+}
+
+QString limited(const QString& sum, const Value& limit, int unit) {
+    if (sum.isEmpty() || limit.isNull() || ParseHours(sum, unit) <= limit.integer()) return sum;
+    return FormatHours(static_cast<Minutes>(limit.integer()), unit, false);
+}
+
+QStringList adjustedSums(const GridModel& grid, const clsWorkTime& rules, const Values& limits) {
+    QStringList sums;
+    for (const MonthField& field : monthFields) {
+        const int place = static_cast<int>(field.column) - firstLimited;
+        const bool free = place < 0 || place >= limitedColumns || isDifference(field.column, rules);
+        const QString sum = cardText(grid, daySumRow, field.column);
+        sums.append(free ? sum : limited(sum, limits[place], rules.plngCountUnit));
+    }
+    return sums;
+}
+
+// The stored value of a cell of the final sums.
+Value figureOf(const MonthField& field, const QString& cell, int unit) {
+    if (cell.isEmpty()) return {};
+    if (field.kind == MonthKind::Time) return ParseHours(cell, unit);
+    const auto number = numberOf(cell);
+    if (!number) throw storeFault(StoreError::BadValue);
+    if (field.kind == MonthKind::Count) return wholeOf<std::int16_t>(*number);
+    return static_cast<double>(singleOf(*number));
+}
+
+void addMonth(RecordSet& months, const MonthOwner& owner, const QString& month) {
+    months.addNew();
+    months.set(QStringLiteral("F_Staff"), owner.staff);
+    months.set(QStringLiteral("F_Section"), owner.section);
+    months.set(QStringLiteral("F_Year"), month.left(4));
+    months.set(QStringLiteral("F_Month"), month.mid(4));
+}
+
+void takeApprovals(RecordSet& months) {
+    months.set(QStringLiteral("F_PersonalApproval"), Value::yesNo(false));
+    months.set(QStringLiteral("F_SuperiorApproval"), Value::yesNo(false));
+}
+
+void setFigures(RecordSet& months, const CardSheet& sheet, const clsWorkTime& rules, Period period) {
+    for (const MonthField& field : monthFields) {
+        const QString cell = cardText(sheet.grid, finalSumRow, field.column);
+        const bool kept = !isDifference(field.column, rules);
+        months.set(field.field(), kept ? figureOf(field, cell, rules.plngCountUnit) : Value());
+    }
+    months.set(QStringLiteral("F_Term"), slashDate(period.from) + u'-' + slashDate(period.to));
+}
+
+void setBalance(Connection& connection, const QString& staff, const Value& paidTotal) {
+    RecordSet person(connection, QStringLiteral("SELECT F_PaidTotal From M02_StaffInfo WHERE (F_StaffCode = ?);"),
+                     {staff});
+    if (!person.atRow()) return;
+    person.set(QStringLiteral("F_PaidTotal"), paidTotal);
+    person.updateBatch();
+}
+
+bool updateMark(Connection& connection, const QString& mark, const QString& staff, Day end, bool approved) {
+    const QString month = dateId(end);
+    Transaction transaction(connection);
+    RecordSet record(connection,
+                     QStringLiteral("SELECT ") + mark +
+                         QStringLiteral(" FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year = ?) AND (F_Month = ?);"),
+                     {staff, month.left(4), month.mid(4, 2)});
+    if (record.atRow()) {
+        record.set(mark, Value::yesNo(approved));
+        record.updateBatch();
+    }
+    transaction.commit();
+    return true;
+}
+
+} // namespace
+
+bool AdjustMonthly(const Context& context, Connection& connection, CardSheet& sheet, const clsWorkTime& rules,
+                   const QString& staff) {
+    return guarded(context, u"frmKurbo", u"AdjustMonthly", false, [&] {
+        const QStringList sums = adjustedSums(sheet.grid, rules, readLimits(connection, staff));
+        const Undrawn undrawn(sheet.grid);
+        for (qsizetype i = 0; i < sums.size(); ++i)
+            sheet.grid.TextMatrix(finalSumRow, static_cast<int>(monthFields[static_cast<std::size_t>(i)].column),
+                                  sums[i]);
+        sheet.blnMonthChanged = true;
+        return true;
+    });
+}
+
+bool UpdateMonthly(const Context& context, Connection& connection, const CardSheet& sheet, const clsWorkTime& rules,
+                   const MonthOwner& owner) {
+    return guarded(context, u"frmKurbo", u"UpdateMonthly", false, [&] {
+        const QString month = dateId(owner.period.to).left(6);
+        Transaction transaction(connection);
+        RecordSet months(connection,
+                         QStringLiteral("SELECT *, F_Year & F_Month AS F_YearMonth FROM T05_Approved "
+                                        "WHERE (F_Staff = ?);"),
+                         {owner.staff});
+        if (months.filter(QStringLiteral("F_YearMonth = ?"), {month}))
+            takeApprovals(months);
+        else
+            addMonth(months, owner, month);
+        setFigures(months, sheet, rules, owner.period);
+        const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
+        months.updateBatch();
+        if (!months.filter(QStringLiteral("F_YearMonth > ?"), {month})) setBalance(connection, owner.staff, paidTotal);
+        transaction.commit();
+        return true;
+    });
+}
+
+bool UpdatePersonal(const Context& context, Connection& connection, const QString& staff, Day end, bool approved) {
+    return guarded(context, u"frmKurbo", u"UpdatePersonal", false,
+                   [&] { return updateMark(connection, QStringLiteral("F_PersonalApproval"), staff, end, approved); });
+}
+
+bool UpdateSuperior(const Context& context, Connection& connection, const QString& staff, Day end, bool approved) {
+    return guarded(context, u"frmKurbo", u"UpdateSuperior", false,
+                   [&] { return updateMark(connection, QStringLiteral("F_SuperiorApproval"), staff, end, approved); });
+}
+
+} // namespace kurbo
