@@ -111,8 +111,10 @@ void CardScreen::leave() {
 }
 
 bool CardScreen::mayDiscard() const {
-    return (!sheet.blnCardChanged && !sheet.blnMonthChanged) ||
-           client_.context.prompts.confirm(QStringLiteral("タイムカードは変更されています。変更を破棄しますか？"));
+    const bool discarded =
+        (!sheet.blnCardChanged && !sheet.blnMonthChanged) ||
+        client_.context.prompts.confirm(QStringLiteral("タイムカードは変更されています。変更を破棄しますか？"));
+    return discarded && (!mayLeaveDay || mayLeaveDay());
 }
 
 bool CardScreen::mayClose() const {

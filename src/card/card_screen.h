@@ -41,6 +41,8 @@ class CardScreen final {
     bool deletePeriod(const QString& start, const QString& end);
 
     CardSheet sheet;
+    // Asked last before another card or period is shown: whether what stands beside the card may go.
+    std::function<bool()> mayLeaveDay;
 
     [[nodiscard]] const QList<CodeName>& sections() const { return sections_; }
     [[nodiscard]] const QList<CodeName>& people() const { return people_; }

@@ -2,6 +2,7 @@
 
 #include "base/product.h"
 #include "card/card_cells.h"
+#include "card/frmGoOut.h"
 #include "screen/coming_screens.h"
 #include "screen/fields.h"
 #include "screen/frmAbout.h"
@@ -39,6 +40,7 @@ frmKurbo::frmKurbo(Client& client, QWidget* parent)
     dressFields();
     connectSelection();
     connectCommands();
+    connectGoOut();
     screen_.sheet.onEdit = [this] { showCommands(); };
     fillScreen(this, {1360, 900});
 }
@@ -93,9 +95,7 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
-    onCommand(ui_->cmdGoOut, ui_->mnuDetail, [this] { coming(QStringLiteral("frmGoOut")); });
-    for (QAction* const action :
-         {ui_->mnuList, ui_->mnuAdjust, ui_->mnuUpdateMonthly, ui_->mnuLoadKrb, ui_->mnuSaveKrb})
+    for (QAction* const action : {ui_->mnuAdjust, ui_->mnuUpdateMonthly, ui_->mnuLoadKrb, ui_->mnuSaveKrb})
         onCommand(nullptr, action, [this, action] { coming(action->text().section(u'(', 0, 0)); });
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
@@ -159,6 +159,7 @@ void frmKurbo::showState() {
     showPeriod();
     showCommands();
     showApproval();
+    refreshGoOut();
 }
 
 void frmKurbo::showNames() {
@@ -211,7 +212,7 @@ void frmKurbo::showApproval() {
 
 void frmKurbo::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayClose()) return;
+    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayClose() || !closeGoOut()) return;
     screen_.leave();
     event->accept();
     Q_EMIT closed();

@@ -7,12 +7,17 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace kurbo {
 namespace {
 
-std::optional<double> numberOf(const QString& text) {
+bool isLetterOrDigit(QChar c) {
+    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+}
+
+} // namespace
+
+std::optional<double> numberIn(const QString& text) {
     static const QRegularExpression form(
         QStringLiteral("\\A[ \\t]*([+-]?(?:\\d[\\d,]*\\.?\\d*|\\.\\d+))(?:[eEdD]([+-]?\\d+))?[ \\t]*\\z"));
     const auto match = form.match(text);
@@ -22,18 +27,12 @@ std::optional<double> numberOf(const QString& text) {
     return std::isinf(number) ? std::nullopt : std::optional(number);
 }
 
-bool isLetterOrDigit(QChar c) {
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
-}
-
-} // namespace
-
 bool isNumeric(const QString& text) {
-    return numberOf(text).has_value();
+    return numberIn(text).has_value();
 }
 
 bool IsIntegerText(const QString& text, IntegerMode mode) {
-    const auto number = numberOf(text);
+    const auto number = numberIn(text);
     if (!number || text.contains(u'.')) return false;
     switch (mode) {
     case IntegerMode::NotNegative:

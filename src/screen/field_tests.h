@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace kurbo {
 
 // Tests of what a person typed. Digits are the half-width ones; empty text passes none of them.
@@ -9,6 +11,8 @@ namespace kurbo {
 // A number: a sign, digits with commas between them, one decimal point and an exponent after e or d may stand in it,
 // and blanks around it. A number past the range of double precision is none.
 [[nodiscard]] bool isNumeric(const QString& text);
+// That number; nothing for any other text.
+[[nodiscard]] std::optional<double> numberIn(const QString& text);
 
 // Which whole numbers pass.
 enum class IntegerMode { Any = 0, NotNegative = 1, Positive = 2, NotPositive = 3, Negative = 4 };
