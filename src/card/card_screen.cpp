@@ -98,6 +98,7 @@ bool CardScreen::ShowKurbo(const QString& staff, Period period, clsWorkTime& rul
     fillCardGrid(sheet.grid, *card);
     sheet.drawn();
     alive_ = true;
+    ++drawings_;
     wholePeriod_ = approvable_ = monthUnsaved_ = card->wholePeriod;
     personalApproval_ = card->personalApproval;
     superiorApproval_ = card->superiorApproval;
@@ -115,8 +116,10 @@ void CardScreen::leave() {
 }
 
 bool CardScreen::mayDiscard() const {
-    return (!sheet.blnCardChanged && !sheet.blnMonthChanged) ||
-           client_.context.prompts.confirm(QStringLiteral("タイムカードは変更されています。変更を破棄しますか？"));
+    const bool discarded =
+        (!sheet.blnCardChanged && !sheet.blnMonthChanged) ||
+        client_.context.prompts.confirm(QStringLiteral("タイムカードは変更されています。変更を破棄しますか？"));
+    return discarded && (!mayLeaveDay || mayLeaveDay());
 }
 
 bool CardScreen::mayClose() const {

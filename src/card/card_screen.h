@@ -50,6 +50,8 @@ class CardScreen final {
     bool approveSuperior(bool approved, const QString& start, const QString& end);
 
     CardSheet sheet;
+    // Asked last before another card or period is shown: whether what stands beside the card may go.
+    std::function<bool()> mayLeaveDay;
 
     [[nodiscard]] const QList<CodeName>& sections() const { return sections_; }
     [[nodiscard]] const QList<CodeName>& people() const { return people_; }
@@ -63,6 +65,8 @@ class CardScreen final {
 
     // How often the period has been set, by a drawing or by a command of the month: the two boxes then show it.
     [[nodiscard]] int periodChanges() const { return periodChanges_; }
+    // How often a card has been drawn.
+    [[nodiscard]] int drawings() const { return drawings_; }
     // A card is shown, and the commands of the screen are alive.
     [[nodiscard]] bool isAlive() const { return alive_; }
     [[nodiscard]] bool isWholePeriod() const { return wholePeriod_; }
@@ -108,6 +112,7 @@ class CardScreen final {
     int year_ = 0;
     int month_ = 1;
     int periodChanges_ = 0;
+    int drawings_ = 0;
     bool alive_ = false;
     bool wholePeriod_ = false;
     // The month's record can be approved, and the final sums haven't just been saved.

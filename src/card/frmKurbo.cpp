@@ -2,6 +2,7 @@
 
 #include "base/product.h"
 #include "card/card_cells.h"
+#include "card/frmGoOut.h"
 #include "screen/coming_screens.h"
 #include "screen/fields.h"
 #include "screen/frmAbout.h"
@@ -39,6 +40,7 @@ frmKurbo::frmKurbo(Client& client, QWidget* parent)
     dressFields();
     connectSelection();
     connectCommands();
+    connectGoOut();
     screen_.sheet.onEdit = [this] { showCommands(); };
     fillScreen(this, {1360, 990});
 }
@@ -93,7 +95,6 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
-    onCommand(ui_->cmdGoOut, ui_->mnuDetail, [this] { coming(QStringLiteral("frmGoOut")); });
     onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.adjust(); });
     onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.updateMonthly(); });
     for (const auto& [box, approve] :
@@ -101,7 +102,7 @@ void frmKurbo::connectCommands() {
         connect(box, &QCheckBox::toggled, this, [this, approve](bool approved) {
             run([&] { (screen_.*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
         });
-    for (QAction* const action : {ui_->mnuList, ui_->mnuLoadKrb, ui_->mnuSaveKrb})
+    for (QAction* const action : {ui_->mnuLoadKrb, ui_->mnuSaveKrb})
         onCommand(nullptr, action, [this, action] { coming(action->text().section(u'(', 0, 0)); });
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
@@ -165,6 +166,7 @@ void frmKurbo::showState() {
     showPeriod();
     showCommands();
     showApproval();
+    refreshGoOut();
 }
 
 void frmKurbo::showNames() {
@@ -217,7 +219,7 @@ void frmKurbo::showApproval() {
 
 void frmKurbo::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayClose()) return;
+    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayClose() || !closeGoOut()) return;
     screen_.leave();
     event->accept();
     Q_EMIT closed();

@@ -16,6 +16,7 @@ namespace kurbo {
 namespace Ui {
 class frmKurbo;
 }
+class frmGoOut;
 
 // The card of one person and period. What is chosen and what stands in the grid is decided by CardScreen.
 class frmKurbo final : public QMainWindow {
@@ -57,6 +58,18 @@ class frmKurbo final : public QMainWindow {
     void moveYear(int years);
     void showDetail(const QModelIndex& cell);
 
+    void connectGoOut();
+    [[nodiscard]] bool isGoOutOpen() const;
+    [[nodiscard]] bool refusesFileMode(const QString& message) const;
+    void openGoOut();
+    void listGoOut();
+    void showGoOutDay();
+    void followRow();
+    void backToGoOutDay();
+    void refreshGoOut();
+    // False when the person keeps it.
+    [[nodiscard]] bool closeGoOut();
+
     const std::unique_ptr<Ui::frmKurbo> ui_;
     Client& client_;
     CardScreen screen_;
@@ -64,6 +77,12 @@ class frmKurbo final : public QMainWindow {
     // The program fills the controls, or a command runs: their events mean nothing.
     bool blnShowing_ = false;
     int periodChanges_ = 0;
+
+    std::unique_ptr<frmGoOut> frmGoOut_;
+    // The date cell of the day that it shows, and the drawing of the card from which that was taken.
+    QString goOutDate_;
+    int goOutDrawing_ = 0;
+    bool goOutAsking_ = false;
 };
 
 } // namespace kurbo

@@ -105,6 +105,7 @@ void Grid::applyTo(QTableView& view) const {
         const bool hidden = row < grid_->FixedRows() || grid_->RowHidden(row);
         if (view.isRowHidden(row) != hidden) view.setRowHidden(row, hidden);
     }
+    view.horizontalHeader()->viewport()->update();
 }
 
 // As the person has drawn it; otherwise as described, and never less than its heading and its list need.

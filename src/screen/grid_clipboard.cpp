@@ -66,8 +66,11 @@ bool fits(GridType type, const QString& field) {
     if (field.isEmpty() || type == GridType::Text) return true;
     if (type == GridType::YesNo) return yesNoWord(field).has_value();
     if (type == GridType::Date) return parseSlashMoment(field).has_value();
+    QString digits = field;
+    // Money is copied with its sign.
+    if (type == GridType::Currency) digits.remove(u'¥');
     bool number = false;
-    (void)QString(field).remove(u',').toDouble(&number);
+    (void)digits.remove(u',').toDouble(&number);
     return number;
 }
 

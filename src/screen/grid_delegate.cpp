@@ -84,7 +84,11 @@ QWidget* dropDown(QWidget* parent, const GridList& list) {
     combo->setFrame(false);
     combo->setEditable(list.isOpen());
     combo->setInsertPolicy(QComboBox::NoInsert);
-    if (list.isOpen()) combo->addItem(QString());
+    if (list.isOpen()) {
+        // What is typed counts, not the entry that begins so.
+        combo->setCompleter(nullptr);
+        combo->addItem(QString());
+    }
     for (const GridList::Entry& entry : list.entries()) combo->addItem(entry.text);
     return combo;
 }

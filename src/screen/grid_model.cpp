@@ -126,6 +126,8 @@ void GridModel::CellChecked(int row, int column, bool checked) {
 void GridModel::edit(int row, int column, const QString& text) {
     if (!Editable(row, column)) return;
     const QString trimmed = text.trimmed();
+    // An editor that is left as it was opened changes nothing, also where less is shown than is held.
+    if (!trimmed.isEmpty() && trimmed == CellText(row, column)) return;
     const GridList& list = columnAt(column).list;
     const QString held = list.isEmpty() ? trimmed : list.codeOf(trimmed);
     if (held == TextMatrix(row, column)) return;
