@@ -55,8 +55,9 @@ void Grid::setGrid(GridModel& grid, const Context& context) {
     connect(verticalScrollBar(), &QScrollBar::valueChanged, panes_[Left]->verticalScrollBar(), &QScrollBar::setValue);
     connect(&grid, &GridModel::aboutToRefill, this, &Grid::cancelEdit);
     connect(&grid, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
-        keptRow_ = std::max(Row(), keptRow_);
-        keptColumn_ = std::max(Col(), keptColumn_);
+        if (!currentIndex().isValid()) return;
+        keptRow_ = Row();
+        keptColumn_ = Col();
     });
     connect(&grid, &GridModel::looksChanged, this, &Grid::applyLooks);
     for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
@@ -69,6 +70,7 @@ void Grid::dress(QTableView& view, GridHeader& headings, GridDelegate& cells) {
     cells.setGrid(grid_, fontMetrics(), [this](const QString& text) { context_->prompts.exclaim(text); });
     const int height = std::max(rowTwips * logicalDpiY() / twipsAnInch, fontMetrics().height() + 2);
     headings.setRowHeight(height);
+    connect(&cells, &GridDelegate::goOn, this, &Grid::step);
     headings.setFont(font());
     QHeaderView& side = *view.verticalHeader();
     side.setFont(font());

@@ -50,6 +50,8 @@ class Grid final : public QTableView {
     void cancelEdit();
 
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    // Typing on a cell that can't be edited does nothing; it must not lead to another one.
+    void keyboardSearch(const QString& /*search*/) override {}
 
   Q_SIGNALS:
     void AfterRowColChange(int oldRow, int oldCol, int newRow, int newCol);
@@ -63,7 +65,6 @@ class Grid final : public QTableView {
     void resizeEvent(QResizeEvent* event) override;
     void updateGeometries() override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
-    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
   private:
     friend class GridPane;
@@ -85,7 +86,6 @@ class Grid final : public QTableView {
     void mouseInPane(GridPane& pane, QMouseEvent& event);
     void showTip(const QTableView& view, const QHelpEvent& event) const;
     void showScrollTip();
-    void afterEdit(QAbstractItemDelegate::EndEditHint hint);
     void step(int rows, int columns);
 
     GridModel* grid_ = nullptr;

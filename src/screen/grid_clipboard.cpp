@@ -101,6 +101,7 @@ GridCopy copiedCells(const GridModel& grid, GridSelection selection) {
 void pasteCells(GridModel& grid, GridSelection selection, const QString& text) {
     const GridSelection cells = withHeadings(grid, selection);
     const Source source = sourceOf(text);
+    const Undrawn undrawn(grid);
     walk(grid, cells, source, [&](int row, int column, const QString& field) {
         if (!isFixed(grid, row, column) && !fits(grid.ColDataType(column), field))
             throw Complaint(QStringLiteral("貼付先のデータ型が異なります。"));
@@ -113,6 +114,7 @@ void pasteCells(GridModel& grid, GridSelection selection, const QString& text) {
 }
 
 void clearCells(GridModel& grid, GridSelection selection) {
+    const Undrawn undrawn(grid);
     for (int row = selection.top; row <= selection.bottom; ++row)
         for (int column = selection.left; column <= selection.right; ++column)
             if (!grid.RowHidden(row) && !grid.ColHidden(column)) grid.clear(row, column);

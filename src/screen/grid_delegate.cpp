@@ -6,9 +6,13 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+
+#include <algorithm>
+#include <array>
 
 namespace kurbo {
 namespace {
@@ -132,10 +136,9 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     editor_ = list.isEmpty() ? textField(parent, grid_->ColEditMask(index.column())) : dropDown(parent, list);
     cell_ = index;
     SetImeOpen(editor_, rules->isJapanese(index.column()));
-    if (auto* const combo = qobject_cast<QComboBox*>(editor_.data()))
-        connect(
-            combo, &QComboBox::activated, this, [this] { const_cast<GridDelegate*>(this)->finish(); },
-            Qt::QueuedConnection);
+    if (const auto* const combo = qobject_cast<QComboBox*>(editor_.data()))
+        for (QObject* const part : {static_cast<QObject*>(combo->view()), static_cast<QObject*>(combo->view()->viewport())})
+            part->installEventFilter(const_cast<GridDelegate*>(this));
     return editor_;
 }
 
@@ -161,7 +164,7 @@ QString GridDelegate::EditText() const {
 }
 
 void GridDelegate::setModelData(QWidget* /*editor*/, QAbstractItemModel* /*model*/, const QModelIndex& index) const {
-    grid_->edit(index.row(), index.column(), EditText());
+    if (refusal().isEmpty()) grid_->edit(index.row(), index.column(), EditText());
 }
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -175,8 +178,9 @@ QString GridDelegate::refusal() const {
     return grid_->rules()->refusal(cell_.row(), cell_.column(), text);
 }
 
-bool GridDelegate::finish(EndEditHint hint) {
+bool GridDelegate::finish() {
     if (!editor_) return true;
+    if (editor_->hasFocus()) QGuiApplication::inputMethod()->commit();
     if (refusing_) return false;
     const QString text = refusal();
     if (!text.isEmpty()) {
@@ -189,7 +193,7 @@ bool GridDelegate::finish(EndEditHint hint) {
     QWidget* const editor = editor_;
     Q_EMIT commitData(editor);
     editor_.clear();
-    Q_EMIT closeEditor(editor, hint);
+    Q_EMIT closeEditor(editor, NoHint);
     return true;
 }
 
@@ -205,7 +209,10 @@ void GridDelegate::openList() {
 }
 
 bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != editor_) return QStyledItemDelegate::eventFilter(watched, event);
+    if (watched != editor_) {
+        choiceEvent(event);
+        return false;
+    }
     if (event->type() == QEvent::KeyPress) return keyPressed(static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::FocusOut) focusLost(static_cast<QFocusEvent*>(event)->reason());
     if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
@@ -216,31 +223,52 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool GridDelegate::keyPressed(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        finish(SubmitModelCache);
-        return true;
-    case Qt::Key_Tab:
-        finish(EditNextItem);
-        return true;
-    case Qt::Key_Backtab:
-        finish(EditPreviousItem);
-        return true;
-    case Qt::Key_Escape:
+    struct Way {
+        int key;
+        int rows;
+        int columns;
+        bool inLists; // a list uses the key itself where this is false
+    };
+    constexpr int page = 10;
+    constexpr std::array ways{
+        Way{Qt::Key_Return, 1, 0, true},       Way{Qt::Key_Enter, 1, 0, true},        Way{Qt::Key_Tab, 0, 1, true},
+        Way{Qt::Key_Backtab, 0, -1, true},     Way{Qt::Key_Up, -1, 0, false},         Way{Qt::Key_Down, 1, 0, false},
+        Way{Qt::Key_PageUp, -page, 0, false},  Way{Qt::Key_PageDown, page, 0, false},
+    };
+    if (event->key() == Qt::Key_Escape) {
         cancel();
         return true;
-    default:
-        return false;
     }
+    const auto* const way = std::ranges::find(ways, event->key(), &Way::key);
+    const bool list = qobject_cast<const QComboBox*>(editor_.data()) != nullptr;
+    if (way == ways.end() || (list && !way->inLists)) return false;
+    if (finish()) Q_EMIT goOn(way->rows, way->columns);
+    return true;
+}
+
+// The list's own rows, that is: the keys Up and Down in the closed field choose as well, and stay there.
+void GridDelegate::choiceEvent(QEvent* event) {
+    const bool key = event->type() == QEvent::KeyPress && (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
+                                                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter);
+    if (!key && event->type() != QEvent::MouseButtonRelease) return;
+    const auto take = [this, editor = editor_] {
+        if (editor && editor == editor_ && !QApplication::activePopupWidget()) finish();
+    };
+    QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+}
+
+// A popup is a window of its own, and a child of what opened it.
+bool GridDelegate::isOwnList(const QWidget* popup) const {
+    for (const QObject* part = popup; part; part = part->parent())
+        if (part == editor_) return true;
+    return false;
 }
 
 // A menu takes a good text, so that its commands know it. Another window, or the editor's own list, leaves the editor
 // as it is.
 bool GridDelegate::staysOpen(Qt::FocusReason reason) {
     const QWidget* const popup = QApplication::activePopupWidget();
-    const bool own = popup && editor_->isAncestorOf(popup);
-    if (reason == Qt::MenuBarFocusReason || (reason == Qt::PopupFocusReason && !own))
+    if (reason == Qt::MenuBarFocusReason || (reason == Qt::PopupFocusReason && !isOwnList(popup)))
         return !refusal().isEmpty() || finish();
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
 }

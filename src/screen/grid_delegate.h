@@ -26,7 +26,7 @@ class GridDelegate final : public QStyledItemDelegate {
     // The text in the open editor.
     [[nodiscard]] QString EditText() const;
     // Takes the open editor's text and closes it; false when it is refused. True without an editor.
-    bool finish(EndEditHint hint = NoHint);
+    bool finish();
     void cancel();
     // Drops the open editor's list down, where it is one.
     void openList();
@@ -38,6 +38,10 @@ class GridDelegate final : public QStyledItemDelegate {
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
 
+  Q_SIGNALS:
+    // The text was taken; the cursor goes on by so many cells.
+    void goOn(int rows, int columns);
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
@@ -45,6 +49,9 @@ class GridDelegate final : public QStyledItemDelegate {
 
   private:
     bool keyPressed(QKeyEvent* event);
+    // Takes what is chosen in the editor's list, once the list is gone.
+    void choiceEvent(QEvent* event);
+    [[nodiscard]] bool isOwnList(const QWidget* popup) const;
     bool staysOpen(Qt::FocusReason reason);
     void focusLost(Qt::FocusReason reason);
     [[nodiscard]] QString refusal() const;

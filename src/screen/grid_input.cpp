@@ -1,5 +1,6 @@
 // What the mouse and the keys do in a grid.
 
+#include "screen/fields.h"
 #include "screen/grid.h"
 #include "screen/grid_pane.h"
 #include "screen/vfg_copy.h"
@@ -72,24 +73,21 @@ bool Grid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     return begun;
 }
 
-void Grid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    afterEdit(hint);
-}
-
-void Grid::afterEdit(QAbstractItemDelegate::EndEditHint hint) {
-    if (hint == QAbstractItemDelegate::SubmitModelCache) step(1, 0);
-    if (hint == QAbstractItemDelegate::EditNextItem) step(0, 1);
-    if (hint == QAbstractItemDelegate::EditPreviousItem) step(0, -1);
-}
-
-// To the next cell that is seen, if there is one.
+// To the cell so many seen cells away, or the last on the way there.
 void Grid::step(int rows, int columns) {
-    int row = Row() + rows;
-    int column = Col() + columns;
-    while (row < grid_->Rows() && isRowHidden(row)) row += rows;
-    while (column >= 0 && column < grid_->Cols() && isColumnHidden(column)) column += columns;
-    if (row < grid_->Rows() && column >= 0 && column < grid_->Cols()) Select(row, column);
+    int row = Row();
+    int column = Col();
+    const auto walk = [](int& at, int cells, int end, const auto& isHidden) {
+        const int one = cells < 0 ? -1 : 1;
+        for (int next = at + one; cells != 0 && next >= 0 && next < end; next += one) {
+            if (isHidden(next)) continue;
+            at = next;
+            cells -= one;
+        }
+    };
+    walk(row, rows, grid_->Rows(), [this](int at) { return isRowHidden(at); });
+    walk(column, columns, grid_->Cols(), [this](int at) { return isColumnHidden(at); });
+    Select(row, column);
 }
 
 void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -54,9 +54,4 @@ void GridPane::paintEvent(QPaintEvent* event) {
     painter.drawRect(viewport()->rect().adjusted(-1, -1, -1, -1));
 }
 
-void GridPane::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    grid_.afterEdit(hint);
-}
-
 } // namespace kurbo

@@ -24,12 +24,12 @@ class GridPane final : public QTableView {
     bool begin(const QModelIndex& index, EditTrigger trigger, QEvent* event);
 
     void scrollTo(const QModelIndex& index, ScrollHint hint) override;
+    void keyboardSearch(const QString& /*search*/) override {}
 
   protected:
     bool viewportEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     void paintEvent(QPaintEvent* event) override;
-    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
   private:
     Grid& grid_;

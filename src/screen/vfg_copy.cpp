@@ -27,7 +27,6 @@ void paste(Grid& grid, const QString& givenText) {
     GridModel& cells = *grid.grid();
     if (!cells.Editable(grid.Row(), grid.Col()))
         throw Complaint(QStringLiteral("貼付先が編集不可の設定になっています。"));
-    const Undrawn undrawn(cells);
     pasteCells(cells, grid.GetSelection(), givenText.isEmpty() ? clipped : givenText);
 }
 

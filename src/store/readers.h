@@ -22,6 +22,8 @@ namespace kurbo {
 [[nodiscard]] QString WhichHoliday(const Context& context, Connection& connection, Day date);
 // Calendar rows from `from` to `to`, both included, or -1.
 [[nodiscard]] int ExistCalendar(const Context& context, Connection& connection, Day from, Day to);
+// That a period or a day has no calendar yet.
+[[nodiscard]] QString noCalendarText();
 // Says so when `day` has no calendar row.
 [[nodiscard]] bool hasCalendar(const Context& context, Connection& connection, Day day);
 // The leave time of the person's last row before the day of `border`, when it lies later than `border`; else nothing.

@@ -40,9 +40,7 @@ bool enter(Client& client, const QString& section, Day from, Day to) {
     client.CurrentConnection = &connectionOf(client, path);
     const int days = ExistCalendar(context, *client.CurrentConnection, from, to);
     if (days < 0) return false;
-    if (days == 0)
-        throw Complaint(lines(QStringLiteral("カレンダーが作成されていません。"),
-                              QStringLiteral("管理者にカレンダーの作成を依頼して下さい。")));
+    if (days == 0) throw Complaint(noCalendarText());
     const Session& session = client.session;
     AccessRights access = session.access;
     if (!GetAccess(context, *client.CurrentConnection, session.SessionStaff,
@@ -93,8 +91,10 @@ bool switchSection(Client& client, const QString& section, Day from, Day to) {
 
 void leaveSection(Client& client) {
     client.CurrentConnection = &client.HomeConnection;
-    (void)GetAccess(client.context, client.HomeConnection, client.session.SessionStaff, mySection(),
-                    client.session.access);
+    // Nobody keeps the rights of another section.
+    if (!GetAccess(client.context, client.HomeConnection, client.session.SessionStaff, mySection(),
+                   client.session.access))
+        client.session.access = {};
     client.OtherConnection.close();
 }
 
