@@ -41,6 +41,7 @@ frmKurbo::frmKurbo(Client& client, QWidget* parent)
     connectSelection();
     connectCommands();
     connectGoOut();
+    connectMonth();
     screen_.sheet.onEdit = [this] { showCommands(); };
     fillScreen(this, {1360, 990});
 }
@@ -95,13 +96,6 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
-    onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.adjust(); });
-    onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.updateMonthly(); });
-    for (const auto& [box, approve] :
-         {std::pair{ui_->chkPersonal, &CardScreen::approvePersonal}, {ui_->chkSuperior, &CardScreen::approveSuperior}})
-        connect(box, &QCheckBox::toggled, this, [this, approve](bool approved) {
-            run([&] { (screen_.*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
-        });
     for (QAction* const action : {ui_->mnuLoadKrb, ui_->mnuSaveKrb})
         onCommand(nullptr, action, [this, action] { coming(action->text().section(u'(', 0, 0)); });
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
@@ -110,6 +104,18 @@ void frmKurbo::connectCommands() {
             [this] { openHelp(client_.context.prompts, client_.helpPath()); });
     connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
     connect(ui_->vfgKurbo, &QAbstractItemView::doubleClicked, this, &frmKurbo::showDetail);
+}
+
+void frmKurbo::connectMonth() {
+    onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.adjust(); });
+    onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.updateMonthly(); });
+    const auto onMark = [this](QCheckBox* box, bool (CardScreen::*approve)(bool, const QString&, const QString&)) {
+        connect(box, &QCheckBox::toggled, this, [this, approve](bool approved) {
+            run([&] { (screen_.*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
+        });
+    };
+    onMark(ui_->chkPersonal, &CardScreen::approvePersonal);
+    onMark(ui_->chkSuperior, &CardScreen::approveSuperior);
 }
 
 void frmKurbo::onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command) {

@@ -43,6 +43,7 @@ class frmKurbo final : public QMainWindow {
     void dressFields();
     void connectSelection();
     void connectCommands();
+    void connectMonth();
     // Runs a command that works on the card: the open cell is taken first, and the window then shows what stands.
     void run(const std::function<void()>& command);
     void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
