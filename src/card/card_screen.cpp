@@ -76,9 +76,7 @@ std::optional<Day> CardScreen::baseDate() const {
 
 bool CardScreen::hasCalendarIn(Period period) const {
     const int days = ExistCalendar(client_.context, connection(), period.from, period.to);
-    if (days == 0)
-        client_.context.prompts.exclaim(lines(QStringLiteral("カレンダーが作成されていません。"),
-                                              QStringLiteral("管理者にカレンダーの作成を依頼して下さい。")));
+    if (days == 0) client_.context.prompts.exclaim(noCalendarText());
     return days > 0;
 }
 
@@ -139,7 +137,7 @@ bool CardScreen::chooseSection(const QString& section) {
         staff_.clear();
         people_.clear();
         reader_.cardShown = false;
-        sheet.blnCardChanged = sheet.blnMonthChanged = false;
+        sheet.drawn();
         readPeople();
         return true;
     });
@@ -150,7 +148,7 @@ bool CardScreen::chooseStaff(const QString& staff) {
     if (staff.isEmpty()) {
         staff_.clear();
         reader_.cardShown = false;
-        sheet.blnCardChanged = sheet.blnMonthChanged = false;
+        sheet.drawn();
         return true;
     }
     clsWorkTime rules;
@@ -164,8 +162,7 @@ bool CardScreen::chooseStaff(const QString& staff) {
 bool CardScreen::chooseMonth(int month) {
     if (!hasName() || !mayDiscard()) return false;
     const auto period = periodOfMonth(year_, month, rules_.plngCloseDay());
-    clsWorkTime rules = rules_;
-    if (!period || !hasCalendarIn(*period) || !ShowKurbo(staff_, *period, rules)) return false;
+    if (!period || !hasCalendarIn(*period) || !redraw(*period)) return false;
     month_ = month;
     return true;
 }
@@ -179,17 +176,14 @@ bool CardScreen::moveYears(int years, const QString& start, const QString& end) 
     auto period = from && to ? std::optional(Period{*from, *to}) : periodOfMonth(year_, month_, rules_.plngCloseDay());
     if (!period) return false;
     *period = {addMonths(period->from, years * monthsOfYear), addMonths(period->to, years * monthsOfYear)};
-    clsWorkTime rules = rules_;
-    if (!hasCalendarIn(*period) || !ShowKurbo(staff_, *period, rules)) return false;
+    if (!hasCalendarIn(*period) || !redraw(*period)) return false;
     year_ += years;
     return true;
 }
 
 bool CardScreen::display(const QString& start, const QString& end) {
     const auto period = checkedPeriod(client_.context, start, end);
-    if (!period || !hasName() || !mayDiscard() || !hasCalendarIn(*period)) return false;
-    clsWorkTime rules = rules_;
-    return ShowKurbo(staff_, *period, rules);
+    return period && hasName() && mayDiscard() && hasCalendarIn(*period) && redraw(*period);
 }
 
 bool CardScreen::hasName() const {
@@ -211,8 +205,7 @@ bool CardScreen::update(const QString& start, const QString& end) {
         return false;
     }
     const auto period = checkedPeriod(client_.context, start, end);
-    clsWorkTime rules = rules_;
-    return period && ShowKurbo(staff_, *period, rules);
+    return period && drawStored(*period);
 }
 
 bool CardScreen::deletePeriod(const QString& start, const QString& end) {
@@ -231,8 +224,19 @@ bool CardScreen::deletePeriod(const QString& start, const QString& end) {
         prompts.exclaim(QStringLiteral("出退勤データの削除に失敗しました。"));
         return false;
     }
+    return drawStored(*period);
+}
+
+// What stands in the store is not in the grid yet: until it is, nothing of it may be written again.
+bool CardScreen::drawStored(Period period) {
+    sheet.drawn();
+    reader_.cardShown = false;
+    return redraw(period);
+}
+
+bool CardScreen::redraw(Period period) {
     clsWorkTime rules = rules_;
-    return ShowKurbo(staff_, *period, rules);
+    return ShowKurbo(staff_, period, rules);
 }
 
 bool CardScreen::mayChooseOthers() const {

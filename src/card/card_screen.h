@@ -91,6 +91,8 @@ class CardScreen final {
     [[nodiscard]] bool hasCalendarIn(Period period) const;
     void choosePeriod(Period period);
     [[nodiscard]] bool ShowKurbo(const QString& staff, Period period, clsWorkTime& rules);
+    [[nodiscard]] bool redraw(Period period);
+    [[nodiscard]] bool drawStored(Period period);
     [[nodiscard]] bool hasName() const;
     void setPeriod(Period period);
     [[nodiscard]] bool rebuildPeriod();

@@ -53,8 +53,7 @@ bool CardScreen::adjust() {
         return false;
     // A card of another range would give the chosen month sums that aren't its own.
     const Period shown = period_;
-    clsWorkTime rules = rules_;
-    const bool adjusted = rebuildPeriod() && (period_ == shown || ShowKurbo(staff_, period_, rules)) &&
+    const bool adjusted = rebuildPeriod() && (period_ == shown || redraw(period_)) &&
                           AdjustMonthly(client_.context, connection(), sheet, rules_, staff_);
     if (!adjusted) prompts.exclaim(QStringLiteral("集計結果の調整に失敗しました。"));
     return adjusted;

@@ -82,7 +82,17 @@ std::vector<DayRow> changedRows(const CardSheet& sheet) {
     return rows;
 }
 
+// A day has one row. Somebody may have punched since the card was drawn: two rows would count the day twice.
+void checkStillEmpty(Connection& connection, const DayRow& row, const QString& staff) {
+    if (connection.hasRow(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = ?) AND (F_DateID = ?);"),
+                          {staff, dateId(row.day)}))
+        throw Complaint(
+            lines(slashDate(row.day) + QStringLiteral("のデータは、タイムカードの表示後に打刻又は更新されています。"),
+                  QStringLiteral("再表示してから、追加・変更をやり直して下さい。")));
+}
+
 void add(Connection& connection, const DayRow& row, const QString& staff) {
+    checkStillEmpty(connection, row, staff);
     connection.execute(QStringLiteral("INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Plan, F_Enter, F_Leave, "
                                       "F_Paid, F_Special, F_Compens) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                        {nextKurboId(connection), dateId(row.day), staff, row.plan, *row.enter, *row.leave, row.paid,

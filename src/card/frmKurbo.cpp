@@ -74,9 +74,8 @@ void frmKurbo::connectSelection() {
     connect(ui_->dcbStaff, &QComboBox::activated, this, &frmKurbo::staffChosen);
     connect(ui_->dcbStaff->lineEdit(), &QLineEdit::editingFinished, this, &frmKurbo::staffChosen);
     for (int month = 1; month <= months; ++month)
-        connect(optMonth_[static_cast<std::size_t>(month - 1)], &QRadioButton::toggled, this, [this, month](bool on) {
-            if (on) run([this, month] { screen_.chooseMonth(month); });
-        });
+        connect(optMonth_[static_cast<std::size_t>(month - 1)], &QRadioButton::clicked, this,
+                [this, month] { run([this, month] { screen_.chooseMonth(month); }); });
     connect(ui_->udcYear, &UpDown::UpClick, this, [this] { moveYear(1); });
     connect(ui_->udcYear, &UpDown::DownClick, this, [this] { moveYear(-1); });
     for (const auto& [box, spin] : {std::pair{ui_->mskStart, ui_->udcStart}, {ui_->mskEnd, ui_->udcEnd}}) {
@@ -129,9 +128,17 @@ void frmKurbo::run(const std::function<void()>& command) {
     if (ui_->vfgKurbo->finishEdit()) {
         const QScopedValueRollback showing(blnShowing_, true);
         const Hourglass hourglass;
-        command();
+        if (hasConnection()) command();
     }
     showState();
+}
+
+// Opens a file again that the disk or the network has taken away meanwhile.
+bool frmKurbo::hasConnection() {
+    return guarded(client_.context, u"frmKurbo", u"ReConnect", false, [this] {
+        client_.reopenCurrent();
+        return true;
+    });
 }
 
 void frmKurbo::coming(const QString& name) {
@@ -152,8 +159,8 @@ void frmKurbo::sectionChosen() {
 
 void frmKurbo::staffChosen() {
     const QString code = ui_->dcbStaff->boundText();
-    if (blnShowing_ || code == screen_.staff()) return;
-    if (!code.isEmpty() && !ui_->dcbStaff->isInList()) return showNames();
+    if (blnShowing_) return;
+    if (code == screen_.staff() || (!code.isEmpty() && !ui_->dcbStaff->isInList())) return showNames();
     run([this, &code] { screen_.chooseStaff(code); });
 }
 
@@ -184,6 +191,7 @@ void frmKurbo::showNames() {
 }
 
 void frmKurbo::showPeriod() {
+    if (screen_.year() == 0) return;
     ui_->txtYear->setText(QString::number(screen_.year()));
     optMonth_[static_cast<std::size_t>(screen_.month() - 1)]->setChecked(true);
     // Dates that were typed and not shown yet stay.

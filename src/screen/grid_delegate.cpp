@@ -137,7 +137,8 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     cell_ = index;
     SetImeOpen(editor_, rules->isJapanese(index.column()));
     if (const auto* const combo = qobject_cast<QComboBox*>(editor_.data()))
-        for (QObject* const part : {static_cast<QObject*>(combo->view()), static_cast<QObject*>(combo->view()->viewport())})
+        for (QObject* const part :
+             {static_cast<QObject*>(combo->view()), static_cast<QObject*>(combo->view()->viewport())})
             part->installEventFilter(const_cast<GridDelegate*>(this));
     return editor_;
 }
@@ -231,9 +232,9 @@ bool GridDelegate::keyPressed(QKeyEvent* event) {
     };
     constexpr int page = 10;
     constexpr std::array ways{
-        Way{Qt::Key_Return, 1, 0, true},       Way{Qt::Key_Enter, 1, 0, true},        Way{Qt::Key_Tab, 0, 1, true},
-        Way{Qt::Key_Backtab, 0, -1, true},     Way{Qt::Key_Up, -1, 0, false},         Way{Qt::Key_Down, 1, 0, false},
-        Way{Qt::Key_PageUp, -page, 0, false},  Way{Qt::Key_PageDown, page, 0, false},
+        Way{Qt::Key_Return, 1, 0, true},      Way{Qt::Key_Enter, 1, 0, true},        Way{Qt::Key_Tab, 0, 1, true},
+        Way{Qt::Key_Backtab, 0, -1, true},    Way{Qt::Key_Up, -1, 0, false},         Way{Qt::Key_Down, 1, 0, false},
+        Way{Qt::Key_PageUp, -page, 0, false}, Way{Qt::Key_PageDown, page, 0, false},
     };
     if (event->key() == Qt::Key_Escape) {
         cancel();

@@ -25,13 +25,18 @@ bool IsFormLoaded(const QString& name) {
     return loadedForm(name) != nullptr;
 }
 
-int openForms() {
-    const auto works = [](const QWidget* window) {
+QWidgetList openScreens() {
+    QWidgetList screens;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
         const QString name = window->objectName();
-        return window->isVisible() && isForm(window) && name != u"frmSplash" && name != u"frmWaiting";
-    };
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return static_cast<int>(std::ranges::count_if(windows, works));
+        if (window->isVisible() && isForm(window) && name != u"frmSplash" && name != u"frmWaiting")
+            screens.append(window);
+    }
+    return screens;
+}
+
+int openForms() {
+    return static_cast<int>(openScreens().size());
 }
 
 bool activateForm(const QString& name) {

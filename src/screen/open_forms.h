@@ -8,6 +8,8 @@ namespace kurbo {
 // A form is a window whose name begins with "frm"; it is loaded while it is on the screen or minimised.
 
 [[nodiscard]] bool IsFormLoaded(const QString& name);
+// The forms that are open in which people work; frmSplash and frmWaiting are none of them.
+[[nodiscard]] QWidgetList openScreens();
 // How many forms are open in which people work; frmSplash and frmWaiting are none of them.
 [[nodiscard]] int openForms();
 // Brings a loaded form to the front; false when it isn't loaded.

@@ -74,7 +74,7 @@ void frmLogin::load() {
 void frmLogin::greet() {
     if (loadFailed_) return;
     tick();
-    warnOfOldRecords(client_.context, *client_.CurrentConnection);
+    warnOfOldRecords(client_.context, client_.HomeConnection);
 }
 
 bool frmLogin::ReConnect() {
@@ -83,7 +83,7 @@ bool frmLogin::ReConnect() {
     const QScopedValueRollback connecting(connecting_, true);
     const Hourglass hourglass;
     const bool ready = guarded(client_.context, u"frmLogin", u"ReConnect", false, [this] {
-        if (!client_.CurrentConnection->isOpen()) {
+        if (!client_.HomeConnection.isOpen()) {
             listsOpen_ = false;
             client_.openHome();
         }
@@ -102,7 +102,7 @@ void frmLogin::fillLists() {
     const QSignalBlocker quietStaff(ui_->dcbStaff);
     const QString section = ui_->dcbSection->boundText();
     const QString staff = ui_->dcbStaff->boundText();
-    Connection& connection = *client_.CurrentConnection;
+    Connection& connection = client_.HomeConnection;
     ui_->dcbSection->setEntries(loginSections(connection));
     ui_->dcbSection->setBoundText(section);
     ui_->dcbStaff->setEntries(loginStaff(connection, section));
@@ -114,7 +114,7 @@ void frmLogin::fillLists() {
 void frmLogin::letGo() {
     const QScopedValueRollback quiet(quietFocus_, true);
     if (!isMinimized()) ui_->txtClock->setFocus();
-    client_.CurrentConnection->close();
+    client_.HomeConnection.close();
     listsOpen_ = false;
     tmrTimer_->stop();
 }
@@ -136,7 +136,7 @@ void frmLogin::tick() {
     const Day today = dayOf(now);
     showTime(now);
     if (dayOfMonth(today) == LastDay_ || !ReConnect()) return;
-    const QString name = WhichHoliday(client_.context, *client_.CurrentConnection, today);
+    const QString name = WhichHoliday(client_.context, client_.HomeConnection, today);
     if (name != u"ERROR") ui_->lblHoliday->setText(name);
     LastDay_ = dayOfMonth(today);
 }

@@ -71,6 +71,7 @@ class frmLogin final : public QMainWindow {
     void enterLoginField(QWidget* field);
 
     void logIn();
+    [[nodiscard]] bool closeScreensOfOthers(const QString& staff);
     void ShowTimeRecorder();
     void showRecorder(bool shown);
     void setMenusFor(const AccessRights& access, bool loggedIn);

@@ -50,18 +50,18 @@ void frmLogin::connectSetting(QAction* action, Setting setting, const char16_t* 
 
 void frmLogin::openCard(const QString& screen) {
     if (!ReConnect() || activateForm(screen)) return;
-    if (cardAllowed(client_.context, *client_.CurrentConnection)) openScreen(screen);
+    if (cardAllowed(client_.context, client_.HomeConnection)) openScreen(screen);
 }
 
 void frmLogin::openSetting(Setting setting, const QString& screen) {
     if (!ReConnect()) return;
-    if (settingAllowed(client_.context, *client_.CurrentConnection, setting)) openScreen(screen);
+    if (settingAllowed(client_.context, client_.HomeConnection, setting)) openScreen(screen);
 }
 
 void frmLogin::openMove() {
     const QString screen = QStringLiteral("frmMaintainance");
     if (!ReConnect() || activateForm(screen)) return;
-    if (moveAllowed(client_.context, *client_.CurrentConnection)) openScreen(screen);
+    if (moveAllowed(client_.context, client_.HomeConnection)) openScreen(screen);
 }
 
 void frmLogin::openScreen(const QString& screen) {

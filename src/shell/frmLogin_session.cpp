@@ -32,9 +32,9 @@ bool frmLogin::eventFilter(QObject* watched, QEvent* event) {
 void frmLogin::sectionChanged() {
     ui_->dcbStaff->clearEditText();
     QList<CodeName> people;
-    if (ui_->dcbSection->isInList() && client_.CurrentConnection->isOpen())
+    if (ui_->dcbSection->isInList() && client_.HomeConnection.isOpen())
         guarded(client_.context, u"frmLogin", u"dcbSection_Change",
-                [&] { people = loginStaff(*client_.CurrentConnection, ui_->dcbSection->boundText()); });
+                [&] { people = loginStaff(client_.HomeConnection, ui_->dcbSection->boundText()); });
     ui_->dcbStaff->setEntries(people);
     checkInput();
 }
@@ -90,7 +90,7 @@ void frmLogin::enterLoginField(QWidget* field) {
 }
 
 void frmLogin::logIn() {
-    if (isLoggedIn() || !ReConnect()) return;
+    if (isLoggedIn() || !ReConnect() || !closeScreensOfOthers(ui_->dcbStaff->boundText())) return;
     switch (login_.attempt({ui_->dcbSection->boundText(), ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText(),
                             ui_->txtPassWord->text()})) {
     case LoginResult::Open:
@@ -106,6 +106,14 @@ void frmLogin::logIn() {
     case LoginResult::Stopped:
         break;
     }
+}
+
+// A screen that somebody else has left open shows that person's data, under that person's rights.
+bool frmLogin::closeScreensOfOthers(const QString& staff) {
+    if (staff.compare(client_.session.SessionStaff, Qt::CaseInsensitive) == 0) return true;
+    for (QWidget* const form : openScreens())
+        if (form != this && !form->close()) return false;
+    return true;
 }
 
 bool frmLogin::isLoggedIn() const {
@@ -182,7 +190,7 @@ void frmLogin::press(Punch kind) {
     if (!ReConnect()) return;
     const Session& session = client_.session;
     const PunchResult result =
-        punch({context.prompts, atPress, context.paths, context.progress}, *client_.CurrentConnection,
+        punch({context.prompts, atPress, context.paths, context.progress}, client_.HomeConnection,
               {session.SessionStaff, session.EnterDelay, session.LeaveGain}, kind);
     if (result == PunchResult::Stopped) return;
     HideTimeRecorder();

@@ -26,7 +26,7 @@ bool GetTimeDiff(const Context& context, Connection& connection, const QString& 
 }
 
 LoginResult Login::attempt(const Credentials& credentials) {
-    if (!IsPasswordOK(client_.context, *client_.CurrentConnection, credentials.staff, credentials.password))
+    if (!IsPasswordOK(client_.context, client_.HomeConnection, credentials.staff, credentials.password))
         return wrongPassword();
     FailedLogins_ = 0;
     return admit(credentials);
@@ -45,7 +45,7 @@ LoginResult Login::admit(const Credentials& credentials) {
     const bool admin = isAdminCode(credentials.staff);
     session.SessionStaff = admin ? adminCode() : credentials.staff;
     session.SessionSection = admin ? adminCode() : credentials.section;
-    Connection& connection = *client_.CurrentConnection;
+    Connection& connection = client_.HomeConnection;
     if (!GetAccess(client_.context, connection, session.SessionStaff, mySection(), session.access) ||
         !GetTimeDiff(client_.context, connection, session.SessionStaff, session.EnterDelay, session.LeaveGain))
         return LoginResult::Stopped;

@@ -97,9 +97,7 @@ bool cardAllowed(const Context& context, Connection& connection) {
     const auto first = GetFirstDate(context, connection);
     if (!first) return false;
     const int days = ExistCalendar(context, connection, *first, addMonths(*first, 1) - std::chrono::days(1));
-    if (days >= 0 && days < fewestDays)
-        context.prompts.exclaim(lines(QStringLiteral("カレンダーが作成されていません。"),
-                                      QStringLiteral("管理者にカレンダーの作成を依頼して下さい。")));
+    if (days >= 0 && days < fewestDays) context.prompts.exclaim(noCalendarText());
     return days >= fewestDays;
 }
 

@@ -6,7 +6,13 @@ namespace kurbo {
 
 void Client::openHome() {
     HomeConnection.open(DbPath, databasePassword());
-    CurrentConnection = &HomeConnection;
+    if (!OtherConnection.isOpen()) CurrentConnection = &HomeConnection;
+}
+
+void Client::reopenCurrent() {
+    if (CurrentConnection->isOpen()) return;
+    const QString path = CurrentConnection->path();
+    CurrentConnection->open(path.isEmpty() ? DbPath : path, databasePassword());
 }
 
 void Client::closeConnections() {

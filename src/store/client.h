@@ -33,8 +33,10 @@ class Client final {
     Connection* CurrentConnection;
     Session session;
 
-    // Opens the home database on DbPath and works on it; throws.
+    // Opens the home database on DbPath, and works on it unless a screen is at another site's file; throws.
     void openHome();
+    // Opens the file that is worked on, if it is closed; throws.
+    void reopenCurrent();
     void closeConnections();
     // The help of the person who logged in last; that for people at first.
     [[nodiscard]] const QString& helpPath() const;

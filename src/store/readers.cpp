@@ -66,11 +66,14 @@ int ExistCalendar(const Context& context, Connection& connection, Day from, Day 
     });
 }
 
+QString noCalendarText() {
+    return lines(QStringLiteral("カレンダーが作成されていません。"),
+                 QStringLiteral("管理者にカレンダーの作成を依頼して下さい。"));
+}
+
 bool hasCalendar(const Context& context, Connection& connection, Day day) {
     const int count = ExistCalendar(context, connection, day, day);
-    if (count == 0)
-        context.prompts.exclaim(lines(QStringLiteral("カレンダーが作成されていません。"),
-                                      QStringLiteral("管理者にカレンダーの作成を依頼して下さい。")));
+    if (count == 0) context.prompts.exclaim(noCalendarText());
     return count > 0;
 }
 

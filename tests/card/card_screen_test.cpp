@@ -112,6 +112,28 @@ TEST_F(CardScreenTest, UpdatesAndDeletesWhatIsShown) {
     EXPECT_EQ(count(u"T02_Kurbo"_q), 2);
 }
 
+TEST_F(CardScreenTest, APunchBesideTheOpenCardIsNotDoubled) {
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    type(6, CardColumn::Plan, u"出張"_q);
+    addCard(9, *makeDay(2026, 4, 6), u"09:00"_q, {});
+    desk.prompts.expect(u"よろしいですか？"_q).expect(u"2026/04/06のデータは"_q).expect(u"更新できませんでした。"_q);
+    EXPECT_FALSE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
+    EXPECT_EQ(count(u"T02_Kurbo"_q), 4);
+    EXPECT_EQ(cell(6, CardColumn::Plan), u"出張"_q) << "the correction is still there to be made again";
+}
+
+TEST_F(CardScreenTest, WhatIsStoredIsNotWrittenAgainWhenItCannotBeDrawn) {
+    logIn(u"1002"_q);
+    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    type(6, CardColumn::Plan, u"出張"_q);
+    connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 01:00:00# WHERE (F_KurboID = 1)"_q);
+    desk.prompts.expect(u"よろしいですか？"_q).expect(u"退社時刻が出社時刻より前"_q);
+    EXPECT_FALSE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
+    EXPECT_EQ(count(u"T02_Kurbo"_q), 4);
+    EXPECT_FALSE(screen.sheet.blnCardChanged || screen.sheet.grid.Editable(firstCardDay + 5, 3));
+}
+
 TEST_F(CardScreenTest, AnotherSitesSectionIsReadAndWrittenThere) {
     const QString other = addOtherSite();
     logIn(u"1002"_q);

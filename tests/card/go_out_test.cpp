@@ -16,14 +16,10 @@ const QString update = u"追加・変更を更新します。"_q;
 class GoOutTest : public CardOffice {
   protected:
     GoOutTest() {
-        const std::tuple<int, QString, QString> places[] = {{3, u"本社"_q, u"1001"_q},
-                                                            {4, u"銀行"_q, u"1001"_q},
-                                                            {5, u"倉庫"_q, u"1001"_q},
-                                                            {6, u"郵便局"_q, u"1001"_q},
-                                                            {7, u"本社"_q, u"1002"_q}};
-        for (const auto& [code, name, user] : places)
+        const QStringList places{u"本社"_q, u"銀行"_q, u"倉庫"_q, u"郵便局"_q, u"本社"_q};
+        for (int i = 0; i < places.size(); ++i)
             connection.execute(u"INSERT INTO T04_Destination (F_DestCode, F_DestName, F_User) VALUES (?, ?, ?)"_q,
-                               {code, name, user});
+                               {i + 3, places[i], i < 4 ? u"1001"_q : u"1002"_q});
         const QString add = u"INSERT INTO T03_GoOut (F_KurboID, F_Order, F_Out, F_In, F_Destination, F_Expense) "_q;
         connection.execute(add + u"VALUES (1, 2, #2026/04/01 14:00:09#, Null, 4, 380)"_q);
         connection.execute(add + u"VALUES (1, 1, #2026/04/01 10:05:31#, #2026/04/01 11:20:00#, 5, 1200)"_q);
@@ -237,6 +233,7 @@ TEST_F(SampleCompany, TheSameNewPlaceIsTypedByManyAtOnce) {
         return 0;
     };
     std::vector<pid_t> running;
+    running.reserve(people);
     for (int i = 0; i < people; ++i) running.push_back(startChild([&] { return person(i); }));
     for (const pid_t child : running) EXPECT_EQ(endOf(child), 0);
     connection.open(path, databasePassword());

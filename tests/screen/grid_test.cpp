@@ -3,6 +3,7 @@
 #include "screen/vfg_copy.h"
 #include "support/desk.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -92,6 +93,24 @@ TEST_F(GridOnScreen, TypedTextIsTakenByEnterAndTab) {
     EXPECT_FALSE(grid.isEditing());
 }
 
+TEST_F(GridOnScreen, TypingOnAClosedCellLeadsNowhere) {
+    grid.Select(3, 5);
+    type(u"-42"_q);
+    EXPECT_EQ(cursor(), u"3,5"_q);
+    EXPECT_FALSE(grid.isEditing());
+}
+
+TEST_F(GridOnScreen, TheArrowsLeaveATextFieldThroughItsCheck) {
+    type(u"x"_q);
+    desk.prompts.expect(u"数値を入力して下さい。"_q);
+    press(Qt::Key_Down);
+    EXPECT_EQ(cells.TextMatrix(3, 1) + u' ' + cursor() + grid.EditText(), u"1 3,1x"_q);
+    press(Qt::Key_Backspace);
+    type(u"8"_q);
+    press(Qt::Key_Down);
+    EXPECT_EQ(cells.TextMatrix(3, 1) + u' ' + cursor(), u"8 4,1"_q);
+}
+
 TEST_F(GridOnScreen, ARefusedTextKeepsItsEditorOpen) {
     type(u"x"_q);
     desk.prompts.expect(u"数値を入力して下さい。"_q);
@@ -137,8 +156,20 @@ TEST_F(GridOnScreen, ListsAndBoxesAreWorkedByKeyAndMouse) {
     EXPECT_TRUE(list->isEditable());
     EXPECT_FALSE(list->inputMethodHints().testFlag(Qt::ImhPreferLatin));
     press(Qt::Key_Down);
+    press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_EQ(cells.TextMatrix(5, 2), u"全日"_q);
+    EXPECT_EQ(cells.TextMatrix(5, 2), u"午前"_q);
+    grid.Select(7, 2);
+    press(Qt::Key_F2);
+    press(Qt::Key_Down, Qt::AltModifier);
+    auto* const open = grid.findChild<QComboBox*>();
+    ASSERT_TRUE(open && open->view()->isVisible());
+    const QRect second = open->view()->visualRect(open->model()->index(1, 0));
+    QTest::mouseMove(open->view()->viewport(), second.center());
+    QTest::mouseClick(open->view()->viewport(), Qt::LeftButton, {}, second.center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cells.TextMatrix(7, 2), u"全日"_q);
+    EXPECT_FALSE(grid.isEditing());
     grid.Select(5, 4);
     press(Qt::Key_Space);
     EXPECT_TRUE(cells.CellChecked(5, 4));
@@ -185,6 +216,11 @@ TEST_F(GridOnScreen, AFilledGridKeepsItsCursor) {
         cells.RowHidden(10, true);
     }
     EXPECT_EQ(cursor(), u"11,2"_q);
+    grid.Select(4, 1);
+    cells.reset({.rows = 31, .columns = 6, .frozenRows = 2});
+    EXPECT_EQ(cursor(), u"4,1"_q) << "the last place counts, not the furthest";
+    cells.reset({.rows = 30, .columns = 6, .frozenRows = 2});
+    cells.RowHidden(10, true);
     EXPECT_TRUE(grid.isRowHidden(10));
     EXPECT_FALSE(grid.isRowHidden(9));
     EXPECT_EQ(grid.columnWidth(2), cells.ColWidth(2) * grid.logicalDpiX() / 1440);
