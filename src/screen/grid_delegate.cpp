@@ -269,9 +269,9 @@ bool GridDelegate::isOwnList(const QWidget* popup) const {
 // as it is.
 bool GridDelegate::staysOpen(Qt::FocusReason reason) {
     const QWidget* const popup = QApplication::activePopupWidget();
-    if (reason == Qt::MenuBarFocusReason || (reason == Qt::PopupFocusReason && !isOwnList(popup)))
-        return !refusal().isEmpty() || finish();
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    if (isOwnList(popup) || reason == Qt::ActiveWindowFocusReason) return true;
+    const bool menu = reason == Qt::MenuBarFocusReason || reason == Qt::PopupFocusReason;
+    return menu && (!refusal().isEmpty() || finish());
 }
 
 // The click that took the focus is let to its end before a refusal is shown.

@@ -159,6 +159,7 @@ TEST_F(GridOnScreen, ListsAndBoxesAreWorkedByKeyAndMouse) {
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(cells.TextMatrix(5, 2), u"午前"_q);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     grid.Select(7, 2);
     press(Qt::Key_F2);
     press(Qt::Key_Down, Qt::AltModifier);
