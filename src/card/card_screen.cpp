@@ -57,6 +57,7 @@ void CardScreen::readPeople() {
                         QStringLiteral("SELECT F_StaffCode, F_StaffName FROM C03_Staff "
                                        "WHERE (F_Section = ?) AND (F_Display = True) ORDER BY F_Order;"),
                         {section_});
+    listSection_ = section_;
 }
 
 bool CardScreen::loadRules(const QString& staff, clsWorkTime& rules) const {
@@ -155,12 +156,13 @@ bool CardScreen::chooseStaff(const QString& staff) {
     if (!loadRules(staff, rules)) return false;
     const auto period = periodOfMonth(year_, month_, rules.plngCloseDay());
     if (!period || !hasCalendarIn(*period) || !ShowKurbo(staff, *period, rules)) return false;
+    section_ = listSection_;
     staff_ = staff;
     return true;
 }
 
 bool CardScreen::chooseMonth(int month) {
-    if (!hasName() || !mayDiscard()) return false;
+    if (!hasName() || !mayDiscard() || !leaveFile()) return false;
     const auto period = periodOfMonth(year_, month, rules_.plngCloseDay());
     if (!period || !hasCalendarIn(*period) || !redraw(*period)) return false;
     month_ = month;
@@ -170,7 +172,7 @@ bool CardScreen::chooseMonth(int month) {
 // Two boxes that hold no dates stand for the period of the chosen month.
 bool CardScreen::moveYears(int years, const QString& start, const QString& end) {
     constexpr int monthsOfYear = 12;
-    if (!hasName() || !mayDiscard()) return false;
+    if (!hasName() || !mayDiscard() || !leaveFile()) return false;
     const auto from = parseSlashDate(start);
     const auto to = parseSlashDate(end);
     auto period = from && to ? std::optional(Period{*from, *to}) : periodOfMonth(year_, month_, rules_.plngCloseDay());
@@ -183,7 +185,7 @@ bool CardScreen::moveYears(int years, const QString& start, const QString& end) 
 
 bool CardScreen::display(const QString& start, const QString& end) {
     const auto period = checkedPeriod(client_.context, start, end);
-    return period && hasName() && mayDiscard() && hasCalendarIn(*period) && redraw(*period);
+    return period && hasName() && mayDiscard() && leaveFile() && hasCalendarIn(*period) && redraw(*period);
 }
 
 bool CardScreen::hasName() const {

@@ -49,6 +49,10 @@ class CardScreen final {
     bool approvePersonal(bool approved, const QString& start, const QString& end);
     bool approveSuperior(bool approved, const QString& start, const QString& end);
 
+    // The shown card into a card file, and one out of a file, which is only looked at until a card is drawn again.
+    bool saveKrb(const QString& start, const QString& end);
+    bool loadKrb();
+
     CardSheet sheet;
     // Asked last before another card or period is shown: whether what stands beside the card may go.
     std::function<bool()> mayLeaveDay;
@@ -90,6 +94,7 @@ class CardScreen final {
     [[nodiscard]] std::optional<Day> baseDate() const;
     [[nodiscard]] bool hasCalendarIn(Period period) const;
     void choosePeriod(Period period);
+    [[nodiscard]] bool leaveFile();
     [[nodiscard]] bool ShowKurbo(const QString& staff, Period period, clsWorkTime& rules);
     [[nodiscard]] bool redraw(Period period);
     [[nodiscard]] bool drawStored(Period period);
@@ -109,6 +114,8 @@ class CardScreen final {
     QList<CodeName> sections_;
     QList<CodeName> people_;
     QString section_;
+    // Whose people are in the list.
+    QString listSection_;
     QString staff_;
     Period period_{};
     int year_ = 0;

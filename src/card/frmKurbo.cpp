@@ -95,8 +95,8 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
-    for (QAction* const action : {ui_->mnuLoadKrb, ui_->mnuSaveKrb})
-        onCommand(nullptr, action, [this, action] { coming(action->text().section(u'(', 0, 0)); });
+    onCommand(nullptr, ui_->mnuSaveKrb, dates(&CardScreen::saveKrb));
+    onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(ui_->mnuTopic, &QAction::triggered, this,

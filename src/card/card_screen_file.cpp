@@ -1,0 +1,69 @@
+// Card files on the card's screen.
+
+#include "card/card_cells.h"
+#include "card/card_checks.h"
+#include "card/card_screen.h"
+#include "screen/foreign_file.h"
+#include "screen/sheet_file.h"
+#include "store/section_switch.h"
+
+#include <algorithm>
+
+namespace kurbo {
+namespace {
+
+QString cardMember() {
+    return QStringLiteral("Kurbo.tmp");
+}
+
+} // namespace
+
+bool CardScreen::saveKrb(const QString& start, const QString& end) {
+    if (!hasName() || !checkedPeriod(client_.context, start, end)) return false;
+    const auto file = client_.context.prompts.saveFile(sheetFilter(), QStringLiteral("krb"));
+    return file && guarded(client_.context, u"frmKurbo", u"SaveKurbo", false, [&] {
+               saveSheet(*file, cardMember(), sheet.grid, {section_, staff_, start, end});
+               return true;
+           });
+}
+
+bool CardScreen::loadKrb() {
+    if (!mayDiscard()) return false;
+    const auto file = client_.context.prompts.openFile(sheetFilter());
+    return file && guarded(client_.context, u"frmKurbo", u"LoadKurbo", false, [&] {
+               // From now on, also after a failure, the screen only shows until a card is drawn from the store.
+               sheet.drawn();
+               sheet.blnFileMode = true;
+               const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid);
+               const auto from = parseSlashDate(selection[2]);
+               const auto to = parseSlashDate(selection[3]);
+               if (!from || !to) throw foreignFile();
+               section_ = selection[0];
+               staff_ = selection[1];
+               choosePeriod({*from, *to});
+               return true;
+           });
+}
+
+// A card file may name anybody: before that person's card is drawn from the store, the right to see it is asked for.
+bool CardScreen::leaveFile() {
+    if (!sheet.blnFileMode) return true;
+    return guarded(client_.context, u"frmKurbo", u"LoadKurbo", false, [this] {
+        const Session& session = client_.session;
+        const bool own = staff_ == session.SessionStaff && section_ == session.SessionSection;
+        if (own)
+            leaveSection(client_);
+        else if (!switchSection(client_, section_, period_.from, period_.to))
+            return false;
+        readPeople();
+        const bool known = std::ranges::find(people_, staff_, &CodeName::code) != people_.end();
+        if (!own && !known)
+            throw Complaint(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
+        clsWorkTime rules;
+        if (!loadRules(staff_, rules)) return false;
+        rules_ = rules;
+        return true;
+    });
+}
+
+} // namespace kurbo
