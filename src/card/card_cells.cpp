@@ -13,13 +13,6 @@ constexpr int index(CardColumn column) {
     return static_cast<int>(column);
 }
 
-// The quantities of columns 6 to 14, in their order; column 6 is the difference on a flexible company's card.
-constexpr std::array timeColumns{&Figures::legalOver,    &Figures::over,      &Figures::late,
-                                 &Figures::early,        &Figures::holiday,   &Figures::holidayLate,
-                                 &Figures::legalHoliday, &Figures::legalLate, &Figures::absent};
-constexpr std::array leaveColumns{&Figures::paidHalves, &Figures::specialHalves, &Figures::compensHalves};
-constexpr std::array countColumns{&Figures::absentDays, &Figures::lateEnters, &Figures::earlyLeaves};
-
 QStringList blankRow() {
     return QStringList(cardColumns);
 }
@@ -165,16 +158,6 @@ class CellWriter final {
     const QList<QString>& hours_;
 };
 
-void roundSums(const clsWorkTime& rules, Figures& sum) {
-    if (rules.plngRoundMethod != 1) return;
-    const auto round = [&rules](Minutes& minutes) {
-        minutes = RoundMinutes(minutes, rules.plngRoundHour, rules.plngRoundUnit());
-    };
-    round(sum.work);
-    round(sum.difference);
-    for (const auto& column : timeColumns) round(sum.*column);
-}
-
 bool isWholePeriod(const clsWorkTime& rules, Period span, Day today) {
     const int startDay = rules.plngCloseDay() == 31 ? 1 : rules.plngCloseDay() + 1;
     return span.to == addMonths(span.from, 1) - std::chrono::days(1) && dayOfMonth(span.from) == startDay &&
@@ -203,25 +186,11 @@ void readSavedMonth(Connection& connection, const CellWriter& cells, const QStri
     card.superiorApproval = month.yes(place + 1);
 }
 
-// Columns 6 to 20 by their switches; the last three are for the program.
+// Columns 6 to 20 by their switches, the sixth as it is used; the last three are for the program.
 std::array<bool, cardColumns> hiddenColumns(const clsWorkTime& rules) {
-    const std::array shown{rules.pbleFlexTime ? rules.pbleEnableDiff : rules.pbleEnableLegalOver,
-                           rules.pbleEnableOver,
-                           rules.pbleEnableLate,
-                           rules.pbleEnableEarly,
-                           rules.pbleEnableHoliday,
-                           rules.pbleEnableHolidayLate,
-                           rules.pbleEnableLegalHoliday,
-                           rules.pbleEnableLegalLate,
-                           rules.pbleEnableAbsent,
-                           rules.pbleEnablePaid,
-                           rules.pbleEnableSpecial,
-                           rules.pbleEnableCompens,
-                           rules.pbleEnableAbsentDay,
-                           rules.pbleEnableLateEnter,
-                           rules.pbleEnableEarlyLeave};
     std::array<bool, cardColumns> hidden{};
-    for (std::size_t i = 0; i < shown.size(); ++i) hidden[6 + i] = !shown[i];
+    for (std::size_t i = 0; i < sumSwitches.size(); ++i) hidden[6 + i] = !(rules.*sumSwitches[i]);
+    if (rules.pbleFlexTime) hidden[6] = !rules.pbleEnableDiff;
     for (const CardColumn column : {CardColumn::FullEnter, CardColumn::FullLeave, CardColumn::Id})
         hidden[static_cast<std::size_t>(column)] = true;
     return hidden;

@@ -42,6 +42,14 @@ enum class CardColumn {
 };
 inline constexpr int cardColumns = 25;
 
+// The switches that show columns 6 to 20, in their order.
+inline constexpr std::array sumSwitches{
+    &clsWorkTime::pbleEnableLegalOver,    &clsWorkTime::pbleEnableOver,      &clsWorkTime::pbleEnableLate,
+    &clsWorkTime::pbleEnableEarly,        &clsWorkTime::pbleEnableHoliday,   &clsWorkTime::pbleEnableHolidayLate,
+    &clsWorkTime::pbleEnableLegalHoliday, &clsWorkTime::pbleEnableLegalLate, &clsWorkTime::pbleEnableAbsent,
+    &clsWorkTime::pbleEnablePaid,         &clsWorkTime::pbleEnableSpecial,   &clsWorkTime::pbleEnableCompens,
+    &clsWorkTime::pbleEnableAbsentDay,    &clsWorkTime::pbleEnableLateEnter, &clsWorkTime::pbleEnableEarlyLeave};
+
 // A card as texts, ready for a grid, a file or the command line: every row has 25 cells.
 struct Card {
     QStringList headings;

@@ -17,12 +17,6 @@ Period oneMonthFrom(Day from) {
     return {from, addMonths(from, 1) - std::chrono::days(1)};
 }
 
-QList<CodeName> readNames(Connection& connection, const QString& statement, const Values& values = {}) {
-    QList<CodeName> names;
-    for (Rows rows = connection.rows(statement, values); rows.next();) names.append({rows.text(0), rows.text(1)});
-    return names;
-}
-
 } // namespace
 
 CardScreen::CardScreen(Client& client)
@@ -45,18 +39,14 @@ bool CardScreen::load() {
 
 bool CardScreen::readLists() {
     return guarded(client_.context, u"frmKurbo", u"Form_Load", false, [this] {
-        sections_ = readNames(connection(), QStringLiteral("SELECT F_SectionCode, F_SectionName FROM C02_Section "
-                                                           "WHERE (F_Display = True) ORDER BY F_Order;"));
+        sections_ = displayedSections(connection());
         readPeople();
         return true;
     });
 }
 
 void CardScreen::readPeople() {
-    people_ = readNames(connection(),
-                        QStringLiteral("SELECT F_StaffCode, F_StaffName FROM C03_Staff "
-                                       "WHERE (F_Section = ?) AND (F_Display = True) ORDER BY F_Order;"),
-                        {section_});
+    people_ = displayedStaff(connection(), section_);
     listSection_ = section_;
 }
 

@@ -1,5 +1,7 @@
 #include "card/day_loop.h"
 
+#include "engine/hours.h"
+
 #include <array>
 
 namespace kurbo {
@@ -283,6 +285,16 @@ CardFigures calculateDays(clsWorkTime& rules, std::span<const DayFacts> days, QC
         card.sum += card.days.back();
     }
     return card;
+}
+
+void roundSums(const clsWorkTime& rules, Figures& sum) {
+    if (rules.plngRoundMethod != 1) return;
+    const auto round = [&rules](Minutes& minutes) {
+        minutes = RoundMinutes(minutes, rules.plngRoundHour, rules.plngRoundUnit());
+    };
+    round(sum.work);
+    round(sum.difference);
+    for (const auto& column : timeColumns) round(sum.*column);
 }
 
 } // namespace kurbo

@@ -5,6 +5,7 @@
 #include <QChar>
 #include <QString>
 
+#include <array>
 #include <optional>
 #include <span>
 #include <vector>
@@ -54,6 +55,14 @@ struct Figures {
     friend bool operator==(const Figures&, const Figures&) = default;
 };
 
+// The sums of columns 6 to 14, 15 to 17 and 18 to 20, in their order; column 6 is the difference on a flexible
+// company's card.
+inline constexpr std::array timeColumns{&Figures::legalOver,    &Figures::over,      &Figures::late,
+                                        &Figures::early,        &Figures::holiday,   &Figures::holidayLate,
+                                        &Figures::legalHoliday, &Figures::legalLate, &Figures::absent};
+inline constexpr std::array leaveColumns{&Figures::paidHalves, &Figures::specialHalves, &Figures::compensHalves};
+inline constexpr std::array countColumns{&Figures::absentDays, &Figures::lateEnters, &Figures::earlyLeaves};
+
 struct CardFigures {
     std::vector<Figures> days;
     Figures sum;
@@ -69,5 +78,8 @@ struct CardFigures {
 // absence. Throws the fault of a setter, as for a leave before its enter.
 [[nodiscard]] CardFigures calculateDays(clsWorkTime& rules, std::span<const DayFacts> days, QChar next,
                                         std::optional<Moment> carry, Day today);
+
+// Rounds a month's times where the company rounds by the month (plngRoundMethod 1).
+void roundSums(const clsWorkTime& rules, Figures& sum);
 
 } // namespace kurbo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "card/card_cells.h"
+#include "store/connection.h"
 
 #include <array>
 
@@ -39,5 +40,13 @@ inline constexpr std::array monthFields{
     MonthField{CardColumn::LateEnter, u"F_LateEnter", MonthKind::Count},
     MonthField{CardColumn::EarlyLeave, u"F_EarlyLeave", MonthKind::Count},
 };
+
+// What is stored of a cell's text; Null for an empty one. `unit` 0 is decimal hours, any other h:mm. Throws the fault
+// of a text that is no such figure, or too large for its field.
+[[nodiscard]] Value figureOf(const MonthField& field, const QString& cell, int unit);
+
+// The person's balance of paid leave follows a month's record, "yyyymm", unless a later one has been saved. Throws a
+// Fault.
+void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal);
 
 } // namespace kurbo

@@ -1,9 +1,7 @@
 #include "card/monthly.h"
 
-#include "base/numbers.h"
 #include "card/card_grid.h"
 #include "card/month_fields.h"
-#include "store/engine_fault.h"
 #include "store/record_set.h"
 
 namespace kurbo {
@@ -50,16 +48,6 @@ QStringList adjustedSums(const GridModel& grid, const clsWorkTime& rules, const 
     return sums;
 }
 
-// The stored value of a cell of the final sums.
-Value figureOf(const MonthField& field, const QString& cell, int unit) {
-    if (cell.isEmpty()) return {};
-    if (field.kind == MonthKind::Time) return ParseHours(cell, unit);
-    const auto number = numberOf(cell);
-    if (!number) throw storeFault(StoreError::BadValue);
-    if (field.kind == MonthKind::Count) return wholeOf<std::int16_t>(*number);
-    return static_cast<double>(singleOf(*number));
-}
-
 void addMonth(RecordSet& months, const MonthOwner& owner, const QString& month) {
     months.addNew();
     months.set(QStringLiteral("F_Staff"), owner.staff);
@@ -80,14 +68,6 @@ void setFigures(RecordSet& months, const CardSheet& sheet, const clsWorkTime& ru
         months.set(field.field(), kept ? figureOf(field, cell, rules.plngCountUnit) : Value());
     }
     months.set(QStringLiteral("F_Term"), slashDate(period.from) + u'-' + slashDate(period.to));
-}
-
-void setBalance(Connection& connection, const QString& staff, const Value& paidTotal) {
-    RecordSet person(connection, QStringLiteral("SELECT F_PaidTotal From M02_StaffInfo WHERE (F_StaffCode = ?);"),
-                     {staff});
-    if (!person.atRow()) return;
-    person.set(QStringLiteral("F_PaidTotal"), paidTotal);
-    person.updateBatch();
 }
 
 bool updateMark(Connection& connection, const QString& mark, const QString& staff, Day end, bool approved) {
@@ -136,7 +116,7 @@ bool UpdateMonthly(const Context& context, Connection& connection, const CardShe
         setFigures(months, sheet, rules, owner.period);
         const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
         months.updateBatch();
-        if (!months.filter(QStringLiteral("F_YearMonth > ?"), {month})) setBalance(connection, owner.staff, paidTotal);
+        followBalance(connection, owner.staff, month, paidTotal);
         transaction.commit();
         return true;
     });

@@ -10,6 +10,9 @@ namespace kurbo {
 [[nodiscard]] Exit runNew(const QStringList& arguments);
 [[nodiscard]] Exit runDemo(const QStringList& arguments);
 [[nodiscard]] Exit runCard(const QStringList& arguments);
+[[nodiscard]] Exit runTotals(const QStringList& arguments);
+[[nodiscard]] Exit runExport(const QStringList& arguments);
+[[nodiscard]] Exit runImport(const QStringList& arguments);
 [[nodiscard]] Exit runSql(const QStringList& arguments);
 [[nodiscard]] Exit runPunch(const QStringList& arguments);
 [[nodiscard]] Exit runCheck(const QStringList& arguments);

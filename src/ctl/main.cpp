@@ -25,6 +25,11 @@ constexpr std::array commands{
             u"demo FILE [--people N] [--sections N] [--months N] [--seed N] [--until yyyy/mm/dd] [--flexible]"},
     Command{u"card", runCard,
             u"card FILE --staff CODE (--month yyyy/mm | --from yyyy/mm/dd --to yyyy/mm/dd) [--format ...]"},
+    Command{u"totals", runTotals,
+            u"totals FILE (--section CODE | --staff CODE) --from yyyy/mm --to yyyy/mm [--by staff|month] "
+            u"[--format ...]"},
+    Command{u"export", runExport, u"export FILE --section CODE [--staff CODE] --from yyyy/mm --to yyyy/mm --out X.csv"},
+    Command{u"import", runImport, u"import FILE X.csv... [--overwrite]"},
     Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
     Command{u"punch", runPunch,
             u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "

@@ -21,10 +21,14 @@ void Options::addSwitch(const QString& name, const QString& description) {
 }
 
 void Options::read(const QStringList& arguments, qsizetype places) {
+    readMany(arguments, places);
+    if (!placesFrom(places).isEmpty())
+        throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
+}
+
+void Options::readMany(const QStringList& arguments, qsizetype places) {
     if (!parser_.parse(QStringList(QStringLiteral("kurboctl")) + arguments)) throw WrongUse{parser_.errorText()};
-    const qsizetype given = parser_.positionalArguments().size();
-    if (given < places) throw WrongUse{QStringLiteral("an argument is missing")};
-    if (given > places) throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
+    if (parser_.positionalArguments().size() < places) throw WrongUse{QStringLiteral("an argument is missing")};
     (void)clock();
     (void)formatNamed(value(QStringLiteral("format")));
 }
@@ -48,6 +52,12 @@ std::optional<Day> Options::day(const QString& name) const {
     const auto day = parseSlashDate(value(name));
     if (!day) throw WrongUse{QStringLiteral("--%1 takes a date, yyyy/mm/dd").arg(name)};
     return day;
+}
+
+std::chrono::year_month Options::month(const QString& name) const {
+    const auto first = parseSlashDate(needed(name) + QStringLiteral("/01"));
+    if (!first) throw WrongUse{QStringLiteral("--%1 takes a month, yyyy/mm").arg(name)};
+    return civil(*first).year() / civil(*first).month();
 }
 
 std::unique_ptr<Clock> Options::clock() const {

@@ -24,8 +24,11 @@ class Options final {
     void addSwitch(const QString& name, const QString& description);
     // Reads the arguments, of which `places` are no options. Throws WrongUse.
     void read(const QStringList& arguments, qsizetype places);
+    // The same for `places` and any number more.
+    void readMany(const QStringList& arguments, qsizetype places);
 
     [[nodiscard]] QString place(qsizetype index) const { return parser_.positionalArguments().at(index); }
+    [[nodiscard]] QStringList placesFrom(qsizetype index) const { return parser_.positionalArguments().mid(index); }
     [[nodiscard]] bool has(const QString& name) const { return parser_.isSet(name); }
     [[nodiscard]] QString value(const QString& name) const { return parser_.value(name); }
     // The value of an option that has to be there. Throws WrongUse.
@@ -34,6 +37,9 @@ class Options final {
     [[nodiscard]] int number(const QString& name, int otherwise, int least, int most) const;
     // "yyyy/mm/dd"; nothing without the option. Throws WrongUse.
     [[nodiscard]] std::optional<Day> day(const QString& name) const;
+
+    // "yyyy/mm" of an option that has to be there. Throws WrongUse.
+    [[nodiscard]] std::chrono::year_month month(const QString& name) const;
 
     // The system's time, or what --today and --at make of it. Throws WrongUse.
     [[nodiscard]] std::unique_ptr<Clock> clock() const;

@@ -240,30 +240,43 @@ bool GetWorkStyle(const Context& context, Connection& connection, clsWorkTime& r
     });
 }
 
+void readStaffInfo(Connection& connection, clsWorkTime& rules, const QString& staff) {
+    enum Field { EnterDelay, LeaveGain, CloseDay, PaidTotal };
+    const auto require = [](bool set) {
+        if (!set)
+            complain(QStringLiteral("社員設定に不備があります。"),
+                     QStringLiteral("管理者に社員設定の確認を依頼して下さい。"));
+    };
+    Rows row = connection.rows(QStringLiteral("SELECT F_EnterDelay, F_LeaveGain, F_CloseDay, F_PaidTotal "
+                                              "FROM M02_StaffInfo WHERE (F_StaffCode = ?);"),
+                               {staff});
+    require(row.next());
+    rules.plngEnterDelay = static_cast<int>(row.integer(EnterDelay));
+    rules.plngLeaveGain = static_cast<int>(row.integer(LeaveGain));
+    require(!row.isNull(CloseDay));
+    rules.plngCloseDay(static_cast<int>(row.integer(CloseDay)));
+    require(!row.isNull(PaidTotal));
+    rules.psngPaidTotal = static_cast<float>(row.real(PaidTotal));
+}
+
+void readWorkTime(Connection& connection, clsWorkTime& rules, const QString& staff) {
+    const Reading reading(connection);
+    loadDay(connection, dayTables[0], rules, staff, rules.pbleFlexTime);
+    loadDay(connection, dayTables[1], rules, staff, false);
+    if (rules.plngAmHolidayWork != 0) loadDay(connection, dayTables[2], rules, staff, rules.pbleAmFlexTime);
+    if (rules.plngPmHolidayWork != 0) loadDay(connection, dayTables[3], rules, staff, rules.pblePmFlexTime);
+}
+
 bool GetStaffInfo(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff) {
     return guarded(context, module, u"GetStaffInfo", false, [&] {
-        const RecordSet set(connection,
-                            QStringLiteral("SELECT F_EnterDelay, F_LeaveGain, F_CloseDay, F_PaidTotal "
-                                           "FROM M02_StaffInfo WHERE (F_StaffCode = ?);"),
-                            {staff});
-        const Row row(set, QStringLiteral("社員設定に不備があります。"),
-                      QStringLiteral("管理者に社員設定の確認を依頼して下さい。"));
-        if (set.isEmpty()) row.fail();
-        rules.plngEnterDelay = static_cast<int>(row.value(QStringLiteral("F_EnterDelay")).integer());
-        rules.plngLeaveGain = static_cast<int>(row.value(QStringLiteral("F_LeaveGain")).integer());
-        rules.plngCloseDay(row.number(QStringLiteral("F_CloseDay")));
-        rules.psngPaidTotal = static_cast<float>(row.needed(QStringLiteral("F_PaidTotal")).real());
+        readStaffInfo(connection, rules, staff);
         return true;
     });
 }
 
 bool GetWorkTime(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff) {
     return guarded(context, module, u"GetWorkTime", false, [&] {
-        const Reading reading(connection);
-        loadDay(connection, dayTables[0], rules, staff, rules.pbleFlexTime);
-        loadDay(connection, dayTables[1], rules, staff, false);
-        if (rules.plngAmHolidayWork != 0) loadDay(connection, dayTables[2], rules, staff, rules.pbleAmFlexTime);
-        if (rules.plngPmHolidayWork != 0) loadDay(connection, dayTables[3], rules, staff, rules.pblePmFlexTime);
+        readWorkTime(connection, rules, staff);
         return true;
     });
 }

@@ -4,11 +4,48 @@
 #include "screen/show_now.h"
 #include "ui_frmWaiting.h"
 
+#include <QApplication>
+#include <QWindow>
+
 namespace kurbo {
 namespace {
 
 // Without a known end the bar fills anew every two seconds.
 constexpr int endlessRound = 20;
+// Painting, and looking for a click, cost more than most steps: ten times a second is enough.
+constexpr int betweenPictures = 90;
+
+bool isInput(QEvent::Type type) {
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// While it lives, input reaches one window only.
+class InputOf final : public QObject {
+  public:
+    explicit InputOf(const QWidget& window) : window_(window) { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        const auto* const widget = qobject_cast<QWidget*>(receiver);
+        const bool own = widget ? widget->window() == &window_ : receiver == window_.windowHandle();
+        return isInput(event->type()) && !own;
+    }
+
+  private:
+    const QWidget& window_;
+};
 
 } // namespace
 
@@ -28,14 +65,14 @@ void frmWaiting::begin(const QString& text, int maximum) {
     ui_->pgbWaiting->setRange(0, endless_ ? endlessRound : maximum);
     ui_->pgbWaiting->setValue(0);
     placeInMiddle(this);
+    closed_ = false;
     show();
     paintNow(this);
     sincePaint_.start();
+    sinceLook_.start();
 }
 
-// Painting costs more than most steps: ten pictures a second are enough.
 void frmWaiting::step(int value) {
-    constexpr int betweenPictures = 90;
     if (!endless_) ui_->pgbWaiting->setValue(value);
     if (!isVisible() || sincePaint_.elapsed() < betweenPictures) return;
     if (endless_) ui_->pgbWaiting->setValue((ui_->pgbWaiting->value() + 1) % (endlessRound + 1));
@@ -47,7 +84,17 @@ void frmWaiting::end() {
     hide();
 }
 
+bool frmWaiting::stopped() {
+    if (isVisible() && sinceLook_.elapsed() >= betweenPictures) {
+        const InputOf own(*this);
+        QCoreApplication::processEvents();
+        sinceLook_.start();
+    }
+    return closed_;
+}
+
 void frmWaiting::mousePressEvent(QMouseEvent* /*event*/) {
+    closed_ = true;
     hide();
 }
 

@@ -13,7 +13,7 @@ namespace Ui {
 class frmWaiting;
 }
 
-// What a long step shows; a click takes it away, and the step goes on.
+// What a long step shows; a click takes it away. A step that doesn't ask whether it was stopped goes on.
 class frmWaiting final : public QWidget, public Progress {
     Q_OBJECT
 
@@ -26,6 +26,8 @@ class frmWaiting final : public QWidget, public Progress {
     void begin(const QString& text, int maximum) override;
     void step(int value) override;
     void end() override;
+    // Looks for the click now and then; what people do meanwhile in other windows is dropped.
+    [[nodiscard]] bool stopped() override;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -33,7 +35,9 @@ class frmWaiting final : public QWidget, public Progress {
   private:
     const std::unique_ptr<Ui::frmWaiting> ui_;
     QElapsedTimer sincePaint_;
+    QElapsedTimer sinceLook_;
     bool endless_ = false;
+    bool closed_ = false;
 };
 
 } // namespace kurbo

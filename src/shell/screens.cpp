@@ -1,6 +1,7 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "totals/frmTotal.h"
 
 #include <algorithm>
 #include <array>
@@ -20,7 +21,7 @@ struct Screen {
     QMainWindow* (*make)(Client& client);
 };
 
-constexpr std::array screens{Screen{u"frmKurbo", &made<frmKurbo>}};
+constexpr std::array screens{Screen{u"frmKurbo", &made<frmKurbo>}, Screen{u"frmTotal", &made<frmTotal>}};
 
 } // namespace
 

@@ -151,4 +151,15 @@ QList<CodeName> loginStaff(Connection& connection, const QString& section) {
         {section}));
 }
 
+QList<CodeName> displayedSections(Connection& connection) {
+    return codeNames(connection.rows(QStringLiteral("SELECT F_SectionCode, F_SectionName FROM C02_Section "
+                                                    "WHERE (F_Display = True) ORDER BY F_Order;")));
+}
+
+QList<CodeName> displayedStaff(Connection& connection, const QString& section) {
+    return codeNames(connection.rows(QStringLiteral("SELECT F_StaffCode, F_StaffName FROM C03_Staff "
+                                                    "WHERE (F_Section = ?) AND (F_Display = True) ORDER BY F_Order;"),
+                                     {section}));
+}
+
 } // namespace kurbo

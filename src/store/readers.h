@@ -56,4 +56,8 @@ struct CodeName {
 [[nodiscard]] QList<CodeName> loginSections(Connection& connection);
 [[nodiscard]] QList<CodeName> loginStaff(Connection& connection, const QString& section);
 
+// Lists of the card and totals screens: all sections that are displayed, and the displayed people of one. These throw.
+[[nodiscard]] QList<CodeName> displayedSections(Connection& connection);
+[[nodiscard]] QList<CodeName> displayedStaff(Connection& connection, const QString& section);
+
 } // namespace kurbo

@@ -125,6 +125,56 @@ TEST_F(Kurboctl, CardsComeInEveryForm) {
     EXPECT_EQ(kurboctl({u"card"_q, path, u"--staff"_q, u"9999"_q, u"--month"_q, u"2026/03"_q}).exit, 1);
 }
 
+TEST_F(Kurboctl, TotalsComeInEveryForm) {
+    const auto totals = [this](const QStringList& more) {
+        return kurboctl(QStringList({u"totals"_q, path, u"--today"_q, u"2026/04/15"_q}) + more);
+    };
+    const QStringList spring{u"--from"_q, u"2026/03"_q, u"--to"_q, u"2026/04"_q};
+    const QStringList section = spring + QStringList{u"--section"_q, u"S01"_q, u"--by"_q, u"month"_q};
+    const QString json = totals(section + QStringList{u"--format"_q, u"json"_q}).out;
+    EXPECT_TRUE(json.startsWith(u"{\"headings\":[\"\",\"年月\",\"氏名\",\"出勤日数\","_q)) << json;
+    EXPECT_TRUE(json.contains(u"],[\"\",\"2026年 03月 小計\",\"\",\"0\",\"0:00\",\"60.0\","_q)) << json;
+    const QStringList tsv = totals(section + QStringList{u"--format"_q, u"tsv"_q}).out.split(u'\n');
+    EXPECT_EQ(tsv.size(), 1 + 2 * (3 + 1) + 1 + 1);
+    EXPECT_EQ(tsv[9].count(u'\t'), 26);
+    EXPECT_TRUE(tsv[9].startsWith(u"\t合計\t"_q));
+    const Outcome one = totals(spring + QStringList{u"--staff"_q, u"1001"_q, u"--by"_q, u"month"_q});
+    EXPECT_TRUE(one.out.contains(u"山田太郎 小計"_q)) << "a person's months are by staff";
+    EXPECT_EQ(totals(spring + QStringList{u"--section"_q, u"S09"_q}).exit, 0);
+    EXPECT_EQ(totals(spring).exit, 2);
+    EXPECT_EQ(totals(section + QStringList{u"--staff"_q, u"1001"_q}).exit, 2);
+    EXPECT_EQ(totals({u"--section"_q, u"S01"_q, u"--from"_q, u"2026/13"_q, u"--to"_q, u"2026/14"_q}).exit, 2);
+    EXPECT_EQ(totals({u"--section"_q, u"S01"_q, u"--from"_q, u"2026/04"_q, u"--to"_q, u"2026/03"_q}).exit, 2);
+    sql(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode = '1001');"_q);
+    EXPECT_EQ(totals(section).exit, 1);
+}
+
+TEST_F(Kurboctl, MonthsTravelAsFiles) {
+    sql(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_PaidTotal) "
+        "VALUES ('1001', 'S01', '2026', '03', 12.5);"_q);
+    const QString csv = desk.file(u"月次.csv"_q);
+    const auto exported = [&](const QString& to, const QString& out) {
+        return kurboctl({u"export"_q, path, u"--section"_q, u"S01"_q, u"--from"_q, u"2026/01"_q, u"--to"_q, to,
+                         u"--out"_q, out, u"--app-folder"_q, desk.folder.path()});
+    };
+    EXPECT_EQ(exported(u"2026/12"_q, csv).out, u"1件の月次集計データを保存しました。\n"_q);
+    EXPECT_EQ(exported(u"2026/02"_q, desk.file(u"none.csv"_q)).err, u"更新済の月次集計データがありません。\n"_q);
+    EXPECT_EQ(exported(u"2025/12"_q, csv).exit, 2);
+    EXPECT_EQ(exported(u"2026/12"_q, path).exit, 2) << "the database itself";
+    EXPECT_EQ(exported(u"2026/12"_q, desk.file(u"no/x.csv"_q)).exit, 3);
+    sql(u"UPDATE T05_Approved SET F_PaidTotal = 1;"_q);
+    EXPECT_EQ(kurboctl({u"import"_q, path, csv, csv}).out, u"登録：0件、スキップ：2件\n"_q);
+    EXPECT_EQ(kurboctl({u"import"_q, path, csv, u"--overwrite"_q}).out, u"登録：1件、スキップ：0件\n"_q);
+    EXPECT_EQ(sql(u"SELECT T05_Approved.F_PaidTotal, M02_StaffInfo.F_PaidTotal AS B FROM T05_Approved INNER JOIN "
+                  "M02_StaffInfo ON T05_Approved.F_Staff = M02_StaffInfo.F_StaffCode"_q),
+              u"F_PaidTotal\tB\n12.5\t12.5\n"_q);
+    replaceFile(desk.file(u"bad.csv"_q), "x");
+    const Outcome refused = kurboctl({u"import"_q, path, csv, desk.file(u"bad.csv"_q), u"--overwrite"_q});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_TRUE(refused.err.startsWith(u"データ形式に誤りがあります。\n"_q)) << refused.err;
+    EXPECT_EQ(kurboctl({u"import"_q, path}).exit, 2);
+}
+
 TEST_F(Kurboctl, PunchTellsHowItWent) {
     EXPECT_EQ(punched(pw + QStringList{u"enter"_q}).exit, 0);
     const Outcome again = punched(pw + QStringList{u"enter"_q});

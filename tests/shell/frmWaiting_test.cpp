@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTest>
 
 namespace kurbo {
@@ -27,6 +29,29 @@ TEST(FrmWaiting, MovesWithoutAKnownEndAndGoesAwayByAClick) {
     QTest::mouseClick(&window, Qt::LeftButton);
     window.step(3);
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST(FrmWaiting, AStepThatAsksIsStoppedByAClickOnTheBoxAlone) {
+    frmWaiting window;
+    QPushButton other;
+    other.show();
+    int pressed = 0;
+    QObject::connect(&other, &QPushButton::pressed, &other, [&] { ++pressed; });
+    const auto clickIsSeen = [&](QWidget* widget) {
+        QTest::qSleep(120);
+        const QPointF place(widget->rect().center());
+        QCoreApplication::postEvent(widget, new QMouseEvent(QEvent::MouseButtonPress, place, widget->mapToGlobal(place),
+                                                            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+        return window.stopped();
+    };
+    window.begin(QString(), 3);
+    EXPECT_FALSE(window.stopped());
+    EXPECT_FALSE(clickIsSeen(&other));
+    EXPECT_EQ(pressed, 0);
+    EXPECT_TRUE(clickIsSeen(&window));
+    EXPECT_FALSE(window.isVisible());
+    window.begin(QString(), 3);
+    EXPECT_FALSE(window.stopped());
 }
 
 TEST_F(Office, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {

@@ -1,0 +1,192 @@
+#include "totals/frmTotal.h"
+
+#include "base/product.h"
+#include "screen/coming_screens.h"
+#include "screen/fields.h"
+#include "screen/frmAbout.h"
+#include "screen/help.h"
+#include "screen/hourglass.h"
+#include "screen/leave_check.h"
+#include "screen/show_now.h"
+#include "screen/vfg_copy.h"
+#include "totals/csv_file.h"
+#include "totals/frmCsv.h"
+#include "ui_frmTotal.h"
+
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+#include <QShortcut>
+
+namespace kurbo {
+
+frmTotal::frmTotal(Client& client, QWidget* parent)
+    : QMainWindow(parent), ui_(std::make_unique<Ui::frmTotal>()), client_(client), screen_(client) {
+    ui_->setupUi(this);
+    ui_->menus->setNativeMenuBar(false);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(productName() + QStringLiteral("－月次集計"));
+    dressFields();
+    connectSelection();
+    connectCommands();
+    screen_.sheet.onEdit = [this] { showCommands(); };
+    fillScreen(this, {1360, 900});
+}
+
+// The controls go before what they show.
+frmTotal::~frmTotal() {
+    ui_->vfgKurbo->cancelEdit();
+    hide();
+}
+
+void frmTotal::dressFields() {
+    const QString refusal = QStringLiteral("不正な入力です。年月を西暦年でyyyy/mm形式で入力して下さい。");
+    for (const auto& [box, spin] : {std::pair{ui_->mskStart, ui_->udcStart}, {ui_->mskEnd, ui_->udcEnd}}) {
+        box->setRefusal(refusal, client_.context.prompts);
+        spin->setBuddy(box);
+        const auto move = [field = box](int by) {
+            if (const auto first = field->day()) field->setDay(addMonths(*first, by));
+        };
+        connect(spin, &UpDown::UpClick, this, [move] { move(1); });
+        connect(spin, &UpDown::DownClick, this, [move] { move(-1); });
+    }
+    ui_->udcYear->setBuddy(ui_->txtYear);
+    for (QWidget* const combo : {ui_->dcbSection, ui_->dcbStaff}) SetImeOpen(combo, true);
+    new LeaveCheck(
+        ui_->dcbStaff, [this] { return ui_->dcbStaff->currentText().isEmpty() || ui_->dcbStaff->isInList(); },
+        [this] { client_.context.prompts.exclaim(QStringLiteral("リストから選択して下さい｡ ")); });
+    ui_->vfgKurbo->setGrid(screen_.sheet.grid, client_.context);
+    wireGridMenu(*ui_->vfgKurbo, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
+}
+
+void frmTotal::connectSelection() {
+    connect(ui_->dcbSection, &QComboBox::activated, this, &frmTotal::sectionChosen);
+    connect(ui_->dcbSection->lineEdit(), &QLineEdit::editingFinished, this, &frmTotal::sectionChosen);
+    connect(ui_->dcbStaff, &QComboBox::activated, this, &frmTotal::staffChosen);
+    connect(ui_->dcbStaff->lineEdit(), &QLineEdit::editingFinished, this, &frmTotal::staffChosen);
+    for (int month = 1; month <= months; ++month)
+        connect(findChild<QRadioButton*>(QStringLiteral("optMonth_%1").arg(month)), &QRadioButton::clicked, this,
+                [this, month] { run([this, month] { screen_.chooseMonth(month); }); });
+    for (const auto& [option, byStaff] : {std::pair{ui_->optMethod_0, true}, {ui_->optMethod_1, false}})
+        connect(option, &QRadioButton::clicked, this,
+                [this, order = byStaff] { run([this, order] { screen_.chooseOrder(order); }); });
+    connect(ui_->udcYear, &UpDown::UpClick, this, [this] { run([this] { screen_.moveYears(1); }); });
+    connect(ui_->udcYear, &UpDown::DownClick, this, [this] { run([this] { screen_.moveYears(-1); }); });
+}
+
+void frmTotal::connectCommands() {
+    const auto dates = [this](bool (TotalScreen::*command)(const QString&, const QString&)) {
+        return [this, command] { (screen_.*command)(ui_->mskStart->maskText(), ui_->mskEnd->maskText()); };
+    };
+    onCommand(ui_->cmdDisplay, ui_->mnuDisplay, dates(&TotalScreen::display));
+    onCommand(ui_->cmdUpdate, ui_->mnuUpdate, [this] { screen_.update(); });
+    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { showComingScreen(client_.context, QStringLiteral("印刷")); });
+    onCommand(nullptr, ui_->mnuDelete, dates(&TotalScreen::deleteMonths));
+    onCommand(nullptr, ui_->mnuSaveKrb, dates(&TotalScreen::saveKrb));
+    onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
+    onCommand(nullptr, ui_->mnuSaveCsv, [this] { screen_.saveCsv(); });
+    onCommand(nullptr, ui_->mnuLoadCsv, [this] { loadCsv(); });
+    connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    connect(ui_->mnuTopic, &QAction::triggered, this,
+            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
+    connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
+}
+
+void frmTotal::onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command) {
+    const auto body = [this, command] { run(command); };
+    if (button) connect(button, &QAbstractButton::clicked, this, body);
+    connect(action, &QAction::triggered, this, body);
+}
+
+void frmTotal::run(const std::function<void()>& command) {
+    if (blnShowing_) return;
+    if (ui_->vfgKurbo->finishEdit()) {
+        const QScopedValueRollback showing(blnShowing_, true);
+        const Hourglass hourglass;
+        if (hasConnection()) command();
+    }
+    showState();
+}
+
+bool frmTotal::hasConnection() {
+    return guarded(client_.context, u"frmTotal", u"ReConnect", false, [this] {
+        client_.reopenCurrent();
+        return true;
+    });
+}
+
+void frmTotal::load() {
+    run([this] { loaded_ = screen_.load(); });
+    ui_->vfgKurbo->setFocus();
+}
+
+// Records that have come in stand in the grid at once.
+void frmTotal::loadCsv() {
+    if (!screen_.mayDiscard()) return;
+    const QStringList files = client_.context.prompts.openFiles(QStringLiteral("CSVﾌｧｲﾙ(*.csv)|*.csv"));
+    if (files.isEmpty() || !mayLoadCsv(client_.context, files.size())) return;
+    if (frmCsv(client_, screen_.countUnit(), this).run(files))
+        screen_.display(ui_->mskStart->maskText(), ui_->mskEnd->maskText());
+}
+
+void frmTotal::sectionChosen() {
+    if (blnShowing_) return;
+    const QString code = ui_->dcbSection->isInList() ? ui_->dcbSection->boundText() : QString();
+    if (code.isEmpty() || code == screen_.section()) return showNames();
+    run([this, &code] { screen_.chooseSection(code); });
+}
+
+void frmTotal::staffChosen() {
+    const QString code = ui_->dcbStaff->boundText();
+    const bool known = code.isEmpty() || ui_->dcbStaff->isInList();
+    if (blnShowing_ || !known) return;
+    if (code == screen_.staff()) return showNames();
+    run([this, &code] { screen_.chooseStaff(code); });
+}
+
+void frmTotal::showState() {
+    const QScopedValueRollback showing(blnShowing_, true);
+    showNames();
+    showSpan();
+    showCommands();
+}
+
+void frmTotal::showNames() {
+    const QScopedValueRollback showing(blnShowing_, true);
+    ui_->dcbSection->setEntries(screen_.sections());
+    ui_->dcbSection->setBoundText(screen_.section());
+    ui_->dcbStaff->setEntries(screen_.people());
+    ui_->dcbStaff->setBoundText(screen_.staff());
+}
+
+void frmTotal::showSpan() {
+    (screen_.byStaff() ? ui_->optMethod_0 : ui_->optMethod_1)->setChecked(true);
+    // Months that were typed and not shown yet stay.
+    if (spanChanges_ == screen_.spanChanges()) return;
+    spanChanges_ = screen_.spanChanges();
+    const MonthSpan span = screen_.span();
+    ui_->txtYear->setText(QString::number(screen_.year()));
+    ui_->mskStart->setDay(Day{span.from / 1});
+    ui_->mskEnd->setDay(Day{span.to / 1});
+    const auto month = static_cast<unsigned>(span.to.month());
+    findChild<QRadioButton*>(QStringLiteral("optMonth_%1").arg(month))->setChecked(true);
+}
+
+void frmTotal::showCommands() {
+    const bool changed = screen_.sheet.changed;
+    ui_->cmdUpdate->setEnabled(changed);
+    ui_->mnuUpdate->setEnabled(changed);
+    ui_->mnuDelete->setEnabled(screen_.mayDelete());
+    ui_->mnuCsv->menuAction()->setEnabled(screen_.mayExchange());
+    for (QWidget* const control : {static_cast<QWidget*>(ui_->cmdPrint), static_cast<QWidget*>(ui_->vfgKurbo)})
+        control->setEnabled(loaded_);
+}
+
+void frmTotal::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayDiscard()) return;
+    screen_.leave();
+    event->accept();
+}
+
+} // namespace kurbo

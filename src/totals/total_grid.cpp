@@ -1,0 +1,55 @@
+#include "totals/total_grid.h"
+
+#include "totals/total_lines.h"
+
+namespace kurbo {
+namespace {
+
+constexpr GridColour subTotalPaper{232, 238, 246};
+constexpr GridColour totalPaper{210, 222, 238};
+
+// In twips, in the order of the columns. A name has 20 bytes, and a sub-total's words behind it.
+constexpr std::array widths{300, 2200, 1650, 900, 900, 900, 900, 900, 900, 900,  900, 900, 900, 900,
+                            900, 600,  600,  600, 600, 600, 600, 600, 600, 2500, 900, 900, 900};
+static_assert(widths.size() == totalColumns);
+
+// A column is as wide as its sums ask for: nothing in it is longer, but for headings and names.
+void describeColumns(GridModel& grid, const Totals& totals, const std::vector<TotalLine>& lines) {
+    constexpr int sign = 115;
+    constexpr int edges = 100;
+    for (int column = 0; column < totalColumns; ++column) {
+        const qsizetype length = lines.empty() ? 0 : lines.back().cells[column].size();
+        grid.ColWidth(column,
+                      std::max(widths[static_cast<std::size_t>(column)], static_cast<int>(length) * sign + edges));
+        grid.ColHidden(column, totals.hidden[static_cast<std::size_t>(column)]);
+    }
+    // Shown as words: a box would stand on sub-totals as well.
+    for (const TotalColumn column : {TotalColumn::Personal, TotalColumn::Superior})
+        grid.ColComboList(static_cast<int>(column), QStringLiteral("#0;未|#-1;済"));
+}
+
+} // namespace
+
+void fillTotalGrid(GridModel& grid, const Totals& totals) {
+    const std::vector<TotalLine> lines = totalLines(totals);
+    const Undrawn undrawn(grid);
+    grid.reset({.rows = 1 + static_cast<int>(lines.size()), .columns = totalColumns, .frozenColumns = 2});
+    grid.FormatString(totalHeadings(totals.byStaff));
+    describeColumns(grid, totals, lines);
+    int row = 0;
+    for (const TotalLine& line : lines) {
+        grid.fillRow(++row, line.cells);
+        if (!line.row) grid.RowBackColor(row, subTotalPaper);
+    }
+    if (row > 0) grid.RowBackColor(row, totalPaper);
+}
+
+bool ShowTotal(const Context& context, Connection& connection, TotalsQuestion& question, GridModel& grid) {
+    const auto totals = calculateTotals(context, connection, question);
+    if (!totals) return false;
+    question.byStaff = totals->byStaff;
+    fillTotalGrid(grid, *totals);
+    return true;
+}
+
+} // namespace kurbo

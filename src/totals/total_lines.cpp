@@ -1,0 +1,143 @@
+#include "totals/total_lines.h"
+
+#include "card/card_cells.h"
+#include "engine/hours.h"
+
+#include <map>
+
+namespace kurbo {
+namespace {
+
+constexpr int at(TotalColumn column) {
+    return static_cast<int>(column);
+}
+
+// Added figures; a column of Nulls adds to 0.
+struct Sum {
+    std::array<std::int64_t, totalFigures> figures{};
+    std::optional<std::int64_t> difference;
+
+    void add(const TotalRow& row) {
+        for (std::size_t i = 0; i < totalFigures; ++i) figures[i] += row.figures[i].value_or(0);
+        if (row.difference) difference = difference.value_or(0) + *row.difference;
+    }
+};
+
+// Nearly all leaves are whole or half days, and share their texts.
+QString halfDays(std::int64_t hundredths) {
+    static const auto halves = [] {
+        QStringList texts;
+        for (int i = 0; i < 100; ++i) texts.append(daysText(i * 0.5));
+        return texts;
+    }();
+    const bool known = hundredths >= 0 && hundredths % 50 == 0 && hundredths / 50 < halves.size();
+    return known ? halves[hundredths / 50] : daysText(static_cast<double>(hundredths) / 100);
+}
+
+class LineWriter final {
+  public:
+    explicit LineWriter(const Totals& totals) : totals_(totals) {}
+
+    [[nodiscard]] QString caption(const TotalRow& row) { return totals_.byStaff ? row.name : monthText(row.month); }
+
+    [[nodiscard]] TotalLine month(const TotalRow& row, const QString& caption) {
+        TotalLine line{QStringList(totalColumns), &row};
+        QString* const cells = line.cells.data();
+        cells[at(TotalColumn::First)] = caption;
+        cells[at(TotalColumn::Second)] = totals_.byStaff ? monthText(row.month) : row.name;
+        for (std::size_t i = 0; i < totalFigures; ++i)
+            if (row.figures[i]) cells[firstFigure + i] = figureText(i, *row.figures[i]);
+        if (row.saved) {
+            cells[at(TotalColumn::Personal)] = approval(row.personalApproval);
+            cells[at(TotalColumn::Superior)] = approval(row.superiorApproval);
+        }
+        cells[at(TotalColumn::Term)] = row.term;
+        cells[at(TotalColumn::Order)] = row.key;
+        cells[at(TotalColumn::Staff)] = row.staff;
+        if (row.difference) cells[at(TotalColumn::Difference)] = hours(*row.difference, true);
+        return line;
+    }
+
+    [[nodiscard]] TotalLine sum(const Sum& sum, const QString& caption) const {
+        TotalLine line{QStringList(totalColumns), nullptr};
+        QString* const cells = line.cells.data();
+        cells[at(TotalColumn::First)] = caption;
+        for (std::size_t i = 0; i < totalFigures; ++i) cells[firstFigure + i] = figureText(i, sum.figures[i]);
+        if (sum.difference) cells[at(TotalColumn::Work)] += u'(' + hours(*sum.difference, true) + u')';
+        return line;
+    }
+
+  private:
+    // Written once and shared by all people.
+    QString monthText(std::chrono::year_month month) {
+        QString& text = months_[month];
+        if (text.isEmpty()) text = yearMonthText(month);
+        return text;
+    }
+
+    // As a box holds it.
+    static QString approval(bool given) { return given ? QStringLiteral("-1") : QStringLiteral("0"); }
+
+    [[nodiscard]] QString hours(std::int64_t minutes, bool withSign) const {
+        return FormatHours(static_cast<Minutes>(minutes), totals_.countUnit, withSign);
+    }
+
+    [[nodiscard]] QString figureText(std::size_t figure, std::int64_t value) const {
+        static const QString noHours[]{FormatHours(0, 0, false), FormatHours(0, 1, false)};
+        switch (figureForm(figure)) {
+        case FigureForm::Count:
+            return value == 0 ? QStringLiteral("0") : QString::number(value);
+        case FigureForm::Days:
+            return halfDays(value);
+        case FigureForm::Hours:
+            break;
+        }
+        return value == 0 ? noHours[totals_.countUnit == 0 ? 0 : 1] : hours(value, false);
+    }
+
+    const Totals& totals_;
+    std::map<std::chrono::year_month, QString> months_;
+};
+
+} // namespace
+
+QString totalHeadings(bool byStaff) {
+    const QString first = byStaff ? QStringLiteral("|^氏名|^年月") : QStringLiteral("|^年月|^氏名");
+    return first + QStringLiteral("|^出勤日数|^実働時間|^有給残数|^法内残業|^普通残業|^深夜残業|^早出勤務|^休日出勤|"
+                                  "^休日深夜|^法休出勤|^法休深夜|^欠勤時間|^有給|^特休|^代休|^欠勤|^遅刻|^早退|^本人|"
+                                  "^所長|^集計期間|^順|^社員ｺｰﾄﾞ|^時間差");
+}
+
+std::vector<TotalLine> totalLines(const Totals& totals) {
+    LineWriter writer(totals);
+    std::vector<TotalLine> lines;
+    lines.reserve(totals.rows.size() + totals.rows.size() / 8 + 2);
+    Sum group;
+    Sum all;
+    QString caption;
+    const auto endGroup = [&] {
+        if (!lines.empty()) lines.push_back(writer.sum(group, caption + QStringLiteral(" 小計")));
+        group = {};
+    };
+    for (const TotalRow& row : totals.rows) {
+        const QString own = writer.caption(row);
+        if (lines.empty() || own != caption) {
+            endGroup();
+            caption = own;
+        }
+        lines.push_back(writer.month(row, caption));
+        group.add(row);
+        all.add(row);
+    }
+    endGroup();
+    if (!lines.empty()) lines.push_back(writer.sum(all, QStringLiteral("合計")));
+    return lines;
+}
+
+QString yearMonthText(std::chrono::year_month month) {
+    return QStringLiteral("%1年 %2月")
+        .arg(static_cast<int>(month.year()), 4, 10, QChar(u'0'))
+        .arg(static_cast<unsigned>(month.month()), 2, 10, QChar(u'0'));
+}
+
+} // namespace kurbo

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "totals/totals.h"
+
+#include <QList>
+#include <QStringList>
+
+namespace kurbo {
+
+// A line of the totals: a month (its row), or a sub-total or the total (no row).
+struct TotalLine {
+    QStringList cells; // 27
+    const TotalRow* row = nullptr;
+};
+
+// The headings parted by "|", each behind the sign of its alignment; the first column has none.
+[[nodiscard]] QString totalHeadings(bool byStaff);
+
+// The months in their order, a sub-total wherever the text of column 1 changes, and the total; nothing without months.
+// The rows belong to `totals`.
+[[nodiscard]] std::vector<TotalLine> totalLines(const Totals& totals);
+
+// "2026年 04月"
+[[nodiscard]] QString yearMonthText(std::chrono::year_month month);
+
+} // namespace kurbo

@@ -1,0 +1,53 @@
+#include "totals/total_rules.h"
+
+#include "card/card_entries.h"
+#include "totals/totals.h"
+
+namespace kurbo {
+namespace {
+
+// "(+1:30)170:30" and "170:30(+1:30)"
+QString withoutMark(const QString& text) {
+    if (text.endsWith(u')')) return text.left(text.lastIndexOf(u'('));
+    return text.mid(text.lastIndexOf(u')') + 1);
+}
+
+// A figure stands in the column that it has on the card.
+SumForm formOf(int column, int countUnit) {
+    return sumForm(static_cast<CardColumn>(column), countUnit);
+}
+
+} // namespace
+
+QString TotalSheet::staffOf(int row) const {
+    return row > 0 ? grid.TextMatrix(row, static_cast<int>(TotalColumn::Staff)) : QString();
+}
+
+bool isFigure(int column, int countUnit, const QString& text) {
+    const SumForm form = formOf(column, countUnit);
+    return isSum(form, form == SumForm::Hours ? withoutMark(text) : text);
+}
+
+bool TotalRules::mayEdit(int row, int column) const {
+    const QString staff = sheet_.staffOf(row);
+    const bool figure = column >= firstFigure && column < firstFigure + static_cast<int>(totalFigures);
+    if (sheet_.blnFileMode || staff.isEmpty() || !figure) return false;
+    return session_.access.has(staff == session_.SessionStaff ? Right::WriteMyMonthly : Right::WriteOtherMonthly);
+}
+
+QString TotalRules::refusal(int /*row*/, int column, const QString& text) const {
+    if (isFigure(column, sheet_.plngCountUnit, text)) return {};
+    return QStringLiteral("不正な入力です。") + sumDemand(formOf(column, sheet_.plngCountUnit));
+}
+
+void TotalRules::edited(int /*row*/, int /*column*/) {
+    sheet_.changed = true;
+    if (sheet_.onEdit) sheet_.onEdit();
+}
+
+QString TotalRules::scrollTip(int row) const {
+    return sheet_.grid.TextMatrix(row, static_cast<int>(TotalColumn::First)) + u' ' +
+           sheet_.grid.TextMatrix(row, static_cast<int>(TotalColumn::Second));
+}
+
+} // namespace kurbo

@@ -1,0 +1,140 @@
+#include "totals/total_update.h"
+
+#include "card/card_entries.h"
+#include "card/month_fields.h"
+#include "screen/field_tests.h"
+#include "store/record_set.h"
+#include "totals/totals.h"
+
+namespace kurbo {
+namespace {
+
+std::optional<std::chrono::year_month> monthIn(const QString& text) {
+    const auto first = text.size() == 7 ? parseSlashDate(text + QStringLiteral("/01")) : std::nullopt;
+    if (!first) return {};
+    const auto day = civil(*first);
+    return day.year() / day.month();
+}
+
+QString monthId(std::chrono::year_month month) {
+    return slashMonth(month).remove(u'/');
+}
+
+QString cellOf(const TotalSheet& sheet, int row, int column) {
+    return sheet.grid.TextMatrix(row, column);
+}
+
+QString nameOf(const TotalSheet& sheet, int column) {
+    if (column == 3) return QStringLiteral("の出勤日数");
+    if (column == 4) return QStringLiteral("の実働時間");
+    return column == 5 ? QStringLiteral("の有給残数") : cellOf(sheet, 0, column);
+}
+
+QString demandOf(int column, int countUnit, const QString& text) {
+    const SumForm form = sumForm(static_cast<CardColumn>(column), countUnit);
+    if (form == SumForm::Number && !IsSingleByte(text)) return QStringLiteral("半角で入力して下さい。");
+    return sumDemand(form);
+}
+
+void checkRow(const TotalSheet& sheet, int row) {
+    for (int column = firstFigure; column < firstFigure + static_cast<int>(totalFigures); ++column) {
+        const QString text = cellOf(sheet, row, column);
+        if (text.isEmpty() || isFigure(column, sheet.plngCountUnit, text)) continue;
+        throw Complaint(cellOf(sheet, row, 1) + u' ' + cellOf(sheet, row, 2) + nameOf(sheet, column) +
+                        QStringLiteral("が不正です。") + demandOf(column, sheet.plngCountUnit, text));
+    }
+}
+
+bool isChanged(const TotalSheet& sheet, int row) {
+    return !sheet.staffOf(row).isEmpty() && sheet.grid.RowStatus(row) == GridStatus::Modified;
+}
+
+void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const QString& month) {
+    const QString staff = sheet.staffOf(row);
+    RecordSet months(connection,
+                     QStringLiteral("SELECT *, F_Year & F_Month AS F_YearMonth From T05_Approved WHERE (F_Staff = ?);"),
+                     {staff});
+    if (!months.filter(QStringLiteral("F_YearMonth = ?"), {month})) return;
+    for (const MonthField& field : monthFields)
+        months.set(field.field(),
+                   figureOf(field, cellOf(sheet, row, static_cast<int>(field.column)), sheet.plngCountUnit));
+    for (const QString& mark : {QStringLiteral("F_PersonalApproval"), QStringLiteral("F_SuperiorApproval")})
+        months.set(mark, Value::yesNo(false));
+    const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
+    months.updateBatch();
+    followBalance(connection, staff, month, paidTotal);
+}
+
+// One person's months, or a section's; the places are that code, the first and the last month.
+QString whereOf(const SavedMonths& months) {
+    return (months.staff.isEmpty() ? QStringLiteral("WHERE (F_Section = ?)") : QStringLiteral("WHERE (F_Staff = ?)")) +
+           QStringLiteral(" AND (F_Year & F_Month BETWEEN ? AND ?);");
+}
+
+Values placesOf(const SavedMonths& months) {
+    return {months.staff.isEmpty() ? months.section : months.staff, monthId(months.span.from), monthId(months.span.to)};
+}
+
+} // namespace
+
+QString slashMonth(std::chrono::year_month month) {
+    return slashDate(Day{month / 1}).left(7);
+}
+
+std::optional<MonthSpan> checkedMonths(const Context& context, const QString& start, const QString& end) {
+    const auto from = monthIn(start);
+    const auto to = monthIn(end);
+    if (!from || !to) {
+        context.prompts.exclaim(
+            QStringLiteral("期間が不正です。開始年月と終了年月を西暦年でyyyy/mm形式(半角)で入力して下さい。"));
+        return {};
+    }
+    if (*to < *from) {
+        context.prompts.exclaim(QStringLiteral("開始年月が終了年月以降に設定されています。"));
+        return {};
+    }
+    return MonthSpan{*from, *to};
+}
+
+bool CheckData(const Context& context, const TotalSheet& sheet) {
+    return guarded(context, u"frmTotal", u"CheckData", false, [&] {
+        if (sheet.blnFileMode)
+            throw Complaint(QStringLiteral("タイムカードファイルを呼出した状態で更新はできません。"));
+        for (int row = 1; row < sheet.grid.Rows(); ++row)
+            if (isChanged(sheet, row)) checkRow(sheet, row);
+        return true;
+    });
+}
+
+bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet, bool byStaff) {
+    constexpr int monthDigits = 6;
+    return guarded(context, u"frmTotal", u"UpdateTotal", false, [&] {
+        Transaction transaction(connection);
+        for (int row = 1; row < sheet.grid.Rows(); ++row) {
+            if (!isChanged(sheet, row)) continue;
+            const QString key = cellOf(sheet, row, static_cast<int>(TotalColumn::Order));
+            updateMonth(connection, sheet, row, byStaff ? key.right(monthDigits) : key.left(monthDigits));
+        }
+        transaction.commit();
+        return true;
+    });
+}
+
+int CountTotal(const Context& context, Connection& connection, const SavedMonths& months) {
+    return guarded(context, u"frmTotal", u"CountTotal", -1, [&] {
+        int count = 0;
+        Rows rows =
+            connection.rows(QStringLiteral("SELECT F_Staff FROM T05_Approved ") + whereOf(months), placesOf(months));
+        while (rows.next()) ++count;
+        return count;
+    });
+}
+
+bool DeleteTotal(const Context& context, Connection& connection, const SavedMonths& months) {
+    return guarded(context, u"frmTotal", u"DeleteTotal", false, [&] {
+        connection.execute(QStringLiteral("DELETE * FROM T05_Approved ") + whereOf(months), placesOf(months));
+        return true;
+    });
+}
+
+} // namespace kurbo

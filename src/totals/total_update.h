@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/guard.h"
+#include "totals/total_rules.h"
+
+#include <chrono>
+
+namespace kurbo {
+
+// From month to month, both included.
+struct MonthSpan {
+    std::chrono::year_month from;
+    std::chrono::year_month to;
+};
+
+// "yyyy/mm"
+[[nodiscard]] QString slashMonth(std::chrono::year_month month);
+
+// The span of two texts "yyyy/mm"; nothing after a refusal, which is told.
+[[nodiscard]] std::optional<MonthSpan> checkedMonths(const Context& context, const QString& start, const QString& end);
+
+// The rows that the person has changed; shows its first refusal and then gives false.
+[[nodiscard]] bool CheckData(const Context& context, const TotalSheet& sheet);
+
+// Writes the changed rows into the saved months, all or none, and takes their approvals away; a month that isn't saved
+// is passed over. The balance of paid leave follows the newest month. False after a reported failure.
+[[nodiscard]] bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet, bool byStaff);
+
+// Saved months of one person, or with an empty staff code all that name the section.
+struct SavedMonths {
+    QString staff;
+    QString section;
+    MonthSpan span;
+};
+// How many there are, -1 after a reported failure; and their deletion, false after one.
+[[nodiscard]] int CountTotal(const Context& context, Connection& connection, const SavedMonths& months);
+[[nodiscard]] bool DeleteTotal(const Context& context, Connection& connection, const SavedMonths& months);
+
+} // namespace kurbo

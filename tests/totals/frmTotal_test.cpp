@@ -1,0 +1,101 @@
+#include "totals/frmTotal.h"
+
+#include "card/card_office.h"
+#include "screen/data_combo.h"
+#include "screen/grid.h"
+#include "screen/masked_box.h"
+#include "totals/csv_file.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+namespace kurbo::test {
+namespace {
+
+class FrmTotal : public CardOffice {
+  protected:
+    FrmTotal() {
+        connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, F_PaidTotal) "
+                           "VALUES ('1001', 'S01', '2026', '04', 20, 9000, 12.5)"_q);
+        logIn(u"1002"_q);
+        form = new frmTotal(client);
+        form->load();
+        form->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    }
+    ~FrmTotal() override { delete form; }
+    template <typename Widget>
+    [[nodiscard]] Widget* find(const char* name) const {
+        auto* const found = form->findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_TRUE(found) << name;
+        return found;
+    }
+    [[nodiscard]] GridModel& cells() const { return *find<Grid>("vfgKurbo")->grid(); }
+    [[nodiscard]] QString span() const {
+        return find<MaskedBox>("mskStart")->maskText() + u'-' + find<MaskedBox>("mskEnd")->maskText();
+    }
+    void type(const QString& text) const {
+        for (const QChar sign : text) QTest::keyClick(QApplication::focusWidget(), sign.toLatin1());
+    }
+
+    frmTotal* form = nullptr;
+};
+
+TEST_F(FrmTotal, IsWorkedByItsControls) {
+    EXPECT_EQ(span(), u"2026/04-2026/04"_q);
+    EXPECT_TRUE(find<QRadioButton>("optMethod_0")->isChecked());
+    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled() || find<QAction>("mnuDelete")->isEnabled());
+    find<QRadioButton>("optMethod_1")->click();
+    EXPECT_EQ(cells().TextMatrix(1, 1), u"2026年 04月"_q);
+    find<QRadioButton>("optMonth_5")->click();
+    EXPECT_EQ(span(), u"2026/05-2026/05"_q);
+    QTest::keyClick(find<QWidget>("mskStart"), Qt::Key_Down);
+    find<QPushButton>("cmdDisplay")->click();
+    EXPECT_EQ(span(), u"2026/04-2026/05"_q);
+    auto* const names = find<DataCombo>("dcbStaff");
+    names->setBoundText(u"1001"_q);
+    Q_EMIT names->activated(names->currentIndex());
+    EXPECT_EQ(cells().Rows(), 1 + 2 + 2);
+    Grid& grid = *find<Grid>("vfgKurbo");
+    grid.setFocus();
+    grid.Select(1, 3);
+    type(u"19"_q);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled());
+    desk.prompts.expect(u"集計データは変更されています。変更を破棄しますか？"_q, Answer::No);
+    EXPECT_FALSE(form->close());
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    find<QPushButton>("cmdUpdate")->click();
+    EXPECT_EQ(asked(u"SELECT F_WorkDay FROM T05_Approved"_q), u"19"_q);
+    EXPECT_TRUE(form->close());
+    form = nullptr;
+}
+
+TEST_F(FrmTotal, MonthsOutOfAFileAreLookedAtAndEntered) {
+    const QString file = desk.file(u"months.csv"_q);
+    MonthRecord record{u"1003"_q, u"S01"_q, u"2026"_q, u"04"_q, {}, true, false, {}};
+    record.figures.fill(Value(0));
+    record.figures[1] = Value(630);
+    ASSERT_EQ(CsvSaveTotal(desk.context, file, {record}), 1);
+    QString seen;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget* const csv = QApplication::activeModalWidget();
+        ASSERT_TRUE(csv);
+        const GridModel& grid = *csv->findChild<Grid*>(u"vfgCsv"_q)->grid();
+        for (const int column : {0, 1, 2, 3, 4, 6, 23}) seen += grid.CellText(1, column) + u' ';
+        desk.prompts.expect(u"データベースに登録します。"_q).expect(u"1件"_q);
+        csv->findChild<QPushButton*>(u"cmdAddDB"_q)->click();
+    });
+    connection.execute(u"UPDATE M08_Access SET F_WriteOtherMonthly = True"_q);
+    desk.prompts.expectFiles({file});
+    find<QAction>("mnuLoadCsv")->trigger();
+    EXPECT_EQ(seen, u"months.csv 佐藤次郎 総務部 2026年 04月 10:30 済 "_q);
+    EXPECT_EQ(asked(u"SELECT F_Work FROM T05_Approved WHERE (F_Staff = '1003')"_q), u"630"_q);
+}
+
+} // namespace
+} // namespace kurbo::test

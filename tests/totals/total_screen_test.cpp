@@ -1,0 +1,150 @@
+#include "totals/total_screen.h"
+
+#include "card/card_office.h"
+
+#include <QFile>
+
+namespace kurbo::test {
+namespace {
+
+constexpr int staffColumn = static_cast<int>(TotalColumn::Staff);
+
+// April of 1001 and 1002 is saved and approved, May of 1001 as well; 1002 may correct and delete.
+class TotalScreenTest : public CardOffice {
+  protected:
+    TotalScreenTest() {
+        for (const char16_t* month :
+             {u"'1001', 'S01', '2026', '04'", u"'1001', 'S01', '2026', '05'", u"'1002', 'S01', '2026', '04'"})
+            connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, "
+                               "F_PaidTotal, F_Over, F_PersonalApproval, F_SuperiorApproval, F_Term) "
+                               "VALUES (%1, 20, 9000, 12.5, 90, True, True, '2026/04/01-2026/04/30')"_q.arg(QString::fromUtf16(month)));
+        connection.execute(u"UPDATE M08_Access SET F_DeleteMyData = True, F_WriteMyMonthly = False "
+                           "WHERE (F_AccessCode = 2)"_q);
+        logIn(u"1002"_q);
+        EXPECT_TRUE(screen.load());
+    }
+    // The row of a person's month.
+    [[nodiscard]] int rowOf(const QString& staff, const QString& month = u"2026年 04月"_q) const {
+        const GridModel& grid = screen.sheet.grid;
+        for (int row = 1; row < grid.Rows(); ++row)
+            if (grid.TextMatrix(row, staffColumn) == staff &&
+                (grid.TextMatrix(row, 1) == month || grid.TextMatrix(row, 2) == month))
+                return row;
+        return -1;
+    }
+    void type(int row, int column, const QString& text) { screen.sheet.grid.edit(row, column, text); }
+    [[nodiscard]] QString saved(const QString& fields, const QString& staff, const QString& month = u"04"_q) {
+        return asked(u"SELECT "_q + fields + u" FROM T05_Approved WHERE (F_Staff = '"_q + staff +
+                     u"') AND (F_Month = '"_q + month + u"')"_q);
+    }
+
+    TotalScreen screen{client};
+};
+
+TEST_F(TotalScreenTest, ShowsAPersonASpanAndAnOrder) {
+    EXPECT_EQ(slashMonth(screen.span().from), u"2026/04"_q);
+    EXPECT_GT(rowOf(u"1003"_q), 0) << "people without a record are calculated";
+    EXPECT_TRUE(screen.chooseOrder(false));
+    EXPECT_EQ(screen.sheet.grid.TextMatrix(rowOf(u"1001"_q), 1), u"2026年 04月"_q);
+    EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
+    EXPECT_TRUE(screen.byStaff()) << "one person is always by staff";
+    EXPECT_EQ(rowOf(u"1002"_q), -1);
+    EXPECT_TRUE(screen.display(u"2026/04"_q, u"2026/06"_q));
+    EXPECT_EQ(screen.sheet.grid.Rows(), 1 + 3 + 2);
+    EXPECT_TRUE(screen.chooseMonth(5));
+    EXPECT_EQ(slashMonth(screen.span().from) + slashMonth(screen.span().to), u"2026/052026/05"_q);
+    const std::tuple<QString, QString, QString> refusals[] = {
+        {u"2026/13"_q, u"2026/06"_q, u"期間が不正です。開始年月と終了年月を西暦年でyyyy/mm形式(半角)"_q},
+        {u"2026/06"_q, u"2026/05"_q, u"開始年月が終了年月以降に設定されています。"_q},
+    };
+    for (const auto& [start, end, message] : refusals) {
+        desk.prompts.expect(message);
+        EXPECT_FALSE(screen.display(start, end));
+        EXPECT_EQ(slashMonth(screen.span().from), u"2026/05"_q);
+    }
+}
+
+TEST_F(TotalScreenTest, CorrectsSavedMonthsAndWithdrawsTheirApprovals) {
+    const int row = rowOf(u"1001"_q);
+    EXPECT_TRUE(screen.sheet.grid.Editable(row, 7));
+    EXPECT_FALSE(screen.sheet.grid.Editable(row, 21) || screen.sheet.grid.Editable(rowOf(u"1002"_q), 7))
+        << "marks are no figures, and the own month needs the own right";
+    type(row, 7, u"2:30"_q);
+    type(row, 5, u"11"_q);
+    type(rowOf(u"1003"_q), 3, u"9"_q);
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    EXPECT_TRUE(screen.update());
+    EXPECT_EQ(saved(u"F_Over"_q, u"1001"_q) + u' ' + saved(u"F_PersonalApproval"_q, u"1001"_q), u"150 0"_q);
+    EXPECT_EQ(saved(u"F_PersonalApproval"_q, u"1002"_q), u"-1"_q);
+    EXPECT_EQ(count(u"T05_Approved"_q), 3) << "a month that isn't saved is passed over";
+    EXPECT_EQ(asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q), u"20"_q)
+        << "May is newer";
+    EXPECT_FALSE(screen.sheet.changed);
+    EXPECT_TRUE(screen.chooseMonth(5));
+    type(rowOf(u"1001"_q, u"2026年 05月"_q), 5, u"11"_q);
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    EXPECT_TRUE(screen.update());
+    EXPECT_EQ(asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q), u"11"_q);
+}
+
+TEST_F(TotalScreenTest, RefusesFiguresByTheirColumn) {
+    const int row = rowOf(u"1001"_q);
+    const std::tuple<int, QString, QString> cases[] = {
+        {3, u"２０"_q, u"山田太郎 2026年 04月の出勤日数が不正です。半角で入力して下さい。"_q},
+        {3, u"x"_q, u"の出勤日数が不正です。数値(半角)を入力して下さい。"_q},
+        {4, u"7.5"_q, u"の実働時間が不正です。時間を入力して下さい。"_q},
+        {5, u"x"_q, u"の有給残数が不正です。数値(半角)を入力して下さい。"_q},
+        {7, u"x"_q, u"普通残業が不正です。時間を入力して下さい。"_q},
+        {20, u"x"_q, u"早退が不正です。数値(半角)を入力して下さい。"_q},
+    };
+    for (const auto& [column, text, message] : cases) {
+        const QString before = screen.sheet.grid.TextMatrix(row, column);
+        type(row, column, text);
+        desk.prompts.expect(message);
+        EXPECT_FALSE(screen.update()) << message;
+        type(row, column, before);
+    }
+    EXPECT_TRUE(isFigure(4, 1, u"170:30(+1:30)"_q) && isFigure(4, 1, u"(+1:30)170:30"_q));
+    EXPECT_TRUE(isFigure(4, 0, u"170.5"_q) && !isFigure(4, 0, u"170:30"_q));
+}
+
+TEST_F(TotalScreenTest, DeletesTheSavedMonthsOfTheSpan) {
+    EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
+    desk.prompts.expect(u"表示期間(2026/06～2026/07)には\r\n保存された月次集計データが無いため、"_q);
+    EXPECT_FALSE(screen.deleteMonths(u"2026/06"_q, u"2026/07"_q));
+    desk.prompts.expect(u"表示されている月次集計データを削除します。"_q, Answer::Ok);
+    EXPECT_TRUE(screen.deleteMonths(u"2026/04"_q, u"2026/05"_q));
+    EXPECT_EQ(count(u"T05_Approved"_q), 1);
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+}
+
+TEST_F(TotalScreenTest, GoesToFilesAndComesBackOnlyToBeSeen) {
+    const QString card = desk.file(u"totals.krb"_q);
+    const QString csv = desk.file(u"april.csv"_q);
+    desk.prompts.expectFile(card);
+    EXPECT_TRUE(screen.saveKrb(u"2026/04"_q, u"2026/04"_q));
+    desk.prompts.expect(u"CSV形式で保存します。"_q).expectFile(csv).expect(u"2件の月次集計データを保存しました。"_q);
+    EXPECT_TRUE(screen.saveCsv());
+    EXPECT_TRUE(QFile::exists(csv));
+    EXPECT_TRUE(screen.chooseMonth(6));
+    desk.prompts.expect(u"更新済の月次集計データがありません。"_q);
+    EXPECT_FALSE(screen.saveCsv());
+    desk.prompts.expectFile(card);
+    EXPECT_TRUE(screen.loadKrb());
+    EXPECT_EQ(slashMonth(screen.span().from), u"2026/04"_q);
+    EXPECT_FALSE(screen.sheet.grid.Editable(rowOf(u"1001"_q), 7));
+    const std::pair<QString, std::function<bool()>> refusals[] = {
+        {u"更新は"_q, [this] { return screen.update(); }},
+        {u"削除は"_q, [this] { return screen.deleteMonths(u"2026/04"_q, u"2026/04"_q); }},
+        {u"集計方法の選択は"_q, [this] { return screen.chooseOrder(false); }},
+    };
+    for (const auto& [word, command] : refusals) {
+        desk.prompts.expect(u"タイムカードファイルを呼出した状態で"_q + word);
+        EXPECT_FALSE(command()) << word;
+    }
+    EXPECT_TRUE(screen.display(u"2026/04"_q, u"2026/04"_q));
+    EXPECT_TRUE(screen.sheet.grid.Editable(rowOf(u"1001"_q), 7));
+}
+
+} // namespace
+} // namespace kurbo::test

@@ -1,0 +1,330 @@
+#include "card/card_cells.h"
+#include "demo/demo_company.h"
+#include "engine/loaders.h"
+#include "store/database_file.h"
+#include "support/sample_company.h"
+#include "totals/total_grid.h"
+#include "totals/total_lines.h"
+
+#include <set>
+
+using namespace std::chrono_literals;
+using std::chrono::year_month;
+
+namespace kurbo::test {
+namespace {
+
+year_month april() {
+    return 2026y / 4;
+}
+
+QStringList texts(const GridModel& grid, int row) {
+    QStringList cells;
+    for (int column = 0; column < grid.Cols(); ++column) cells.append(grid.TextMatrix(row, column));
+    return cells;
+}
+
+// A demo company, of which the totals of every section are compared with the cards of its people.
+struct DemoCase {
+    bool flexible;
+    int roundMethod;
+};
+
+class TotalsOfDemo : public ::testing::TestWithParam<DemoCase> {
+  protected:
+    TotalsOfDemo() {
+        createDatabase(path);
+        connection.open(path, databasePassword());
+        DemoOptions options;
+        options.until = *makeDay(2026, 6, 17);
+        options.flexible = GetParam().flexible;
+        makeDemoCompany(connection, options);
+        connection.execute(
+            u"UPDATE M01_CorpInfo SET F_RoundMethod = ?, F_RoundHour = 1, F_RoundEnter = 1, F_RoundLeave = 0"_q,
+            {GetParam().roundMethod});
+        desk.clock.set(at(options.until, 8, 0));
+    }
+
+    std::optional<Card> card(const QString& staff, year_month month) {
+        clsWorkTime rules;
+        if (!GetWorkStyle(desk.context, connection, rules) || !GetStaffInfo(desk.context, connection, rules, staff) ||
+            !GetWorkTime(desk.context, connection, rules, staff))
+            return {};
+        const auto period = periodOfMonth(static_cast<int>(month.year()),
+                                          static_cast<int>(static_cast<unsigned>(month.month())), rules.plngCloseDay());
+        return makeCard(desk.context, connection, rules, staff, *period);
+    }
+
+    // A line shows what the card of its month shows: the record where there is one, else what the days add up to.
+    void compareWithCard(const TotalLine& line) {
+        const TotalRow& row = *line.row;
+        const auto own = card(row.staff, row.month);
+        ASSERT_TRUE(own);
+        EXPECT_EQ(row.saved, own->saved);
+        QStringList expected = own->summary[row.saved ? 2 : 1].mid(3, 18);
+        QString difference;
+        // The card shows the difference in the place of legal overtime, which flexible work doesn't have.
+        if (GetParam().flexible && !row.saved) difference = std::exchange(expected[3], u"0:00"_q);
+        EXPECT_EQ(line.cells.mid(3, 18), expected) << row.staff << " " << line.cells[2];
+        EXPECT_EQ(line.cells[26], difference) << row.staff << " " << line.cells[2];
+        EXPECT_EQ(row.personalApproval, own->personalApproval);
+        EXPECT_EQ(row.superiorApproval, own->superiorApproval);
+    }
+
+    void compareSection(const QString& section, std::set<std::pair<QString, year_month>>& seen) {
+        // From before the first card, and into months that are still to come.
+        const auto totals = calculateTotals(desk.context, connection, {section, {}, 2025y / 12, 2026y / 8, true});
+        ASSERT_TRUE(totals);
+        for (const TotalLine& line : totalLines(*totals)) {
+            if (!line.row) continue;
+            compareWithCard(line);
+            seen.emplace(line.row->staff, line.row->month);
+        }
+    }
+
+    Desk desk;
+    QString path = desk.file(u"demo.mdb"_q);
+    Connection connection;
+};
+
+INSTANTIATE_TEST_SUITE_P(Companies, TotalsOfDemo,
+                         ::testing::Values(DemoCase{false, 0}, DemoCase{false, 1}, DemoCase{true, 0},
+                                           DemoCase{true, 1}));
+
+// A progress that is closed at one of its steps.
+class ClosedAt final : public Progress {
+  public:
+    explicit ClosedAt(int step) : left_(step) {}
+    void begin(const QString& text, int maximum) override {
+        said = text;
+        most_ = maximum;
+        ++open;
+    }
+    void step(int value) override {
+        EXPECT_LE(last_, value);
+        EXPECT_LE(value, most_);
+        last_ = value;
+        --left_;
+    }
+    void end() override { --open; }
+    bool stopped() override { return left_ < 0; }
+
+    QString said;
+    int open = 0;
+
+  private:
+    int left_;
+    int last_ = 0;
+    int most_ = 0;
+};
+
+class TotalsTest : public SampleCompany {
+  protected:
+    // 1001 has worked on the 1st of April from 9:00 to 17:30, and 1002 has saved it with 100:00 hours.
+    TotalsTest() {
+        addCard(1, *makeDay(2026, 4, 1), u"09:00"_q, u"17:30"_q);
+        save(u"1002"_q, u"202604"_q, 6000, 12.5);
+    }
+
+    void save(const QString& staff, const QString& month, const Value& minutes, const Value& paidLeft,
+              const QString& section = u"S01"_q) {
+        connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, "
+                           "F_PaidTotal, F_PersonalApproval, F_Term) VALUES (?, ?, ?, ?, 15, ?, ?, True, 'saved')"_q,
+                           {staff, section, month.left(4), month.mid(4), minutes, paidLeft});
+    }
+
+    // Lines as "column 1|column 2|work|paid leave left".
+    QStringList shown(TotalsQuestion question) {
+        GridModel grid;
+        if (!ShowTotal(desk.context, connection, question, grid)) return {u"failed"_q};
+        QStringList lines;
+        for (int row = 1; row < grid.Rows(); ++row) {
+            const QStringList cells = texts(grid, row);
+            lines.append(QStringList({cells[1], cells[2], cells[4], cells[5]}).join(u'|'));
+        }
+        return lines;
+    }
+
+    TotalsQuestion everybody{u"S01"_q, {}, april(), april(), true};
+};
+
+} // namespace
+
+TEST_P(TotalsOfDemo, EqualTheCardsOfAllPeopleMonthByMonth) {
+    std::set<std::pair<QString, year_month>> seen;
+    Rows sections = connection.rows(u"SELECT F_SectionCode FROM C02_Section"_q);
+    while (sections.next()) compareSection(sections.text(0), seen);
+    const auto people = connection.firstValue(u"SELECT Count(*) FROM C03_Staff WHERE (F_Display = True)"_q);
+    EXPECT_EQ(std::ssize(seen), people->integer() * 9);
+    // Without its record each month is calculated, and so is one between two records.
+    for (const char16_t* without : {u"WHERE (F_Month = '04')", u""}) {
+        connection.execute(u"DELETE FROM T05_Approved "_q + QString::fromUtf16(without));
+        Rows again = connection.rows(u"SELECT F_SectionCode FROM C02_Section"_q);
+        while (again.next()) compareSection(again.text(0), seen);
+    }
+}
+
+TEST_P(TotalsOfDemo, OfOnePersonAreThoseOfTheSection) {
+    const auto section = calculateTotals(desk.context, connection, {u"S03"_q, {}, 2026y / 1, 2026y / 6, false});
+    ASSERT_TRUE(section);
+    // The codes are equal without regard to case.
+    connection.execute(u"UPDATE C03_Staff SET F_StaffCode = 'a9' WHERE (F_StaffCode = '1010')"_q);
+    connection.execute(u"UPDATE M02_StaffInfo SET F_StaffCode = 'A9' WHERE (F_StaffCode = '1010')"_q);
+    connection.execute(u"UPDATE T02_Kurbo SET F_User = 'A9' WHERE (F_User = '1010')"_q);
+    connection.execute(u"UPDATE T05_Approved SET F_Staff = 'A9' WHERE (F_Staff = '1010')"_q);
+    const auto again = calculateTotals(desk.context, connection, {u"S03"_q, {}, 2026y / 1, 2026y / 6, false});
+    const auto person = calculateTotals(desk.context, connection, {{}, u"a9"_q, 2026y / 1, 2026y / 6, false});
+    ASSERT_TRUE(again && person);
+    EXPECT_TRUE(person->byStaff);
+    ASSERT_EQ(again->rows.size(), section->rows.size());
+    std::size_t own = 0;
+    for (std::size_t i = 0; i < section->rows.size(); ++i) {
+        EXPECT_EQ(again->rows[i].figures, section->rows[i].figures);
+        if (section->rows[i].staff != u"1010") continue;
+        ASSERT_LT(own, person->rows.size());
+        EXPECT_EQ(person->rows[own].figures, section->rows[i].figures);
+        EXPECT_EQ(person->rows[own++].difference, section->rows[i].difference);
+    }
+    EXPECT_EQ(own, 6U);
+}
+
+TEST_F(TotalsTest, HaveSubTotalsByStaffAndByMonth) {
+    connection.execute(u"UPDATE C03_Staff SET F_Display = False WHERE (F_StaffCode = '1003')"_q);
+    save(u"1002"_q, u"202605"_q, {}, {});
+    everybody.to = 2026y / 5;
+    EXPECT_EQ(shown(everybody),
+              QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎|2026年 05月|0:00|20.0"_q,
+                           u"山田太郎 小計||8:30|40.0"_q, u"鈴木花子|2026年 04月|100:00|12.5"_q,
+                           u"鈴木花子|2026年 05月||"_q, u"鈴木花子 小計||100:00|12.5"_q, u"合計||108:30|52.5"_q}));
+    everybody.byStaff = false;
+    EXPECT_EQ(shown(everybody),
+              QStringList({u"2026年 04月|山田太郎|8:30|20.0"_q, u"2026年 04月|鈴木花子|100:00|12.5"_q,
+                           u"2026年 04月 小計||108:30|32.5"_q, u"2026年 05月|山田太郎|0:00|20.0"_q,
+                           u"2026年 05月|鈴木花子||"_q, u"2026年 05月 小計||0:00|20.0"_q, u"合計||108:30|52.5"_q}));
+    // Over the turn of a year as well; without a calendar a month is a row of zeros.
+    everybody.from = 2026y / 12;
+    everybody.to = 2027y / 1;
+    EXPECT_EQ(shown(everybody).first(4),
+              QStringList({u"2026年 12月|山田太郎|0:00|20.0"_q, u"2026年 12月|鈴木花子|0:00|20.0"_q,
+                           u"2026年 12月 小計||0:00|40.0"_q, u"2027年 01月|山田太郎|0:00|20.0"_q}));
+}
+
+TEST_F(TotalsTest, CarryAShiftOverTheStartOfAMonth) {
+    // From 9:00 to 11:00 of the next day, on which nothing was punched.
+    addCard(2, *makeDay(2026, 3, 31), u"09:00"_q, u"17:30"_q);
+    connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 11:00:00# WHERE (F_KurboID = 2)"_q);
+    connection.execute(u"DELETE FROM T02_Kurbo WHERE (F_KurboID = 1)"_q);
+    const auto ofApril = [this](year_month from, const QString& staff) {
+        everybody.from = from;
+        everybody.staff = staff;
+        return shown(everybody).filter(u"山田太郎|2026年 04月"_q);
+    };
+    const QStringList carried{u"山田太郎|2026年 04月|2:00|20.0"_q};
+    for (const year_month from : {april(), year_month(2026y / 3), year_month(2026y / 2)}) {
+        EXPECT_EQ(ofApril(from, {}), carried);
+        EXPECT_EQ(ofApril(from, u"1001"_q), carried);
+    }
+    // The row before the month lies in a month that is saved.
+    save(u"1001"_q, u"202603"_q, 60, 1);
+    EXPECT_EQ(ofApril(2026y / 2, {}), carried);
+    // It is the last row that counts, with or without a leave.
+    addCard(3, *makeDay(2026, 3, 31), {}, {});
+    EXPECT_EQ(ofApril(2026y / 2, {}).value(0).section(u'|', 2), u"0:00|20.0"_q);
+    EXPECT_EQ(ofApril(april(), {}).value(0).section(u'|', 2), u"0:00|20.0"_q);
+}
+
+TEST_F(TotalsTest, AddTheDifferenceBehindTheHoursInFlexibleWork) {
+    connection.execute(u"UPDATE C03_Staff SET F_Display = False WHERE (F_StaffCode = '1003')"_q);
+    connection.execute(u"UPDATE M01_CorpInfo SET F_WorkStyle = 1, F_FlexStandard = '08:00', F_Diff = True"_q);
+    connection.execute(u"UPDATE M03_WeekdayStyle SET F_StartFlex0 = '07:00', F_EndFlex0 = '22:00', "
+                       "F_StartWork0 = Null, F_EndWork0 = Null"_q);
+    GridModel grid;
+    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, grid));
+    const auto column = [&grid](int number) {
+        QStringList cells;
+        for (int row = 1; row < grid.Rows(); ++row) cells.append(grid.TextMatrix(row, number));
+        return cells;
+    };
+    EXPECT_EQ(column(4), QStringList({u"8:30"_q, u"8:30(+0:30)"_q, u"100:00"_q, u"100:00"_q, u"108:30(+0:30)"_q}));
+    EXPECT_EQ(column(26), QStringList({u"+0:30"_q, {}, {}, {}, {}}));
+    EXPECT_FALSE(grid.ColHidden(26));
+}
+
+TEST_F(TotalsTest, FillTheGridWithRecordsAndCalculatedMonths) {
+    connection.execute(u"UPDATE M01_CorpInfo SET F_Over = True, F_Absent = True, F_EarlyLeave = True"_q);
+    GridModel grid;
+    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, grid));
+    ASSERT_EQ(grid.Cols(), 27);
+    EXPECT_EQ(texts(grid, 0).join(u'|'),
+              u"|氏名|年月|出勤日数|実働時間|有給残数|法内残業|普通残業|深夜残業|早出勤務|休日出勤|休日深夜|法休出勤|"
+              u"法休深夜|"
+              "欠勤時間|有給|特休|代休|欠勤|遅刻|早退|本人|所長|集計期間|順|社員ｺｰﾄﾞ|時間差"_q);
+    const QStringList calculated = texts(grid, 1);
+    EXPECT_EQ(calculated.mid(18, 9).join(u'|'),
+              u"13|0|0|||2026/04/01-2026/04/30|0001202604|1001|"_q.replace(u"0001"_q, calculated[24].left(4)));
+    const QStringList saved = texts(grid, 3);
+    EXPECT_EQ(saved.mid(18, 6).join(u'|'), u"|||-1|0|saved"_q);
+    EXPECT_EQ(grid.CellText(3, 21) + grid.CellText(3, 22) + grid.CellText(4, 21), u"済未"_q);
+    EXPECT_TRUE(grid.CellChecked(3, 21));
+    for (const int column : {6, 12, 13, 24, 25, 26}) EXPECT_TRUE(grid.ColHidden(column)) << column;
+    for (const int column : {5, 7, 14, 20, 23}) EXPECT_FALSE(grid.ColHidden(column)) << column;
+    EXPECT_FALSE(grid.RowBackColor(1));
+    EXPECT_TRUE(grid.RowBackColor(2) && grid.RowBackColor(grid.Rows() - 1));
+    EXPECT_EQ(grid.TextMatrix(grid.Rows() - 1, 25), QString());
+}
+
+TEST_F(TotalsTest, RecordsBelongToTheirSectionAndCalculatedMonthsToItsPeopleOfToday) {
+    connection.execute(
+        u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_Display) VALUES ('S02', 'x', True)"_q);
+    connection.execute(u"UPDATE C03_Staff SET F_Section = 'S02' WHERE (F_StaffCode IN ('1002', '1003'))"_q);
+    connection.execute(u"UPDATE C03_Staff SET F_Display = True WHERE (F_StaffCode = '1004')"_q);
+    save(u"1004"_q, u"202604"_q, 60, 1);
+    save(u"1004"_q, u"202605"_q, 120, 1, u"S02"_q);
+    EXPECT_EQ(shown(everybody).filter(u"年"_q),
+              QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"鈴木花子|2026年 04月|100:00|12.5"_q,
+                           u"高橋三郎|2026年 04月|1:00|1.0"_q}));
+    // A record of another section doesn't stand for the month in this one; one's own totals know no section.
+    everybody.from = everybody.to = 2026y / 5;
+    EXPECT_EQ(shown(everybody).filter(u"高橋三郎|"_q), QStringList{u"高橋三郎|2026年 05月|0:00|20.0"_q});
+    everybody.staff = u"1004"_q;
+    EXPECT_EQ(shown(everybody).filter(u"年"_q), QStringList{u"高橋三郎|2026年 05月|2:00|1.0"_q});
+    // Nobody, and no month.
+    EXPECT_EQ(shown({u"S09"_q, {}, april(), april(), true}), QStringList());
+    EXPECT_EQ(shown({u"S01"_q, {}, 2026y / 5, april(), true}), QStringList());
+}
+
+TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
+    GridModel grid;
+    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, grid));
+    const QStringList before = texts(grid, 1);
+    const int rows = grid.Rows();
+    TotalsQuestion other = everybody;
+    other.byStaff = false;
+    const auto isOld = [&] { return grid.Rows() == rows && texts(grid, 1) == before; };
+    for (const int step : {0, 1, 2}) {
+        ClosedAt progress(step);
+        EXPECT_FALSE(ShowTotal({desk.prompts, desk.clock, desk.paths, progress}, connection, other, grid));
+        EXPECT_TRUE(isOld()) << step;
+        EXPECT_EQ(progress.open, 0);
+        EXPECT_EQ(progress.said, u"処理中です・・・");
+    }
+    // A leave before its enter is told by the calculation itself.
+    connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 08:00:00#"_q);
+    desk.prompts.expect(u"退社時刻が出社時刻より前に設定されています。"_q);
+    EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
+    EXPECT_EQ(desk.prompts.last().title, u"clsWorkTime－ShowTotal"_q);
+    // Rules are told by their loader; those of a person whose months are all saved are not asked for.
+    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode IN ('1002', '1003'))"_q);
+    desk.prompts.expect(u"平日勤務時間設定に不備があります。"_q);
+    EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
+    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = Null WHERE (F_StaffCode = '1003')"_q);
+    desk.prompts.expect(u"社員設定に不備があります。"_q);
+    EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
+    EXPECT_TRUE(isOld());
+    other.staff = u"1002"_q;
+    EXPECT_TRUE(ShowTotal(desk.context, connection, other, grid));
+    EXPECT_TRUE(other.byStaff);
+    EXPECT_FALSE(isOld());
+}
+
+} // namespace kurbo::test
