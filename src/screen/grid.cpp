@@ -98,6 +98,7 @@ void Grid::applyLooks() {
 }
 
 void Grid::applyTo(QTableView& view) const {
+    view.verticalHeader()->setVisible(grid_->FixedCols() > 0);
     view.verticalHeader()->setFixedWidth(grid_->Cols() > 0 ? widthOf(0) : 0);
     for (int column = 0; column < grid_->Cols(); ++column) {
         view.setColumnHidden(column, column < grid_->FixedCols() || grid_->ColHidden(column));
@@ -157,7 +158,7 @@ int Grid::frozenWidth() const {
 void Grid::placePanes() {
     if (!panes_[Top]) return;
     const QRect inner = viewport()->geometry();
-    const int side = verticalHeader()->width();
+    const int side = grid_->FixedCols() > 0 ? verticalHeader()->width() : 0;
     const int head = horizontalHeader()->height();
     const bool rows = frozenHeight() > 0;
     const bool columns = frozenWidth() > 0;
@@ -171,6 +172,7 @@ void Grid::placePanes() {
     for (GridPane* const pane : {panes_[Left], panes_[Top], panes_[Corner]}) pane->raise();
     cornerHeading_->setText(grid_->TextMatrix(0, 0));
     cornerHeading_->setGeometry(inner.left() - side, inner.top() - head, side, head);
+    cornerHeading_->setVisible(side > 0);
     cornerHeading_->raise();
     panes_[Top]->horizontalScrollBar()->setValue(horizontalScrollBar()->value());
     panes_[Left]->verticalScrollBar()->setValue(verticalScrollBar()->value());

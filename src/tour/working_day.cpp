@@ -5,6 +5,7 @@
 #include "screen/data_combo.h"
 #include "screen/frmAbout.h"
 #include "screen/grid.h"
+#include "screen/masked_box.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWaiting.h"
@@ -45,6 +46,7 @@ void WorkingDay::play() {
     mistakes();
     nightShiftEnds();
     card();
+    totals();
     administrator();
     otherWindows();
     end();
@@ -147,6 +149,27 @@ void WorkingDay::card() {
     form->findChild<QRadioButton*>(QStringLiteral("optMonth_5"))->click();
     settle();
     camera_.shoot(*form, QStringLiteral("保存した月"));
+    form->findChild<QAction*>(QStringLiteral("mnuDetail"))->trigger();
+    settle();
+    if (QWidget* const outings = screen("frmGoOut")) camera_.shoot(*outings, QStringLiteral("外出明細"));
+    form->close();
+    settle();
+}
+
+// The clerk looks at the section's last months.
+void WorkingDay::totals() {
+    logIn(QStringLiteral("総務部"), QStringLiteral("青木　美穂"), QStringLiteral("kurbo1002"));
+    press(control("cmdTotal"), Qt::Key_Space);
+    QWidget* const form = screen("frmTotal");
+    if (!form) return;
+    form->resize(1360, 700);
+    form->findChild<MaskedBox*>(QStringLiteral("mskStart"))->setText(QStringLiteral("2026/03"));
+    form->findChild<QPushButton*>(QStringLiteral("cmdDisplay"))->click();
+    settle();
+    camera_.shoot(*form, QStringLiteral("月次集計 社員別"));
+    form->findChild<QRadioButton*>(QStringLiteral("optMethod_1"))->click();
+    settle();
+    camera_.shoot(*form, QStringLiteral("月次集計 年月別"));
     form->close();
     settle();
 }

@@ -19,6 +19,7 @@ class WorkingDay final {
     void mistakes();
     void nightShiftEnds();
     void card();
+    void totals();
     void administrator();
     void otherWindows();
     void end();
