@@ -58,7 +58,7 @@ class LineWriter final {
         return line;
     }
 
-    [[nodiscard]] TotalLine sum(const Sum& sum, const QString& caption) const {
+    [[nodiscard]] TotalLine sum(const Sum& sum, const QString& caption) {
         TotalLine line{QStringList(totalColumns), nullptr};
         QString* const cells = line.cells.data();
         cells[at(TotalColumn::First)] = caption;
@@ -82,8 +82,15 @@ class LineWriter final {
         return FormatHours(static_cast<Minutes>(minutes), totals_.countUnit, withSign);
     }
 
-    [[nodiscard]] QString figureText(std::size_t figure, std::int64_t value) const {
-        static const QString noHours[]{FormatHours(0, 0, false), FormatHours(0, 1, false)};
+    // The sums of a person's month, which many people share.
+    QString sharedHours(std::int64_t minutes) {
+        if (minutes < 0 || minutes >= std::ssize(hours_)) return hours(minutes, false);
+        QString& text = hours_[static_cast<std::size_t>(minutes)];
+        if (text.isEmpty()) text = hours(minutes, false);
+        return text;
+    }
+
+    [[nodiscard]] QString figureText(std::size_t figure, std::int64_t value) {
         switch (figureForm(figure)) {
         case FigureForm::Count:
             return value == 0 ? QStringLiteral("0") : QString::number(value);
@@ -92,11 +99,12 @@ class LineWriter final {
         case FigureForm::Hours:
             break;
         }
-        return value == 0 ? noHours[totals_.countUnit == 0 ? 0 : 1] : hours(value, false);
+        return sharedHours(value);
     }
 
     const Totals& totals_;
     std::map<std::chrono::year_month, QString> months_;
+    std::vector<QString> hours_ = std::vector<QString>(std::size_t{250} * 60);
 };
 
 } // namespace

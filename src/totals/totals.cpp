@@ -4,9 +4,9 @@
 #include "engine/loaders.h"
 #include "totals/month_pass.h"
 #include "totals/people_rules.h"
+#include "totals/total_records.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <set>
 
@@ -27,34 +27,11 @@ struct StaffMember {
     QString order; // at least four digits
 };
 
-int yearOf(year_month month) {
-    return static_cast<int>(month.year());
+int numberOf(std::chrono::year year) {
+    return static_cast<int>(year);
 }
-int monthOf(year_month month) {
-    return static_cast<int>(static_cast<unsigned>(month.month()));
-}
-
-// "yyyymm"
-QString monthId(year_month month) {
-    return QString::number(yearOf(month) * 100 + monthOf(month));
-}
-
-QString orderText(const Rows& rows, int column) {
-    if (rows.isNull(column)) return {};
-    const std::int64_t order = rows.integer(column);
-    const QString digits = QString::number(std::abs(order)).rightJustified(4, u'0');
-    return order < 0 ? u'-' + digits : digits;
-}
-
-std::int32_t hundredths(double days) {
-    return static_cast<std::int32_t>(std::lround(days * 100));
-}
-
-std::optional<std::int32_t> savedFigure(const Rows& rows, std::size_t figure) {
-    const int column = static_cast<int>(figure);
-    if (rows.isNull(column)) return {};
-    if (figureForm(figure) == FigureForm::Days) return hundredths(rows.real(column));
-    return static_cast<std::int32_t>(rows.integer(column));
+int numberOf(std::chrono::month month) {
+    return static_cast<int>(static_cast<unsigned>(month));
 }
 
 class Calculation final {
@@ -72,7 +49,7 @@ class Calculation final {
         {
             const Reading reading(connection_);
             readStaff();
-            readSavedMonths();
+            totals_.rows = readSavedMonths(connection_, question_, totals_.byStaff);
         }
         std::vector<Missing> missing = missingMonths();
         loadRules(missing);
@@ -122,54 +99,14 @@ class Calculation final {
         while (rows.next()) staff_.push_back({rows.text(0), rows.text(1), rows.text(2), orderText(rows, 3)});
     }
 
-    void readSavedMonths() {
-        // The years alone go through the index.
-        const QString statement = QStringLiteral(
-            "SELECT F_WorkDay, F_Work, F_PaidTotal, F_LegalOver, F_Over, F_Late, F_Early, F_Holiday, F_HolidayLate, "
-            "F_LegalHoliday, F_LegalLate, F_Absent, F_Paid, F_Special, F_Compens, F_AbsentDay, F_LateEnter, "
-            "F_EarlyLeave, F_PersonalApproval, F_SuperiorApproval, F_Term, T05_Approved.F_Section, F_Year, F_Month, "
-            "C03_Staff.F_StaffCode, C03_Staff.F_StaffName, C03_Staff.F_Order "
-            "FROM T05_Approved INNER JOIN C03_Staff ON T05_Approved.F_Staff = C03_Staff.F_StaffCode "
-            "WHERE (T05_Approved.F_Year BETWEEN ? AND ?) "
-            "AND (T05_Approved.F_Year & T05_Approved.F_Month BETWEEN ? AND ?) AND ");
-        const QString filter = question_.staff.isEmpty()
-                                   ? QStringLiteral("(T05_Approved.F_Section = ?) AND (C03_Staff.F_Display = True);")
-                                   : QStringLiteral("(T05_Approved.F_Staff = ?);");
-        Rows rows = connection_.rows(statement + filter,
-                                     {QString::number(yearOf(question_.from)), QString::number(yearOf(question_.to)),
-                                      monthId(question_.from), monthId(question_.to),
-                                      question_.staff.isEmpty() ? question_.section : question_.staff});
-        while (rows.next()) addSaved(rows);
-    }
-
-    void addSaved(const Rows& rows) {
-        constexpr int behind = totalFigures;
-        TotalRow row;
-        for (std::size_t i = 0; i < totalFigures; ++i) row.figures[i] = savedFigure(rows, i);
-        row.personalApproval = rows.yes(behind);
-        row.superiorApproval = rows.yes(behind + 1);
-        row.term = rows.text(behind + 2);
-        row.section = rows.text(behind + 3);
-        row.month = std::chrono::year(rows.text(behind + 4).toInt()) /
-                    std::chrono::month(static_cast<unsigned>(rows.text(behind + 5).toInt()));
-        row.staff = rows.text(behind + 6);
-        row.name = rows.text(behind + 7);
-        row.key = keyOf(orderText(rows, behind + 8), row.month);
-        row.saved = true;
-        saved_.emplace(row.staff, row.month);
-        totals_.rows.push_back(std::move(row));
-    }
-
-    [[nodiscard]] QString keyOf(const QString& order, year_month month) const {
-        return totals_.byStaff ? order + monthId(month) : monthId(month) + order;
-    }
-
     // Month by month, in the order of the people.
     [[nodiscard]] std::vector<Missing> missingMonths() const {
+        std::set<std::pair<QString, year_month>> saved;
+        for (const TotalRow& row : totals_.rows) saved.emplace(row.staff, row.month);
         std::vector<Missing> missing;
         for (year_month month = question_.from; month <= question_.to; month += std::chrono::months(1))
             for (std::size_t i = 0; i < staff_.size(); ++i)
-                if (!saved_.contains({staff_[i].code, month})) missing.push_back({i, month});
+                if (!saved.contains({staff_[i].code, month})) missing.push_back({i, month});
         return missing;
     }
 
@@ -218,7 +155,7 @@ class Calculation final {
         month.person = place;
         month.period = person.periods.size();
         person.periods.push_back(
-            *periodOfMonth(yearOf(month.month), monthOf(month.month), person.rules.plngCloseDay()));
+            *periodOfMonth(numberOf(month.month.year()), numberOf(month.month.month()), person.rules.plngCloseDay()));
     }
 
     void addCalculated(const Missing& month) {
@@ -232,7 +169,7 @@ class Calculation final {
         row.section = member.section;
         row.month = month.month;
         row.term = termOf(period);
-        row.key = keyOf(member.order, month.month);
+        row.key = totalKey(member.order, month.month, totals_.byStaff);
         setFigures(row, sum, person.rules);
         totals_.rows.push_back(std::move(row));
     }
@@ -273,7 +210,6 @@ class Calculation final {
     const TotalsQuestion& question_;
     clsWorkTime style_;
     std::vector<StaffMember> staff_;
-    std::set<std::pair<QString, year_month>> saved_;
     std::vector<PersonMonths> people_;
     std::map<std::pair<Day, Day>, QString> terms_;
     Totals totals_;
