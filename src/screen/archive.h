@@ -5,8 +5,8 @@
 namespace kurbo {
 
 // Archives with named members, as zip files. A member's name is a plain file name of ASCII letters, digits, ".", "-"
-// and "_" that begins with none of these signs; an archive holds at most 16 members, of 48 MiB together. An empty file is
-// an archive without members. Members are listed as they are stored, but "Text.tmp" always last.
+// and "_" that begins with none of these signs; an archive holds at most 16 members, of 48 MiB together. An empty file
+// is an archive without members. Members are listed as they are stored, but "Text.tmp" always last.
 //
 // Each operation throws foreignFile() for an archive that is damaged, encrypted, not a zip file or not of that kind,
 // and a Fault when a file can't be read or written.

@@ -21,8 +21,8 @@ class CardDisaster : public SampleCompany {
         {
             Transaction transaction(connection);
             for (int id = 1; id <= stored * rowsBetween; ++id)
-                addCard(id, *makeDay(2026, 5, 1) + std::chrono::days((id - 1) / rowsBetween), u"08:48"_q, u"18:12"_q, {},
-                        id % rowsBetween == 0 ? u"1001"_q : u"1002"_q);
+                addCard(id, *makeDay(2026, 5, 1) + std::chrono::days((id - 1) / rowsBetween), u"08:48"_q, u"18:12"_q,
+                        {}, id % rowsBetween == 0 ? u"1001"_q : u"1002"_q);
             transaction.commit();
         }
         connection.close();

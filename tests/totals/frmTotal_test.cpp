@@ -19,8 +19,9 @@ namespace {
 class FrmTotal : public CardOffice {
   protected:
     FrmTotal() {
-        connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, F_PaidTotal) "
-                           "VALUES ('1001', 'S01', '2026', '04', 20, 9000, 12.5)"_q);
+        connection.execute(
+            u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, F_PaidTotal) "
+            "VALUES ('1001', 'S01', '2026', '04', 20, 9000, 12.5)"_q);
         logIn(u"1002"_q);
         form = new frmTotal(client);
         form->load();

@@ -17,7 +17,8 @@ class TotalScreenTest : public CardOffice {
              {u"'1001', 'S01', '2026', '04'", u"'1001', 'S01', '2026', '05'", u"'1002', 'S01', '2026', '04'"})
             connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, "
                                "F_PaidTotal, F_Over, F_PersonalApproval, F_SuperiorApproval, F_Term) "
-                               "VALUES (%1, 20, 9000, 12.5, 90, True, True, '2026/04/01-2026/04/30')"_q.arg(QString::fromUtf16(month)));
+                               "VALUES (%1, 20, 9000, 12.5, 90, True, True, '2026/04/01-2026/04/30')"_q.arg(
+                                   QString::fromUtf16(month)));
         connection.execute(u"UPDATE M08_Access SET F_DeleteMyData = True, F_WriteMyMonthly = False "
                            "WHERE (F_AccessCode = 2)"_q);
         logIn(u"1002"_q);
