@@ -16,6 +16,10 @@ QString cardMember() {
     return QStringLiteral("Kurbo.tmp");
 }
 
+void checkDates(const QStringList& selection) {
+    if (!parseSlashDate(selection[2]) || !parseSlashDate(selection[3])) throw foreignFile();
+}
+
 } // namespace
 
 bool CardScreen::saveKrb(const QString& start, const QString& end) {
@@ -34,13 +38,10 @@ bool CardScreen::loadKrb() {
                // From now on, also after a failure, the screen only shows until a card is drawn from the store.
                sheet.drawn();
                sheet.blnFileMode = true;
-               const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid);
-               const auto from = parseSlashDate(selection[2]);
-               const auto to = parseSlashDate(selection[3]);
-               if (!from || !to) throw foreignFile();
+               const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid, checkDates);
                section_ = selection[0];
                staff_ = selection[1];
-               choosePeriod({*from, *to});
+               choosePeriod({*parseSlashDate(selection[2]), *parseSlashDate(selection[3])});
                return true;
            });
 }

@@ -10,10 +10,10 @@ struct CardScreen::Mark {
     bool (*store)(const Context&, Connection&, const QString& staff, Day end, bool approved);
 };
 
-// The record is that of the chosen month: another month's card is not saved there unless its sums were edited.
+// The record is that of the chosen month: another month's card is not saved there.
 bool CardScreen::mayUpdateMonthly() const {
-    const bool unsaved = monthUnsaved_ && periodOfMonth(year_, month_, rules_.plngCloseDay()) == period_;
-    return alive_ && !sheet.blnFileMode && (unsaved || sheet.blnMonthChanged);
+    return alive_ && !sheet.blnFileMode && periodOfMonth(year_, month_, rules_.plngCloseDay()) == period_ &&
+           (monthUnsaved_ || sheet.blnMonthChanged);
 }
 
 bool CardScreen::mayApproveSuperior() const {
@@ -52,10 +52,13 @@ bool CardScreen::adjust() {
         !agreesWithMissing(QStringLiteral("集計結果の調整を行います。")))
         return false;
     // A card of another range would give the chosen month sums that aren't its own.
-    const Period shown = period_;
-    const bool adjusted = rebuildPeriod() && (period_ == shown || redraw(period_)) &&
+    const auto period = periodOfMonth(year_, month_, rules_.plngCloseDay());
+    const bool adjusted = period && (*period == period_ || redraw(*period)) &&
                           AdjustMonthly(client_.context, connection(), sheet, rules_, staff_);
-    if (!adjusted) prompts.exclaim(QStringLiteral("集計結果の調整に失敗しました。"));
+    if (adjusted)
+        setPeriod(*period);
+    else
+        prompts.exclaim(QStringLiteral("集計結果の調整に失敗しました。"));
     return adjusted;
 }
 
@@ -64,10 +67,12 @@ bool CardScreen::updateMonthly() {
         !CheckMonthly(client_.context, sheet, rules_) ||
         !agreesWithMissing(QStringLiteral("月次集計の最終保存データを更新します。")))
         return false;
-    if (!rebuildPeriod() || !UpdateMonthly(client_.context, connection(), sheet, rules_, {staff_, section_, period_})) {
+    const auto period = periodOfMonth(year_, month_, rules_.plngCloseDay());
+    if (!period || !UpdateMonthly(client_.context, connection(), sheet, rules_, {staff_, section_, *period})) {
         client_.context.prompts.exclaim(QStringLiteral("月次集計の最終保存データを更新できませんでした。"));
         return false;
     }
+    setPeriod(*period);
     sheet.blnMonthChanged = monthUnsaved_ = false;
     personalApproval_ = superiorApproval_ = false;
     approvable_ = true;

@@ -153,7 +153,7 @@ void frmKurbo::load() {
 void frmKurbo::sectionChosen() {
     const QString code = ui_->dcbSection->isInList() ? ui_->dcbSection->boundText() : QString();
     if (blnShowing_) return;
-    if (code.isEmpty() || code == screen_.section()) return showNames();
+    if (code.isEmpty() || (code == screen_.section() && !screen_.sheet.blnFileMode)) return showNames();
     run([this, &code] { screen_.chooseSection(code); });
 }
 

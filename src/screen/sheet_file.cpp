@@ -45,7 +45,8 @@ void saveSheet(const QString& file, const QString& member, const GridModel& grid
     replaceFile(file, readFile(archive));
 }
 
-QStringList loadSheet(const QString& file, const QString& member, int columns, GridModel& grid) {
+QStringList loadSheet(const QString& file, const QString& member, int columns, GridModel& grid,
+                      const CheckSelection& check) {
     checkMembers(file, member);
     const QTemporaryDir scratch;
     const QString text = scratch.filePath(textMember());
@@ -56,6 +57,7 @@ QStringList loadSheet(const QString& file, const QString& member, int columns, G
     GridModel first;
     LoadGrid(first, image);
     if (first.Cols() != columns) throw foreignFile();
+    if (check) check(selection);
     LoadGrid(grid, image);
     return selection;
 }

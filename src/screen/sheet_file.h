@@ -2,6 +2,8 @@
 
 #include "screen/grid_model.h"
 
+#include <functional>
+
 namespace kurbo {
 
 // The file dialogs' filter of card files.
@@ -15,7 +17,9 @@ namespace kurbo {
 void saveSheet(const QString& file, const QString& member, const GridModel& grid, const QStringList& selection);
 
 // Fills the grid and gives the four texts of the selection. Throws foreignFile() for anything but a card file of this
-// screen, whose grid has so many columns; the grid then stays as it was.
-[[nodiscard]] QStringList loadSheet(const QString& file, const QString& member, int columns, GridModel& grid);
+// screen, whose grid has so many columns; `check` may throw over the selection. The grid then stays as it was.
+using CheckSelection = std::function<void(const QStringList& selection)>;
+[[nodiscard]] QStringList loadSheet(const QString& file, const QString& member, int columns, GridModel& grid,
+                                    const CheckSelection& check = {});
 
 } // namespace kurbo

@@ -71,7 +71,8 @@ class frmLogin final : public QMainWindow {
     void enterLoginField(QWidget* field);
 
     void logIn();
-    [[nodiscard]] bool closeScreensOfOthers(const QString& staff);
+    void admit(const Session& before);
+    [[nodiscard]] bool closeScreens();
     void ShowTimeRecorder();
     void showRecorder(bool shown);
     void setMenusFor(const AccessRights& access, bool loggedIn);

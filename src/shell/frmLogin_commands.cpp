@@ -50,6 +50,8 @@ void frmLogin::connectSetting(QAction* action, Setting setting, const char16_t* 
 
 void frmLogin::openCard(const QString& screen) {
     if (!ReConnect() || activateForm(screen)) return;
+    // The card and the totals go to other sites' files, under the rights of what they show: one of them at a time.
+    if (!closeScreens()) return;
     if (cardAllowed(client_.context, client_.HomeConnection)) openScreen(screen);
 }
 

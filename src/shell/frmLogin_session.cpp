@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
 
@@ -90,29 +91,39 @@ void frmLogin::enterLoginField(QWidget* field) {
 }
 
 void frmLogin::logIn() {
-    if (isLoggedIn() || !ReConnect() || !closeScreensOfOthers(ui_->dcbStaff->boundText())) return;
-    switch (login_.attempt({ui_->dcbSection->boundText(), ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText(),
-                            ui_->txtPassWord->text()})) {
-    case LoginResult::Open:
-        ShowTimeRecorder();
-        break;
-    case LoginResult::Refused:
+    if (isLoggedIn() || !ReConnect()) return;
+    const Session before = client_.session;
+    const LoginResult result = login_.attempt({ui_->dcbSection->boundText(), ui_->dcbStaff->boundText(),
+                                               ui_->dcbStaff->currentText(), ui_->txtPassWord->text()});
+    if (result == LoginResult::Open) return admit(before);
+    if (openForms() > 1) client_.session = before;
+    if (result == LoginResult::Thrown) {
+        close();
+    } else if (result == LoginResult::Refused) {
         ui_->txtPassWord->clear();
         ui_->txtPassWord->setFocus();
-        break;
-    case LoginResult::Thrown:
-        close();
-        break;
-    case LoginResult::Stopped:
-        break;
     }
 }
 
-// A screen that somebody else has left open shows that person's data, under that person's rights.
-bool frmLogin::closeScreensOfOthers(const QString& staff) {
-    if (staff.compare(client_.session.SessionStaff, Qt::CaseInsensitive) == 0) return true;
-    for (QWidget* const form : openScreens())
-        if (form != this && !form->close()) return false;
+// A screen that somebody else has left open shows that person's data, under that person's rights: it closes first.
+// Screens of the same person go on with the rights of the section that they show.
+void frmLogin::admit(const Session& before) {
+    const Session admitted = client_.session;
+    if (openForms() > 1 && admitted.SessionStaff != before.SessionStaff) {
+        client_.session = before;
+        if (!closeScreens()) return ui_->txtPassWord->clear();
+        client_.session = admitted;
+    }
+    ShowTimeRecorder();
+    if (openForms() > 1) client_.session.access = before.access;
+}
+
+// All but this window; false when a person wants to keep one.
+bool frmLogin::closeScreens() {
+    QList<QPointer<QWidget>> screens;
+    for (QWidget* const form : openScreens()) screens.append(form);
+    for (const QPointer<QWidget>& form : screens)
+        if (form && form != this && form->isVisible() && !form->close()) return false;
     return true;
 }
 

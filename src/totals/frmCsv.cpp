@@ -70,6 +70,7 @@ bool frmCsv::run(const QStringList& files) {
         return true;
     });
     if (!filled) return false;
+    const NormalPointer pointer;
     show();
     ui_->vfgCsv->setFocus();
     while (isVisible()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -102,6 +103,7 @@ void frmCsv::addToDatabase() {
                                    QString(), QStringLiteral("よろしいですか？"));
     if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return;
     const QScopedValueRollback adding(adding_, true);
+    const Hourglass hourglass;
     stop_ = false;
     StatusProgress progress(*ui_->status);
     const Context& own = client_.context;

@@ -116,7 +116,7 @@ bool frmTotal::hasConnection() {
 }
 
 void frmTotal::load() {
-    run([this] { loaded_ = screen_.load(); });
+    run([this] { screen_.load(); });
     ui_->vfgKurbo->setFocus();
 }
 
@@ -125,14 +125,13 @@ void frmTotal::loadCsv() {
     if (!screen_.mayDiscard()) return;
     const QStringList files = client_.context.prompts.openFiles(QStringLiteral("CSVﾌｧｲﾙ(*.csv)|*.csv"));
     if (files.isEmpty() || !mayLoadCsv(client_.context, files.size())) return;
-    if (frmCsv(client_, screen_.countUnit(), this).run(files))
-        screen_.display(ui_->mskStart->maskText(), ui_->mskEnd->maskText());
+    if (frmCsv(client_, screen_.countUnit(), this).run(files)) screen_.reload();
 }
 
 void frmTotal::sectionChosen() {
     if (blnShowing_) return;
     const QString code = ui_->dcbSection->isInList() ? ui_->dcbSection->boundText() : QString();
-    if (code.isEmpty() || code == screen_.section()) return showNames();
+    if (code.isEmpty() || (code == screen_.section() && !screen_.sheet.blnFileMode)) return showNames();
     run([this, &code] { screen_.chooseSection(code); });
 }
 
@@ -161,15 +160,15 @@ void frmTotal::showNames() {
 
 void frmTotal::showSpan() {
     (screen_.byStaff() ? ui_->optMethod_0 : ui_->optMethod_1)->setChecked(true);
+    const MonthSpan span = screen_.span();
+    const auto month = static_cast<unsigned>(span.to.month());
+    ui_->txtYear->setText(QString::number(screen_.year()));
+    findChild<QRadioButton*>(QStringLiteral("optMonth_%1").arg(month))->setChecked(true);
     // Months that were typed and not shown yet stay.
     if (spanChanges_ == screen_.spanChanges()) return;
     spanChanges_ = screen_.spanChanges();
-    const MonthSpan span = screen_.span();
-    ui_->txtYear->setText(QString::number(screen_.year()));
     ui_->mskStart->setDay(Day{span.from / 1});
     ui_->mskEnd->setDay(Day{span.to / 1});
-    const auto month = static_cast<unsigned>(span.to.month());
-    findChild<QRadioButton*>(QStringLiteral("optMonth_%1").arg(month))->setChecked(true);
 }
 
 void frmTotal::showCommands() {
@@ -179,7 +178,7 @@ void frmTotal::showCommands() {
     ui_->mnuDelete->setEnabled(screen_.mayDelete());
     ui_->mnuCsv->menuAction()->setEnabled(screen_.mayExchange());
     for (QWidget* const control : {static_cast<QWidget*>(ui_->cmdPrint), static_cast<QWidget*>(ui_->vfgKurbo)})
-        control->setEnabled(loaded_);
+        control->setEnabled(screen_.isAlive());
 }
 
 void frmTotal::closeEvent(QCloseEvent* event) {

@@ -56,7 +56,6 @@ class frmTotal final : public QMainWindow {
     TotalScreen screen_;
     // The program fills the controls, or a command runs: their events mean nothing.
     bool blnShowing_ = false;
-    bool loaded_ = false;
     int spanChanges_ = 0;
 };
 

@@ -6,18 +6,17 @@
 namespace kurbo {
 namespace {
 
-// "(+1:30)170:30" and "170:30(+1:30)"
-QString withoutMark(const QString& text) {
-    if (text.endsWith(u')')) return text.left(text.lastIndexOf(u'('));
-    return text.mid(text.lastIndexOf(u')') + 1);
-}
-
 // A figure stands in the column that it has on the card.
 SumForm formOf(int column, int countUnit) {
     return sumForm(static_cast<CardColumn>(column), countUnit);
 }
 
 } // namespace
+
+QString withoutMark(const QString& text) {
+    if (text.endsWith(u')')) return text.left(text.lastIndexOf(u'('));
+    return text.mid(text.lastIndexOf(u')') + 1);
+}
 
 QString TotalSheet::staffOf(int row) const {
     return row > 0 ? grid.TextMatrix(row, static_cast<int>(TotalColumn::Staff)) : QString();

@@ -34,6 +34,9 @@ class TotalRules final : public GridRules {
     const Session& session_;
 };
 
+// Hours without the bracketed mark that may stand at either end of them.
+[[nodiscard]] QString withoutMark(const QString& text);
+
 // Whether a figure's text is a number, or hours, as its column asks for; hours may have a bracketed mark at either end.
 [[nodiscard]] bool isFigure(int column, int countUnit, const QString& text);
 

@@ -57,8 +57,22 @@ bool TotalScreen::ShowTotal(TotalsQuestion question) {
     sheet.plngCountUnit = totals->countUnit;
     hasSaved_ = std::ranges::any_of(totals->rows, &TotalRow::saved);
     question_ = question;
+    alive_ = true;
     ++spanChanges_;
     return true;
+}
+
+// What stood in the grid no longer holds: without new totals it is empty.
+bool TotalScreen::ShowTotalOrNothing() {
+    if (ShowTotal(question_)) return true;
+    fillTotalGrid(sheet.grid, {});
+    sheet.grid.clearRowStatus();
+    sheet.changed = hasSaved_ = false;
+    return false;
+}
+
+bool TotalScreen::reload() {
+    return leaveFile() && ShowTotalOrNothing();
 }
 
 bool TotalScreen::mayDiscard() const {
@@ -76,7 +90,7 @@ bool TotalScreen::chooseSection(const QString& section) {
         readPeople();
         return true;
     });
-    return there && ShowTotal(question_);
+    return there && ShowTotalOrNothing();
 }
 
 bool TotalScreen::chooseStaff(const QString& staff) {
@@ -128,9 +142,7 @@ bool TotalScreen::update() {
         prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;
     }
-    sheet.changed = false;
-    sheet.grid.clearRowStatus();
-    return ShowTotal(question_);
+    return ShowTotalOrNothing();
 }
 
 bool TotalScreen::deleteMonths(const QString& start, const QString& end) {
@@ -155,7 +167,7 @@ bool TotalScreen::deleteMonths(const QString& start, const QString& end) {
         prompts.exclaim(QStringLiteral("月次集計データの削除に失敗しました。"));
         return false;
     }
-    return ShowTotal(question_);
+    return ShowTotalOrNothing();
 }
 
 bool TotalScreen::refusesFileMode(const QString& command) const {

@@ -31,6 +31,9 @@ class TotalScreen final {
     // The span as it stands in the two boxes, "yyyy/mm".
     bool display(const QString& start, const QString& end);
 
+    // The same totals once more, after the store has changed.
+    bool reload();
+
     // The changed figures into the saved months; and the saved months of the span out of the store.
     bool update();
     bool deleteMonths(const QString& start, const QString& end);
@@ -51,6 +54,8 @@ class TotalScreen final {
     [[nodiscard]] int year() const { return static_cast<int>(question_.to.year()); }
     // How often the span has been set: the two boxes then show it.
     [[nodiscard]] int spanChanges() const { return spanChanges_; }
+    // Whether totals are shown at all.
+    [[nodiscard]] bool isAlive() const { return alive_; }
     [[nodiscard]] bool mayDelete() const;
     [[nodiscard]] bool mayExchange() const;
     [[nodiscard]] int countUnit() const { return sheet.plngCountUnit; }
@@ -60,6 +65,7 @@ class TotalScreen final {
     [[nodiscard]] bool readLists();
     void readPeople();
     [[nodiscard]] bool ShowTotal(TotalsQuestion question);
+    [[nodiscard]] bool ShowTotalOrNothing();
     [[nodiscard]] bool leaveFile();
     [[nodiscard]] bool refusesFileMode(const QString& command) const;
 
@@ -71,6 +77,7 @@ class TotalScreen final {
     QString listSection_;
     TotalsQuestion question_;
     bool hasSaved_ = false;
+    bool alive_ = false;
     int spanChanges_ = 0;
 };
 

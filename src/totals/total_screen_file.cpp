@@ -22,6 +22,11 @@ std::chrono::year_month monthOf(const QString& text) {
     return civil(*first).year() / civil(*first).month();
 }
 
+void checkMonths(const QStringList& selection) {
+    (void)monthOf(selection[2]);
+    (void)monthOf(selection[3]);
+}
+
 } // namespace
 
 bool TotalScreen::saveKrb(const QString& start, const QString& end) {
@@ -45,7 +50,7 @@ bool TotalScreen::loadKrb() {
                // From now on, also after a failure, the screen only shows until totals are drawn from the store.
                sheet.changed = hasSaved_ = false;
                sheet.blnFileMode = true;
-               const QStringList selection = loadSheet(*file, totalMember(), totalColumns, sheet.grid);
+               const QStringList selection = loadSheet(*file, totalMember(), totalColumns, sheet.grid, checkMonths);
                TotalsQuestion question = question_;
                question.section = selection[0];
                question.staff = selection[1];

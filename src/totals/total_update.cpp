@@ -55,9 +55,11 @@ void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const
                      QStringLiteral("SELECT *, F_Year & F_Month AS F_YearMonth From T05_Approved WHERE (F_Staff = ?);"),
                      {staff});
     if (!months.filter(QStringLiteral("F_YearMonth = ?"), {month})) return;
-    for (const MonthField& field : monthFields)
-        months.set(field.field(),
-                   figureOf(field, cellOf(sheet, row, static_cast<int>(field.column)), sheet.plngCountUnit));
+    for (const MonthField& field : monthFields) {
+        const QString cell = cellOf(sheet, row, static_cast<int>(field.column));
+        const QString figure = field.kind == MonthKind::Time ? withoutMark(cell) : cell;
+        months.set(field.field(), figureOf(field, figure, sheet.plngCountUnit));
+    }
     for (const QString& mark : {QStringLiteral("F_PersonalApproval"), QStringLiteral("F_SuperiorApproval")})
         months.set(mark, Value::yesNo(false));
     const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));

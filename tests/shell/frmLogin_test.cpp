@@ -68,6 +68,35 @@ class FrmLogin : public Office {
     frmLogin window{client};
 };
 
+// A screen that is open beside the main window.
+struct OtherScreen final : QWidget {
+    OtherScreen() {
+        setObjectName(QStringLiteral("frmKurbo"));
+        show();
+    }
+};
+
+TEST_F(FrmLogin, SomebodyElsesScreensCloseOnceThePasswordIsRight) {
+    execute("UPDATE M02_StaffInfo SET F_Access = 1, F_EnterDelay = 0, F_LeaveGain = 0 WHERE (F_StaffCode = 'P2')");
+    logInAs("P1", "pw1");
+    client.session.access.set(Right::WriteOtherTime, true);
+    OtherScreen own;
+    window.HideTimeRecorder();
+    password()->clear();
+    logInAs("P1", "pw1");
+    EXPECT_TRUE(own.isVisible() && client.session.access.has(Right::WriteOtherTime))
+        << "the same person's screen goes on with its section's rights";
+    window.HideTimeRecorder();
+    password()->clear();
+    prompts.expect(u8("不正なパスワードです。"));
+    logInAs("P2", "wrong");
+    EXPECT_TRUE(own.isVisible());
+    EXPECT_EQ(client.session.SessionStaff, QStringLiteral("P1"));
+    logInAs("P2", "pw2");
+    EXPECT_FALSE(own.isVisible() || client.session.access.has(Right::WriteOtherTime));
+    EXPECT_EQ(client.session.SessionStaff, QStringLiteral("P2"));
+}
+
 TEST_F(FrmLogin, LoggedOffOnlyTheLoginIsOffered) {
     EXPECT_FALSE(window.isLoggedIn());
     EXPECT_FALSE(button("cmdEnter")->isVisible());

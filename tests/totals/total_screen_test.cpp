@@ -109,6 +109,31 @@ TEST_F(TotalScreenTest, RefusesFiguresByTheirColumn) {
     EXPECT_TRUE(isFigure(4, 0, u"170.5"_q) && !isFigure(4, 0, u"170:30"_q));
 }
 
+TEST_F(TotalScreenTest, AnotherSectionWithoutTotalsLeavesNothingToCorrect) {
+    connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Display) "
+                       "VALUES ('S02', '工場', ?, True)"_q,
+                       {currentDatabase()});
+    connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName, F_Section, F_Order, F_Display) "
+                       "VALUES ('2001', '工藤四郎', 'S02', 9, True)"_q);
+    connection.execute(u"INSERT INTO M08_Access (F_AccessCode, F_Section, F_ReadOtherKurbo, F_WriteOtherMonthly) "
+                       "VALUES (2, 'S02', True, True)"_q);
+    desk.prompts.expect(u"社員設定に不備があります。"_q);
+    EXPECT_FALSE(screen.chooseSection(u"S02"_q));
+    EXPECT_EQ(screen.section(), u"S02"_q);
+    EXPECT_EQ(screen.sheet.grid.Rows(), 1) << "the rows of the section before are gone";
+}
+
+TEST_F(TotalScreenTest, TakesHoursWithAMarkBesideThem) {
+    for (const QString& hours : {u"100:30(+1:30)"_q, u"(+1:30)100:30"_q}) {
+        type(rowOf(u"1001"_q), 4, hours);
+        desk.prompts.expect(u"追加・変更を更新します。"_q);
+        EXPECT_TRUE(screen.update());
+        EXPECT_EQ(saved(u"F_Work"_q, u"1001"_q), u"6030"_q) << hours;
+        connection.execute(u"UPDATE T05_Approved SET F_Work = 0"_q);
+        EXPECT_TRUE(screen.chooseMonth(4));
+    }
+}
+
 TEST_F(TotalScreenTest, DeletesTheSavedMonthsOfTheSpan) {
     EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
     desk.prompts.expect(u"表示期間(2026/06～2026/07)には\r\n保存された月次集計データが無いため、"_q);
