@@ -61,6 +61,7 @@ class Grid final : public QTableView {
     bool viewportEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void updateGeometries() override;
@@ -98,6 +99,8 @@ class Grid final : public QTableView {
     QHash<int, int> ownWidths_;
     int stretchColumn_ = -1;
     bool applying_ = false;
+    // A double click has opened a list.
+    bool listWanted_ = false;
     // Where the cursor stood before the grid was filled anew.
     int keptRow_ = -1;
     int keptColumn_ = -1;

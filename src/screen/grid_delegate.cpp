@@ -170,7 +170,11 @@ void GridDelegate::setModelData(QWidget* /*editor*/, QAbstractItemModel* /*model
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex& /*index*/) const {
-    editor->setGeometry(option.rect);
+    QRect place = option.rect;
+    // A word of the list fits beside its arrow.
+    if (qobject_cast<const QComboBox*>(editor)) place.setWidth(std::max(place.width(), editor->sizeHint().width()));
+    place.moveRight(std::min(place.right(), editor->parentWidget()->width() - 1));
+    editor->setGeometry(place);
 }
 
 QString GridDelegate::refusal() const {

@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 namespace kurbo {
 
@@ -69,7 +70,7 @@ bool Grid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     if (click && rules && !rules->opensByClick(index.row(), index.column())) return false;
     GridPane* const pane = paneOf(index);
     const bool begun = pane ? pane->begin(index, trigger, event) : QTableView::edit(index, trigger, event);
-    if (begun && trigger == DoubleClicked) openCells().openList();
+    listWanted_ = begun && trigger == DoubleClicked;
     return begun;
 }
 
@@ -116,6 +117,12 @@ void Grid::keyPressEvent(QKeyEvent* event) {
 
 void Grid::mousePressEvent(QMouseEvent* event) {
     if (finishEdit()) QTableView::mousePressEvent(event);
+}
+
+// A list that dropped down before the button is up would go with it again.
+void Grid::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    if (std::exchange(listWanted_, false)) openCells().openList();
 }
 
 // The grid acts as if the cell had been clicked in its own place.

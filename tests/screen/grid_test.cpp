@@ -171,6 +171,17 @@ TEST_F(GridOnScreen, ListsAndBoxesAreWorkedByKeyAndMouse) {
     QCoreApplication::processEvents();
     EXPECT_EQ(cells.TextMatrix(7, 2), u"全日"_q);
     EXPECT_FALSE(grid.isEditing());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    grid.Select(8, 2);
+    QWidget* const view = grid.viewport();
+    const QPoint cell = grid.visualRect(cells.index(8, 2)).center();
+    QTest::mouseClick(view, Qt::LeftButton, {}, cell);
+    QTest::mouseDClick(view, Qt::LeftButton, {}, cell);
+    QTest::mouseRelease(view, Qt::LeftButton, {}, cell);
+    auto* const clicked = grid.findChild<QComboBox*>();
+    ASSERT_TRUE(clicked && clicked->view()->isVisible());
+    clicked->hidePopup();
+    grid.cancelEdit();
     grid.Select(5, 4);
     press(Qt::Key_Space);
     EXPECT_TRUE(cells.CellChecked(5, 4));
