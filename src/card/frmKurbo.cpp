@@ -128,17 +128,9 @@ void frmKurbo::run(const std::function<void()>& command) {
     if (ui_->vfgKurbo->finishEdit()) {
         const QScopedValueRollback showing(blnShowing_, true);
         const Hourglass hourglass;
-        if (hasConnection()) command();
+        if (client_.hasConnection(u"frmKurbo")) command();
     }
     showState();
-}
-
-// Opens a file again that the disk or the network has taken away meanwhile.
-bool frmKurbo::hasConnection() {
-    return guarded(client_.context, u"frmKurbo", u"ReConnect", false, [this] {
-        client_.reopenCurrent();
-        return true;
-    });
 }
 
 void frmKurbo::coming(const QString& name) {

@@ -47,7 +47,6 @@ class frmKurbo final : public QMainWindow {
     // Runs a command that works on the card: the open cell is taken first, and the window then shows what stands.
     void run(const std::function<void()>& command);
     void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
-    [[nodiscard]] bool hasConnection();
     void coming(const QString& name);
 
     void showState();

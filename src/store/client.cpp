@@ -9,10 +9,13 @@ void Client::openHome() {
     if (!OtherConnection.isOpen()) CurrentConnection = &HomeConnection;
 }
 
-void Client::reopenCurrent() {
-    if (CurrentConnection->isOpen()) return;
-    const QString path = CurrentConnection->path();
-    CurrentConnection->open(path.isEmpty() ? DbPath : path, databasePassword());
+bool Client::hasConnection(QStringView form) {
+    return guarded(context, form, u"ReConnect", false, [this] {
+        if (CurrentConnection->isOpen()) return true;
+        const QString path = CurrentConnection->path();
+        CurrentConnection->open(path.isEmpty() ? DbPath : path, databasePassword());
+        return true;
+    });
 }
 
 void Client::closeConnections() {

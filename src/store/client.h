@@ -35,8 +35,9 @@ class Client final {
 
     // Opens the home database on DbPath, and works on it unless a screen is at another site's file; throws.
     void openHome();
-    // Opens the file that is worked on, if it is closed; throws.
-    void reopenCurrent();
+    // Opens the file that is worked on again, where the disk or the network has taken it away; false after a failure,
+    // which is reported under the form's name.
+    [[nodiscard]] bool hasConnection(QStringView form);
     void closeConnections();
     // The help of the person who logged in last; that for people at first.
     [[nodiscard]] const QString& helpPath() const;

@@ -103,16 +103,9 @@ void frmTotal::run(const std::function<void()>& command) {
     if (ui_->vfgKurbo->finishEdit()) {
         const QScopedValueRollback showing(blnShowing_, true);
         const Hourglass hourglass;
-        if (hasConnection()) command();
+        if (client_.hasConnection(u"frmTotal")) command();
     }
     showState();
-}
-
-bool frmTotal::hasConnection() {
-    return guarded(client_.context, u"frmTotal", u"ReConnect", false, [this] {
-        client_.reopenCurrent();
-        return true;
-    });
 }
 
 void frmTotal::load() {

@@ -41,7 +41,6 @@ class frmTotal final : public QMainWindow {
     // Runs a command that works on the grid: the open cell is taken first, and the window then shows what stands.
     void run(const std::function<void()>& command);
     void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
-    [[nodiscard]] bool hasConnection();
 
     void showState();
     void showNames();
