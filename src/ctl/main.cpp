@@ -30,6 +30,8 @@ constexpr std::array commands{
             u"[--format ...]"},
     Command{u"export", runExport, u"export FILE --section CODE [--staff CODE] --from yyyy/mm --to yyyy/mm --out X.csv"},
     Command{u"import", runImport, u"import FILE X.csv... [--overwrite]"},
+    Command{u"move", runMove,
+            u"move FILE --dest DEST.mdb --from yyyy/mm/dd --to yyyy/mm/dd [--month-from yyyy/mm --month-to yyyy/mm]"},
     Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
     Command{u"punch", runPunch,
             u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "
