@@ -2,6 +2,7 @@
 
 #include "card/frmKurbo.h"
 #include "settings/frmWorkStyle.h"
+#include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
 
 #include <algorithm>
@@ -26,6 +27,7 @@ constexpr std::array screens{
     Screen{u"frmKurbo", &made<frmKurbo>},
     Screen{u"frmTotal", &made<frmTotal>},
     Screen{u"frmWorkStyle", &made<frmWorkStyle>},
+    Screen{u"frmWorkTime", &made<frmWorkTime>},
 };
 
 } // namespace
