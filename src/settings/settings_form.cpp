@@ -16,9 +16,10 @@ namespace kurbo {
 
 void SettingsForm::load() {
     const Hourglass hourglass;
-    alive_ = hasConnection() && guarded(client_.context, objectName(), u"Form_Load", false, [this] {
+    alive_ = hasConnection();
+    alive_ = alive_ && guarded(client_.context, objectName(), u"Form_Load", false, [this] {
                  fill([this] { readAll(); });
-                 return true;
+                 return alive_;
              });
     if (centralWidget()) centralWidget()->setEnabled(alive_);
     setChanged(false);

@@ -25,8 +25,11 @@ class SettingsForm : public ScreenForm {
   protected:
     using ScreenForm::ScreenForm;
 
-    // Reads what the screen needs and shows it; throws. Runs with the loading flag set.
+    // Reads what the screen needs and shows it; throws, or says loadFailed(). Runs with the loading flag set.
     virtual void readAll() = 0;
+    // Something that the screen needs could not be read, and the person knows.
+    void loadFailed() { alive_ = false; }
+    [[nodiscard]] bool isAlive() const { return alive_; }
     // A watched field has been changed by the person: the place for enabling what depends on it.
     virtual void fieldChanged() {}
     // The last word before the window closes.

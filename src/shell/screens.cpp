@@ -3,6 +3,7 @@
 #include "card/frmKurbo.h"
 #include "settings/frmAccess.h"
 #include "settings/frmWorkStyle.h"
+#include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ constexpr std::array screens{
     Screen{u"frmTotal", &made<frmTotal>},
     Screen{u"frmWorkStyle", &made<frmWorkStyle>},
     Screen{u"frmAccess", &made<frmAccess>},
+    Screen{u"frmWorkTime", &made<frmWorkTime>},
 };
 
 } // namespace
