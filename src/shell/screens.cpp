@@ -1,6 +1,9 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "settings/frmAccess.h"
+#include "settings/frmWorkStyle.h"
+#include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
 
 #include <algorithm>
@@ -21,7 +24,13 @@ struct Screen {
     QMainWindow* (*make)(Client& client);
 };
 
-constexpr std::array screens{Screen{u"frmKurbo", &made<frmKurbo>}, Screen{u"frmTotal", &made<frmTotal>}};
+constexpr std::array screens{
+    Screen{u"frmKurbo", &made<frmKurbo>},
+    Screen{u"frmTotal", &made<frmTotal>},
+    Screen{u"frmWorkStyle", &made<frmWorkStyle>},
+    Screen{u"frmAccess", &made<frmAccess>},
+    Screen{u"frmWorkTime", &made<frmWorkTime>},
+};
 
 } // namespace
 
