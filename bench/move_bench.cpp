@@ -61,8 +61,7 @@ class WatchedBar final : public Progress {
 };
 
 MoveOrder order(const QString& destination) {
-    return {makeDay(2023, 4, 1), makeDay(2024, 3, 31), true,
-            makeDay(2023, 4, 1), makeDay(2024, 3, 1),  destination};
+    return {makeDay(2023, 4, 1), makeDay(2024, 3, 31), true, makeDay(2023, 4, 1), makeDay(2024, 3, 1), destination};
 }
 
 } // namespace
@@ -90,16 +89,15 @@ int main() {
         Connection connection;
         connection.open(path, databasePassword());
         QString word;
-        const double move =
-            timed([&] { word = carryOut(watched, connection, path, order(destination)); });
+        const double move = timed([&] { word = carryOut(watched, connection, path, order(destination)); });
         if (word != u"OK") return 1;
         bare.add(least);
         moved.add(move);
         ratios.add(move / least);
     }
-    std::printf("copy and compact %.0f ms, move %.0f ms, %.2f times (at best %.2f); the bar stood at %zu places, at most "
-                "%.0f ms at one\n",
-                bare.at(50) / 1000, moved.at(50) / 1000, ratios.at(50), moved.at(0) / bare.at(0), bar.places(),
-                bar.longest());
+    std::printf(
+        "copy and compact %.0f ms, move %.0f ms, %.2f times (at best %.2f); the bar stood at %zu places, at most "
+        "%.0f ms at one\n",
+        bare.at(50) / 1000, moved.at(50) / 1000, ratios.at(50), moved.at(0) / bare.at(0), bar.places(), bar.longest());
     return 0;
 }

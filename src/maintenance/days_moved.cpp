@@ -31,8 +31,8 @@ void DeleteApprovedRange(BulkChange& change, Day start, Day end, bool keepRange)
         {dateId(start).left(monthLength), dateId(end).left(monthLength)});
 }
 
-// "UPDATE T02_Kurbo SET F_KurboID = F_KurboID - offset;" moves each row within the table, which takes half as long again
-// as filling it anew.
+// "UPDATE T02_Kurbo SET F_KurboID = F_KurboID - offset;" moves each row within the table, which takes half as long
+// again as filling it anew.
 void RenumberKurbo(BulkChange& change) {
     Connection& connection = change.connection();
     const auto first = connection.firstValue(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo ORDER BY F_KurboID;"));

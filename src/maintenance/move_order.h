@@ -27,7 +27,8 @@ struct MoveOrder {
 [[nodiscard]] bool hasDestFolder(const QString& destination);
 [[nodiscard]] QString noDestFolderText();
 
-// Throws the Complaint of the first thing that is wrong. `database` is the file that the days leave. Nothing is touched.
+// Throws the Complaint of the first thing that is wrong. `database` is the file that the days leave. Nothing is
+// touched.
 void checkMove(const Context& context, const QString& database, const MoveOrder& order);
 
 } // namespace kurbo

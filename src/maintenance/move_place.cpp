@@ -3,11 +3,12 @@
 #include "base/files.h"
 #include "store/lock_file.h"
 
-#include <QFile>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -31,12 +32,9 @@ QString plainName(const QString& path) {
 // Compaction, the lock and the copy at the program's end would take the moved days for a file of theirs.
 bool isReserved(const Context& context, const QString& database, const QString& destination) {
     const QString own = realPath(database);
-    const QStringList reserved{LockFile::nameFor(own),
-                               LockFile::copyNameFor(own),
-                               own + QStringLiteral("-journal"),
-                               own + QStringLiteral("-wal"),
-                               own + QStringLiteral("-shm"),
-                               context.paths.BackupPath};
+    const QStringList reserved{LockFile::nameFor(own),           LockFile::copyNameFor(own),
+                               own + QStringLiteral("-journal"), own + QStringLiteral("-wal"),
+                               own + QStringLiteral("-shm"),     context.paths.BackupPath};
     return std::ranges::any_of(reserved, [&](const QString& path) {
         return isSameFile(path, destination) || plainName(path) == plainName(destination);
     });
@@ -57,7 +55,7 @@ bool hasRoom(const QString& database, const QString& folder) {
 }
 
 bool mayWrite(const QString& path) {
-    return ::access(QFile::encodeName(path).constData(), W_OK) == 0;
+    return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) == 0;
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "maintenance/frmDeleteDest.h"
+#include "maintenance/frmMaintainance.h"
 #include "settings/frmAccess.h"
 #include "settings/frmWorkStyle.h"
 #include "settings/frmWorkTime.h"
@@ -30,6 +32,8 @@ constexpr std::array screens{
     Screen{u"frmWorkStyle", &made<frmWorkStyle>},
     Screen{u"frmAccess", &made<frmAccess>},
     Screen{u"frmWorkTime", &made<frmWorkTime>},
+    Screen{u"frmMaintainance", &made<frmMaintainance>},
+    Screen{u"frmDeleteDest", &made<frmDeleteDest>},
 };
 
 } // namespace

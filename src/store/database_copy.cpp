@@ -33,8 +33,8 @@ Engine newFile(const QString& path) {
 constexpr std::array leftovers{"-journal", "-wal", "-shm"};
 
 bool hasLeftovers(const QString& path) {
-    return std::ranges::any_of(
-        leftovers, [&](const char* ending) { return QFileInfo::exists(path + QLatin1StringView(ending)); });
+    return std::ranges::any_of(leftovers,
+                               [&](const char* ending) { return QFileInfo::exists(path + QLatin1StringView(ending)); });
 }
 
 // The engine finishes what a crash has interrupted. Where there is no database to finish, nothing is lost.

@@ -16,8 +16,8 @@ namespace kurbo {
 // is as it was.
 [[nodiscard]] QString OptimizeDB(const Context& context, const QString& path, const QString& password);
 
-// The same for a caller who goes on with the database: after "OK" it is his alone until he leaves `lock`, which is given
-// free. `notice` runs now and then meanwhile.
+// The same for a caller who goes on with the database: after "OK" it is his alone until he leaves `lock`, which is
+// given free. `notice` runs now and then meanwhile.
 [[nodiscard]] QString OptimizeDB(const Context& context, const QString& path, const QString& password, LockFile& lock,
                                  const WorkNotice& notice);
 
