@@ -1,6 +1,7 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "settings/frmCalendar.h"
 #include "settings/frmWorkStyle.h"
 #include "totals/frmTotal.h"
 
@@ -26,6 +27,7 @@ constexpr std::array screens{
     Screen{u"frmKurbo", &made<frmKurbo>},
     Screen{u"frmTotal", &made<frmTotal>},
     Screen{u"frmWorkStyle", &made<frmWorkStyle>},
+    Screen{u"frmCalendar", &made<frmCalendar>},
 };
 
 } // namespace
