@@ -2,6 +2,7 @@
 
 #include "card/frmKurbo.h"
 #include "settings/frmAccess.h"
+#include "settings/frmCalendar.h"
 #include "settings/frmWorkStyle.h"
 #include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
@@ -30,6 +31,7 @@ constexpr std::array screens{
     Screen{u"frmWorkStyle", &made<frmWorkStyle>},
     Screen{u"frmAccess", &made<frmAccess>},
     Screen{u"frmWorkTime", &made<frmWorkTime>},
+    Screen{u"frmCalendar", &made<frmCalendar>},
 };
 
 } // namespace
