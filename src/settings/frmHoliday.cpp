@@ -12,16 +12,16 @@ frmHoliday::frmHoliday(Client& client, CalendarSheet& calendar, QWidget* parent)
     ui_->setupUi(this);
     dress(QStringLiteral("休日設定"));
     rules_.grid.setRules(&cells_);
-    SetupGrid(rules_, calendar_);
     ui_->vfgHoliday->setGrid(rules_.grid, client_.context);
     ui_->vfgHoliday->setStretchColumn(static_cast<int>(HolidayColumn::Name));
     wireGridMenu(*ui_->vfgHoliday, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
     onCommand(ui_->cmdHoliday, ui_->mnuHoliday, [this] { addHolidays(); });
     onCommand(ui_->cmdWrite, ui_->mnuWrite, [this] { write(); });
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QWidget::close);
+    SetupGrid(rules_, calendar_);
     ui_->vfgHoliday->Select(1, static_cast<int>(HolidayColumn::Method));
-    ui_->vfgHoliday->setFocus();
     fillScreen(this, {720, 620});
+    ui_->vfgHoliday->setFocus();
 }
 
 frmHoliday::~frmHoliday() {
