@@ -1,6 +1,10 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "settings/frmCorp.h"
+#include "settings/frmPassword.h"
+#include "settings/frmSection.h"
+#include "settings/frmStaff.h"
 #include "settings/frmWorkStyle.h"
 #include "totals/frmTotal.h"
 
@@ -17,6 +21,14 @@ QMainWindow* made(Client& client) {
     return form;
 }
 
+// While it is open, nothing else can be worked on.
+template <typename Form>
+QMainWindow* madeModal(Client& client) {
+    QMainWindow* const form = made<Form>(client);
+    form->setWindowModality(Qt::ApplicationModal);
+    return form;
+}
+
 struct Screen {
     const char16_t* name;
     QMainWindow* (*make)(Client& client);
@@ -25,7 +37,11 @@ struct Screen {
 constexpr std::array screens{
     Screen{u"frmKurbo", &made<frmKurbo>},
     Screen{u"frmTotal", &made<frmTotal>},
-    Screen{u"frmWorkStyle", &made<frmWorkStyle>},
+    Screen{u"frmCorp", &madeModal<frmCorp>},
+    Screen{u"frmSection", &madeModal<frmSection>},
+    Screen{u"frmStaff", &madeModal<frmStaff>},
+    Screen{u"frmWorkStyle", &madeModal<frmWorkStyle>},
+    Screen{u"frmPassword", &madeModal<frmPassword>},
 };
 
 } // namespace
