@@ -245,7 +245,7 @@ TEST_F(NewSite, IsSetUpThroughTheWindowsInTheirOrder) {
     EXPECT_EQ(cells.CellText(today, static_cast<int>(CardColumn::Over)), u"1:30"_q);
     // Sunday, Wednesday the 15th and the 29th, a public holiday.
     for (const auto& [day, type] : {std::pair{5, u"0"_q}, {15, QString()}, {29, u"0"_q}})
-        EXPECT_EQ(cells.TextMatrix(firstCardDay + day - 1, static_cast<int>(CardColumn::Type)), type) << day;
+        EXPECT_EQ(cells.TextMatrix(firstCardDay + day - 1, static_cast<int>(CardColumn::Holiday)), type) << day;
     close(card);
 }
 
