@@ -100,6 +100,7 @@ void frmWorkTime::readAll() {
     shown_ = askedPage();
     if (!exists(shownPage().sheet.page, style_)) shown_ = 0;
     ui_->tabTime->setCurrentIndex(shown_);
+    shownPage().dtsList->setFocus();
     statusBar()->clearMessage();
 }
 
