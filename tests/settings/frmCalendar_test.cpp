@@ -154,7 +154,10 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     type(grid, 2, 4, u"0814"_q);
     type(grid, 2, 5, u"Obon"_q);
     choose(grid, 2, 6, 1);
-    desk.prompts.expect(u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n\r\nよろしいですか？"_q, Answer::Cancel)
+    desk.prompts
+        .expect(
+            u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n\r\nよろしいですか？"_q,
+            Answer::Cancel)
         .expect(u"2027年の祝日"_q);
     in<QPushButton>(*rules, "cmdHoliday").click();
     EXPECT_EQ(grid.grid()->TextMatrix(3, 1), QString());
