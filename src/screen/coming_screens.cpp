@@ -12,9 +12,8 @@ struct Screen {
 };
 
 constexpr std::array screens{
-    Screen{u"frmWorkTime", u"勤務時間設定"},   Screen{u"frmAccess", u"アクセス権設定"},
-    Screen{u"frmAsign", u"社員設定"},          Screen{u"frmCalendar", u"カレンダー設定"},
-    Screen{u"frmMaintainance", u"データ移動"}, Screen{u"frmDeleteDest", u"外出先削除"},
+    Screen{u"frmMaintainance", u"データ移動"},
+    Screen{u"frmDeleteDest", u"外出先削除"},
 };
 
 } // namespace

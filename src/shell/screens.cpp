@@ -1,11 +1,15 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "settings/frmAccess.h"
+#include "settings/frmAsign.h"
+#include "settings/frmCalendar.h"
 #include "settings/frmCorp.h"
 #include "settings/frmPassword.h"
 #include "settings/frmSection.h"
 #include "settings/frmStaff.h"
 #include "settings/frmWorkStyle.h"
+#include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
 
 #include <algorithm>
@@ -41,6 +45,10 @@ constexpr std::array screens{
     Screen{u"frmSection", &madeModal<frmSection>},
     Screen{u"frmStaff", &madeModal<frmStaff>},
     Screen{u"frmWorkStyle", &madeModal<frmWorkStyle>},
+    Screen{u"frmWorkTime", &madeModal<frmWorkTime>},
+    Screen{u"frmAccess", &madeModal<frmAccess>},
+    Screen{u"frmAsign", &madeModal<frmAsign>},
+    Screen{u"frmCalendar", &madeModal<frmCalendar>},
     Screen{u"frmPassword", &madeModal<frmPassword>},
 };
 

@@ -188,7 +188,7 @@ void WorkingDay::administrator() {
     showSetting("mnuSection", "frmSection", QStringLiteral("部課情報登録"));
     showSetting("mnuStaff", "frmStaff", QStringLiteral("社員情報登録"));
     showSetting("mnuPassword", "frmPassword", QStringLiteral("パスワード変更"));
-    window_.findChild<QAction*>(QStringLiteral("mnuCalendar"))->trigger();
+    calendar();
     window_.findChild<QAction*>(QStringLiteral("mnuTopic"))->trigger();
 }
 
@@ -200,6 +200,30 @@ void WorkingDay::showSetting(const char* menu, const char* name, const QString& 
     if (!form) return;
     if (auto* const list = form->findChild<DataList*>()) press(list, Qt::Key_Down);
     camera_.shoot(*form, title);
+    form->close();
+    settle();
+}
+
+// Every Sunday becomes a day off.
+void WorkingDay::calendar() {
+    window_.findChild<QAction*>(QStringLiteral("mnuCalendar"))->trigger();
+    settle();
+    QWidget* const form = screen("frmCalendar");
+    if (!form) return;
+    form->findChild<QAction*>(QStringLiteral("mnuHoliday"))->trigger();
+    settle();
+    if (QWidget* const rules = screen("frmHoliday")) {
+        GridModel& cells = *rules->findChild<Grid*>(QStringLiteral("vfgHoliday"))->grid();
+        int column = 0;
+        for (const char16_t* text : {u"毎週", u"日曜日", u"", u"", u"定休日", u"全日"})
+            cells.edit(1, ++column, QString::fromUtf16(text));
+        camera_.shoot(*rules, QStringLiteral("休日設定"));
+        rules->findChild<QPushButton*>(QStringLiteral("cmdWrite"))->click();
+        settle();
+    }
+    camera_.shoot(*form, QStringLiteral("カレンダー設定"));
+    form->findChild<QPushButton*>(QStringLiteral("cmdUpdate"))->click();
+    settle();
     form->close();
     settle();
 }
