@@ -1,53 +1,54 @@
 #pragma once
 
-#include "screen/fields.h"
+#include "screen/data_list.h"
 #include "settings/settings_form.h"
+#include "store/client.h"
 #include "support/sample_company.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
+#include <QPushButton>
 #include <QTest>
 
 namespace kurbo::test {
 
-// A settings screen over the sample company, worked by keyboard as an administrator works it.
+// A settings screen on the sample company, worked as a person works it.
 template <typename Form>
 class SettingsWindow : public SampleCompany {
   protected:
     ~SettingsWindow() override { delete form; }
-    void open() {
-        if (client.DbPath.isEmpty()) {
-            client.DbPath = path;
-            client.openHome();
-        }
-        delete form;
+    void open(const QString& staff = QStringLiteral("ADMIN")) {
+        client.DbPath = path;
+        client.openHome();
+        client.session.SessionStaff = staff;
         form = new Form(client);
         form->load();
         form->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     }
-    template <typename Widget>
-    [[nodiscard]] Widget* find(const char* name) const {
-        auto* const found = form->template findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_TRUE(found) << name;
-        return found;
+    template <typename Control = QLineEdit>
+    [[nodiscard]] Control& of(const char* name) const {
+        return *form->template findChild<Control*>(QString::fromLatin1(name));
     }
-    // Replaces what stands in a text box, a masked box or an editable combo.
+    static void press(int key) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        QCoreApplication::processEvents();
+    }
+    // Into a box, over what stands there.
     void type(const char* name, const QString& text) const {
-        auto* const field = find<QWidget>(name);
-        field->setFocus();
-        editorOf(field)->selectAll();
-        QTest::keyClick(editorOf(field), Qt::Key_Delete);
-        for (const QChar sign : text) QTest::sendKeyEvent(QTest::Click, editorOf(field), Qt::Key_unknown, sign, {});
+        auto& box = of<QWidget>(name);
+        box.setFocus();
+        if (auto* const line = qobject_cast<QLineEdit*>(&box)) line->selectAll();
+        for (const char32_t sign : text.toUcs4()) {
+            QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&sign, 1));
+            QApplication::sendEvent(&box, &event);
+        }
     }
-    void click(const char* button) const { find<QAbstractButton>(button)->click(); }
-    void trigger(const char* action) const { find<QAction>(action)->trigger(); }
-    // Both commands of an update are off, or both are on.
-    [[nodiscard]] bool mayUpdate() const {
-        EXPECT_EQ(find<QWidget>("cmdUpdate")->isEnabled(), find<QAction>("mnuUpdate")->isEnabled());
-        return find<QWidget>("cmdUpdate")->isEnabled();
+    void trigger(const char* action) const { of<QAction>(action).trigger(); }
+    [[nodiscard]] bool isUpdatable() const {
+        EXPECT_EQ(of<QWidget>("cmdUpdate").isEnabled(), of<QAction>("mnuUpdate").isEnabled());
+        return of<QWidget>("cmdUpdate").isEnabled();
     }
 
     Client client{desk.context};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "settings/corp.h"
+#include "settings/section.h"
+#include "settings/staff.h"
+#include "store/engine_fault.h"
+#include "support/sample_company.h"
+
+namespace kurbo::test {
+
+// A text that each field takes.
+inline RecordTexts goodTexts(RecordFields fields) {
+    RecordTexts texts;
+    for (const RecordField& field : fields) switch (field.kind) {
+        case FieldKind::Date:
+            texts.append(u"1980/02/29"_q);
+            break;
+        case FieldKind::Prefecture:
+            texts.append(u"東京都"_q);
+            break;
+        case FieldKind::List:
+            texts.append(u"S01"_q);
+            break;
+        case FieldKind::Option:
+        case FieldKind::Flag:
+            texts.append(u"1"_q);
+            break;
+        default:
+            texts.append(u"ｱ1"_q);
+        }
+    return texts;
+}
+
+inline RecordTexts with(RecordFields fields, const QString& field, const QString& text) {
+    RecordTexts texts = goodTexts(fields);
+    texts[fieldAt(fields, field)] = text;
+    return texts;
+}
+
+// The words of the complaint, the number of the fault, or nothing.
+template <typename Body>
+QString refusalOf(Body body) {
+    try {
+        body();
+        return {};
+    } catch (const Complaint& complaint) {
+        return complaint.description();
+    } catch (const Fault& fault) {
+        return QString::number(fault.number());
+    }
+}
+
+} // namespace kurbo::test
