@@ -27,9 +27,8 @@ class FrmCalendar : public SettingsWindow<frmCalendar> {
     [[nodiscard]] Widget& ofRules(const char* name) const {
         return *rules->findChild<Widget*>(QString::fromLatin1(name));
     }
-    [[nodiscard]] Grid& days() const { return *find<Grid>("vfgCalendar"); }
-    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    static void typeInto(Grid& grid, int row, int column, const QString& text) {
+    [[nodiscard]] Grid& days() const { return of<Grid>("vfgCalendar"); }
+    static void typeAt(Grid& grid, int row, int column, const QString& text) {
         grid.setFocus();
         grid.Select(row, column);
         for (const QChar sign : text) QTest::keyClick(QApplication::focusWidget(), sign.toLatin1());
@@ -56,32 +55,32 @@ class FrmCalendar : public SettingsWindow<frmCalendar> {
 TEST_F(FrmCalendar, DaysAreTypedAndStored) {
     open();
     EXPECT_EQ(form->windowTitle(), u"Kurbo－カレンダー設定"_q);
-    EXPECT_EQ(find<QLineEdit>("txtYear")->text(), u"2026"_q);
+    EXPECT_EQ(of<QLineEdit>("txtYear").text(), u"2026"_q);
     EXPECT_EQ(days().grid()->CellText(119, 1) + days().grid()->CellText(119, 2), u"2026/04/29(水)昭和の日"_q);
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
     EXPECT_EQ(form->statusBar()->currentMessage(), u"日付の名称を入力します(例：夏季休暇)"_q);
-    typeInto(days(), 2, 2, u"Rest"_q);
-    EXPECT_TRUE(mayUpdate());
+    typeAt(days(), 2, 2, u"Rest"_q);
+    EXPECT_TRUE(isUpdatable());
     choose(days(), 2, 3, 2);
     EXPECT_EQ(days().grid()->TextMatrix(2, 3), u"1"_q);
     EXPECT_EQ(days().grid()->CellText(2, 3), u"午前"_q);
     desk.prompts.expect(u"半角30文字"_q);
-    typeInto(days(), 3, 2, u"x"_q.repeated(31));
+    typeAt(days(), 3, 2, u"x"_q.repeated(31));
     EXPECT_TRUE(days().isEditing());
     press(Qt::Key_Escape);
     desk.prompts.expect(update, Answer::Cancel).expect(update);
-    click("cmdUpdate");
+    of<QPushButton>("cmdUpdate").click();
     EXPECT_EQ(stored(u"20260102"_q), u"- -"_q);
     trigger("mnuUpdate");
     EXPECT_EQ(stored(u"20260102"_q), u"Rest 1"_q);
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
     EXPECT_EQ(days().Row(), 3) << "the cursor stays where it was";
     days().Select(2, 3);
     press(Qt::Key_Delete);
     connection.execute(u"DELETE FROM T01_Calendar WHERE F_DateID = '20260102'"_q);
     desk.prompts.expect(update).expect(u"2026/01/02は"_q).expect(u"追加・変更を更新できませんでした。"_q);
-    click("cmdUpdate");
-    EXPECT_TRUE(mayUpdate());
+    of<QPushButton>("cmdUpdate").click();
+    EXPECT_TRUE(isUpdatable());
     desk.prompts.expect(discard, Answer::No).expect(discard, Answer::Yes);
     press(Qt::Key_Escape);
     EXPECT_TRUE(form && form->isVisible());
@@ -91,21 +90,21 @@ TEST_F(FrmCalendar, DaysAreTypedAndStored) {
 
 TEST_F(FrmCalendar, YearsAreTurnedByKey) {
     open();
-    auto& year = *find<QLineEdit>("txtYear");
+    auto& year = of<QLineEdit>("txtYear");
     year.setFocus();
     desk.prompts.expect(u"2027年のカレンダーは作成されていません。"_q);
     press(Qt::Key_Up);
     EXPECT_EQ(year.text(), u"2027"_q);
     EXPECT_EQ(days().grid()->CellText(365, 1), u"2027/12/31(金)"_q);
-    typeInto(days(), 1, 2, u"a"_q);
+    typeAt(days(), 1, 2, u"a"_q);
     year.setFocus();
     desk.prompts.expect(discard, Answer::No).expect(discard, Answer::Yes);
     press(Qt::Key_Down);
     EXPECT_EQ(year.text(), u"2027"_q);
-    EXPECT_TRUE(mayUpdate());
+    EXPECT_TRUE(isUpdatable());
     press(Qt::Key_Down);
     EXPECT_EQ(year.text(), u"2026"_q);
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
     EXPECT_TRUE(form->close());
 }
 
@@ -121,13 +120,13 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     choose(grid, 2, 1, 7);
     desk.prompts.expect(u"2行目で開始日付が正しく入力されていません。"_q);
     ofRules<QPushButton>("cmdWrite").click();
-    typeInto(grid, 2, 3, u"0812"_q);
+    typeAt(grid, 2, 3, u"0812"_q);
     EXPECT_EQ(grid.grid()->TextMatrix(2, 3), u"08/12"_q);
     desk.prompts.expect(u"不正な入力です。日付をmm:dd形式で入力して下さい。"_q);
-    typeInto(grid, 2, 4, u"0832"_q);
+    typeAt(grid, 2, 4, u"0832"_q);
     press(Qt::Key_Escape);
-    typeInto(grid, 2, 4, u"0814"_q);
-    typeInto(grid, 2, 5, u"Obon"_q);
+    typeAt(grid, 2, 4, u"0814"_q);
+    typeAt(grid, 2, 5, u"Obon"_q);
     choose(grid, 2, 6, 1);
     desk.prompts
         .expect(
@@ -141,12 +140,12 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     const QString write = u"指定された休日をカレンダーに設定します。\r\n\r\nよろしいですか？"_q;
     desk.prompts.expect(write, Answer::Cancel).expect(write);
     ofRules<QPushButton>("cmdWrite").click();
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
     ofRules<QAction>("mnuWrite").trigger();
     EXPECT_FALSE(rules && rules->isVisible());
-    EXPECT_TRUE(mayUpdate());
+    EXPECT_TRUE(isUpdatable());
     desk.prompts.expect(update);
-    click("cmdUpdate");
+    of<QPushButton>("cmdUpdate").click();
     EXPECT_EQ(stored(u"20260813"_q), u"Obon 0"_q);
     EXPECT_EQ(stored(u"20260104"_q), u"- -"_q) << "every Sunday, without a name";
     EXPECT_EQ(stored(u"20260112"_q), u"成人の日 0"_q) << "the second Monday of the year that is shown";
@@ -158,11 +157,11 @@ TEST_F(FrmCalendar, RulesAreLeftWithoutAWord) {
     Grid& grid = ofRules<Grid>("vfgHoliday");
     ofRules<QPushButton>("cmdHoliday").click();
     EXPECT_EQ(grid.grid()->TextMatrix(1, 1), QString()) << "no file, no message";
-    typeInto(grid, 1, 5, u"x"_q);
+    typeAt(grid, 1, 5, u"x"_q);
     EXPECT_EQ(QApplication::activeModalWidget(), rules);
     press(Qt::Key_Escape);
     EXPECT_FALSE(rules && rules->isVisible());
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
     connection.execute(u"DELETE FROM M01_CorpInfo"_q);
     desk.prompts.expect(u"勤務形態設定に不備があります。"_q);
     form->load();
