@@ -11,7 +11,6 @@ namespace kurbo {
 frmMaintainance::frmMaintainance(Client& client, QWidget* parent)
     : ScreenForm(client, parent), ui_(std::make_unique<Ui::frmMaintainance>()) {
     ui_->setupUi(this);
-    setWindowModality(Qt::ApplicationModal);
     dress(QStringLiteral("データ移動"));
     dressFields();
     connect(ui_->optMethod_1, &QRadioButton::toggled, this, &frmMaintainance::SetExecEnabled);

@@ -1,29 +1,9 @@
 #include "screen/coming_screens.h"
 
-#include <algorithm>
-#include <array>
-
 namespace kurbo {
-namespace {
-
-struct Screen {
-    const char16_t* name;
-    const char16_t* caption;
-};
-
-constexpr std::array screens{
-    Screen{u"frmCorp", u"会社情報登録"},       Screen{u"frmSection", u"部課情報登録"},
-    Screen{u"frmStaff", u"社員情報登録"},      Screen{u"frmWorkStyle", u"勤務形態設定"},
-    Screen{u"frmAccess", u"アクセス権設定"},   Screen{u"frmAsign", u"社員設定"},
-    Screen{u"frmCalendar", u"カレンダー設定"}, Screen{u"frmPassword", u"パスワード変更"},
-};
-
-} // namespace
 
 void showComingScreen(const Context& context, const QString& screen) {
-    const auto found = std::ranges::find_if(screens, [&](const Screen& coming) { return screen == coming.name; });
-    const QString caption = found == screens.end() ? screen : QString::fromUtf16(found->caption);
-    context.prompts.inform(QStringLiteral("「%1」画面は次の版で利用できます。").arg(caption));
+    context.prompts.inform(QStringLiteral("「%1」画面は次の版で利用できます。").arg(screen));
 }
 
 } // namespace kurbo

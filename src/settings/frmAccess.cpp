@@ -23,6 +23,7 @@ frmAccess::frmAccess(Client& client, QWidget* parent)
     sheet_.grid.setRules(&rules_);
     sheet_.onEdit = [this] { setChanged(true); };
     ui_->vfgAccess->setGrid(sheet_.grid, client_.context);
+    ui_->vfgAccess->setStretchColumn(static_cast<int>(AccessColumn::Section));
     wireGridMenu(*ui_->vfgAccess, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
     tellTips(*ui_->vfgAccess);
     SetImeOpen(ui_->txtAccess, true);
