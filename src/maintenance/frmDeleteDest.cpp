@@ -14,10 +14,9 @@ frmDeleteDest::frmDeleteDest(Client& client, QWidget* parent)
     ui_->vfgDestination->setGrid(list_.grid, client_.context);
     ui_->vfgDestination->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui_->vfgDestination->setSelectionMode(QAbstractItemView::ContiguousSelection);
-    ui_->vfgDestination->setStretchColumn(list_.grid.Cols() - 1);
     onCommand(ui_->cmdExec, nullptr, [this] { deleteChosen(); });
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QWidget::close);
-    fillScreen(this, {620, 560});
+    fillScreen(this, {560, 560});
 }
 
 frmDeleteDest::~frmDeleteDest() {
@@ -30,6 +29,7 @@ bool frmDeleteDest::hasConnection() {
 
 void frmDeleteDest::load() {
     run([this] { ui_->cmdExec->setEnabled(list_.show()); });
+    ui_->vfgDestination->setStretchColumn(list_.grid.Cols() - 1);
     ui_->vfgDestination->setFocus();
 }
 
