@@ -1,4 +1,5 @@
 #include "screen/data_combo.h"
+#include "screen/data_list.h"
 #include "screen/masked_box.h"
 #include "settings/frmCorp.h"
 #include "settings/frmSection.h"

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "screen/data_list.h"
 #include "settings/settings_form.h"
 #include "store/client.h"
 #include "support/sample_company.h"
+#include "support/typing.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QPointer>
 #include <QPushButton>
-#include <QTest>
 
 namespace kurbo::test {
 
@@ -20,8 +18,9 @@ class SettingsWindow : public SampleCompany {
     ~SettingsWindow() override { delete form; }
     void open(const QString& staff = QStringLiteral("ADMIN")) {
         client.DbPath = path;
-        client.openHome();
+        if (!client.HomeConnection.isOpen()) client.openHome();
         client.session.SessionStaff = staff;
+        delete form;
         form = new Form(client);
         form->load();
         form->show();
@@ -35,16 +34,8 @@ class SettingsWindow : public SampleCompany {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
         QCoreApplication::processEvents();
     }
-    // Into a box, over what stands there.
-    void type(const char* name, const QString& text) const {
-        auto& box = of<QWidget>(name);
-        box.setFocus();
-        if (auto* const line = qobject_cast<QLineEdit*>(&box)) line->selectAll();
-        for (const char32_t sign : text.toUcs4()) {
-            QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&sign, 1));
-            QApplication::sendEvent(&box, &event);
-        }
-    }
+    void type(const char* name, const QString& text) const { typeInto(&of<QWidget>(name), text); }
+    void click(const char* button) const { of<QAbstractButton>(button).click(); }
     void trigger(const char* action) const { of<QAction>(action).trigger(); }
     [[nodiscard]] bool isUpdatable() const {
         EXPECT_EQ(of<QWidget>("cmdUpdate").isEnabled(), of<QAction>("mnuUpdate").isEnabled());
