@@ -47,8 +47,8 @@ constexpr std::array screens{
     Screen{u"frmWorkStyle", &madeModal<frmWorkStyle>},
     Screen{u"frmWorkTime", &madeModal<frmWorkTime>},
     Screen{u"frmAccess", &madeModal<frmAccess>},
-    Screen{u"frmAsign", &madeModal<frmAsign>},
-    Screen{u"frmCalendar", &madeModal<frmCalendar>},
+    Screen{u"frmAsign", &made<frmAsign>},
+    Screen{u"frmCalendar", &made<frmCalendar>},
     Screen{u"frmPassword", &madeModal<frmPassword>},
 };
 

@@ -5,112 +5,76 @@ namespace {
 
 using RecordFieldsTest = SampleCompany;
 
-struct Refusal {
-    RecordFields fields;
-    const char16_t* field;
-    const char16_t* text;
-    const char16_t* onUpdate;
-    const char16_t* onLeaving; // null where the screen doesn't ask
-};
-
-QString filled(const char16_t* text) {
-    QString whole = QString::fromUtf16(text);
-    // "x51" stands for 51 letters.
-    return whole.startsWith(u'x') ? QString(whole.sliced(1).toInt(), u'x') : whole;
-}
+// Screen, field, text ("x51": 51 letters, "-": none), what would be right or the whole refusal on an update, and the
+// refusal on leaving where it isn't made of the same words ("-": none). "/n" is the end of a line.
+constexpr auto refusals = R"(
+corp F_Corp - 会社名が入力されていません。 -
+corp F_Corp x51 会社名は全角25文字(半角50文字)以内で入力します。
+corp F_Branch x51 支社店名は全角25文字(半角50文字)以内で入力します。
+corp F_ZipCode １ 郵便番号は半角12文字以内で入力します。
+corp F_Pref 江戸 都道府県名が不正です。都道府県名はリストから選択して下さい。 リストから選択して下さい｡_
+corp F_Pref 全国 - -
+corp F_Address1 x51 住所1は全角25文字(半角50文字)以内で入力します。
+corp F_Address2 x51 住所2は全角25文字(半角50文字)以内で入力します。
+corp F_Tel x21 電話番号は半角20文字以内で入力します。
+corp F_Fax x21 ﾌｧｯｸｽ番号は半角20文字以内で入力します。
+corp F_Title x21 代表者肩書は全角10文字(半角20文字)以内で入力します。
+corp F_President x31 代表者名は全角15文字(半角30文字)以内で入力します。
+section F_SectionName - 部課名が入力されていません。 -
+section F_SectionName 新しい部課 部課名を変更して下さい。/n名称「新しい部課」は使用できません。 -
+section F_SectionName x31 部課名は全角15文字(半角30文字)以内で入力します。
+section F_SectionCode - 部課コードが入力されていません。 -
+section F_SectionCode x11 部課コードは半角10文字以内で入力します。
+section F_SectionCode mysection 部課コードが不正です。「MySection」はシステム予約コードです。 -
+section F_SectionCode new 部課コードが不正です。「NEW」はシステム予約コードです。 不正な入力です。「NEW」はシステム予約コードです。
+section F_Tel x21 電話番号は半角20文字以内で入力します。
+section F_Fax x21 ﾌｧｯｸｽ番号は半角20文字以内で入力します。
+section F_DB - データベースのパスが入力されていません。 -
+staff F_StaffName - 氏名が入力されていません。 -
+staff F_StaffName 新しい社員 氏名を変更して下さい。/n氏名「新しい社員」は使用できません。 -
+staff F_StaffName x21 氏名は全角10文字(半角20文字)以内で入力します。
+staff F_Kana - フリガナが入力されていません。 -
+staff F_Kana ア フリガナは半角20文字以内で入力します。
+staff F_StaffCode - 社員コードが入力されていません。 -
+staff F_StaffCode x11 社員コードが不正です。部課コードは半角10文字以内で入力します。 不正な入力です。社員コードは半角10文字以内で入力します。
+staff F_StaffCode nEw 社員コードが不正です。「NEW」はシステム予約コードです。 不正な入力です。「NEW」はシステム予約コードです。
+staff F_StaffCode admin 社員コードが不正です。「ADMIN」はシステム予約コードです。 -
+staff F_Section - 所属部課が入力されていません。 -
+staff F_Section 総務 所属部課が不正です。所属部課はリストから選択して下さい。 リストから選択して下さい｡_
+staff F_ZipCode x13 郵便番号は半角12文字以内で入力します。
+staff F_Pref 全国 都道府県名が不正です。都道府県名はリストから選択して下さい。 リストから選択して下さい｡_
+staff F_Address1 x51 住所1は全角25文字(半角50文字)以内で入力します。
+staff F_Address2 x51 住所2は全角25文字(半角50文字)以内で入力します。
+staff F_Tel x21 電話番号は半角20文字以内で入力します。
+staff F_HPhone x21 携帯番号は半角20文字以内で入力します。
+staff F_EMail x51 メールアドレスは半角50文字以内で入力します。
+staff F_Birth 1980/02/30 生年月日が不正です。日付をyyyy/mm/dd形式で入力します。 不正な入力です。生年月日はyyyy/mm/ddの形式で入力します。
+staff F_Join 2026/__/__ 入社日が不正です。日付をyyyy/mm/dd形式で入力します。 不正な入力です。入社日はyyyy/mm/ddの形式で入力します。
+staff F_Retire 2026/13/01 退社日が不正です。日付をyyyy/mm/dd形式で入力します。 不正な入力です。退社日はyyyy/mm/ddの形式で入力します。
+section F_DB x101 データベースのパスが不正です。/nデータベースのパスは全角50文字(半角100文字)以内で入力します。/nデータベースの保存場所を変更し、パスを短縮して下さい。 ?
+)";
 
 TEST_F(RecordFieldsTest, EveryRefusalHasItsWords) {
-    const RecordFields corp = corpFields();
-    const RecordFields section = sectionList().fields;
-    const RecordFields staff = staffList().fields;
-    constexpr auto fromList = u"リストから選択して下さい｡ ";
-    const std::array refusals{
-        Refusal{corp, u"F_Corp", u" ", u"会社名が入力されていません。", u""},
-        Refusal{corp, u"F_Corp", u"x51", u"会社名が不正です。会社名は全角25文字(半角50文字)以内で入力します。",
-                u"不正な入力です。会社名は全角25文字(半角50文字)以内で入力します。"},
-        Refusal{corp, u"F_Branch", u"x51", u"支社店名が不正です。支社店名は全角25文字(半角50文字)以内で入力します。",
-                u"不正な入力です。支社店名は全角25文字(半角50文字)以内で入力します。"},
-        Refusal{corp, u"F_ZipCode", u"１", u"郵便番号が不正です。郵便番号は半角12文字以内で入力します。",
-                u"不正な入力です。郵便番号は半角12文字以内で入力します。"},
-        Refusal{corp, u"F_Pref", u"江戸", u"都道府県名が不正です。都道府県名はリストから選択して下さい。", fromList},
-        Refusal{corp, u"F_Pref", u"全国", u"", u""},
-        Refusal{corp, u"F_Address1", u"x51", u"住所1が不正です。住所1は全角25文字(半角50文字)以内で入力します。",
-                u"不正な入力です。住所1は全角25文字(半角50文字)以内で入力します。"},
-        Refusal{corp, u"F_Address2", u"x51", u"住所2が不正です。住所2は全角25文字(半角50文字)以内で入力します。",
-                u"不正な入力です。住所2は全角25文字(半角50文字)以内で入力します。"},
-        Refusal{corp, u"F_Tel", u"x21", u"電話番号が不正です。電話番号は半角20文字以内で入力します。",
-                u"不正な入力です。電話番号は半角20文字以内で入力します。"},
-        Refusal{corp, u"F_Fax", u"x21", u"ﾌｧｯｸｽ番号が不正です。ﾌｧｯｸｽ番号は半角20文字以内で入力します。",
-                u"不正な入力です。ﾌｧｯｸｽ番号は半角20文字以内で入力します。"},
-        Refusal{corp, u"F_Title", u"x21", u"代表者肩書が不正です。代表者肩書は全角10文字(半角20文字)以内で入力します。",
-                u"不正な入力です。代表者肩書は全角10文字(半角20文字)以内で入力します。"},
-        Refusal{corp, u"F_President", u"x31", u"代表者名が不正です。代表者名は全角15文字(半角30文字)以内で入力します。",
-                u"不正な入力です。代表者名は全角15文字(半角30文字)以内で入力します。"},
-        Refusal{section, u"F_SectionName", u"", u"部課名が入力されていません。", nullptr},
-        Refusal{section, u"F_SectionName", u"新しい部課",
-                u"部課名を変更して下さい。\r\n名称「新しい部課」は使用できません。", nullptr},
-        Refusal{section, u"F_SectionName", u"x31",
-                u"部課名が不正です。部課名は全角15文字(半角30文字)以内で入力します。", nullptr},
-        Refusal{section, u"F_SectionCode", u"", u"部課コードが入力されていません。", nullptr},
-        Refusal{section, u"F_SectionCode", u"x11", u"部課コードが不正です。部課コードは半角10文字以内で入力します。",
-                nullptr},
-        Refusal{section, u"F_SectionCode", u"new", u"部課コードが不正です。「NEW」はシステム予約コードです。", nullptr},
-        Refusal{section, u"F_SectionCode", u"mysection",
-                u"部課コードが不正です。「MySection」はシステム予約コードです。", nullptr},
-        Refusal{section, u"F_Tel", u"x21", u"電話番号が不正です。電話番号は半角20文字以内で入力します。", nullptr},
-        Refusal{section, u"F_Fax", u"x21", u"ﾌｧｯｸｽ番号が不正です。ﾌｧｯｸｽ番号は半角20文字以内で入力します。", nullptr},
-        Refusal{section, u"F_DB", u"", u"データベースのパスが入力されていません。", nullptr},
-        Refusal{section, u"F_DB", u"x101",
-                u"データベースのパスが不正です。\r\nデータベースのパスは全角50文字(半角100文字)以内で入力します。\r\n"
-                u"データベースの保存場所を変更し、パスを短縮して下さい。",
-                nullptr},
-        Refusal{staff, u"F_StaffName", u"", u"氏名が入力されていません。", u""},
-        Refusal{staff, u"F_StaffName", u"新しい社員", u"氏名を変更して下さい。\r\n氏名「新しい社員」は使用できません。",
-                u""},
-        Refusal{staff, u"F_StaffName", u"x21", u"氏名が不正です。氏名は全角10文字(半角20文字)以内で入力します。",
-                u"不正な入力です。氏名は全角10文字(半角20文字)以内で入力します。"},
-        Refusal{staff, u"F_Kana", u"", u"フリガナが入力されていません。", u""},
-        Refusal{staff, u"F_Kana", u"ア", u"フリガナが不正です。フリガナは半角20文字以内で入力します。",
-                u"不正な入力です。フリガナは半角20文字以内で入力します。"},
-        Refusal{staff, u"F_StaffCode", u"", u"社員コードが入力されていません。", u""},
-        Refusal{staff, u"F_StaffCode", u"x11", u"社員コードが不正です。部課コードは半角10文字以内で入力します。",
-                u"不正な入力です。社員コードは半角10文字以内で入力します。"},
-        Refusal{staff, u"F_StaffCode", u"nEw", u"社員コードが不正です。「NEW」はシステム予約コードです。",
-                u"不正な入力です。「NEW」はシステム予約コードです。"},
-        Refusal{staff, u"F_StaffCode", u"admin", u"社員コードが不正です。「ADMIN」はシステム予約コードです。", u""},
-        Refusal{staff, u"F_Section", u"", u"所属部課が入力されていません。", u""},
-        Refusal{staff, u"F_Section", u"総務", u"所属部課が不正です。所属部課はリストから選択して下さい。", fromList},
-        Refusal{staff, u"F_ZipCode", u"x13", u"郵便番号が不正です。郵便番号は半角12文字以内で入力します。",
-                u"不正な入力です。郵便番号は半角12文字以内で入力します。"},
-        Refusal{staff, u"F_Pref", u"全国", u"都道府県名が不正です。都道府県名はリストから選択して下さい。", fromList},
-        Refusal{staff, u"F_Address1", u"x51", u"住所1が不正です。住所1は全角25文字(半角50文字)以内で入力します。",
-                u"不正な入力です。住所1は全角25文字(半角50文字)以内で入力します。"},
-        Refusal{staff, u"F_Address2", u"x51", u"住所2が不正です。住所2は全角25文字(半角50文字)以内で入力します。",
-                u"不正な入力です。住所2は全角25文字(半角50文字)以内で入力します。"},
-        Refusal{staff, u"F_Tel", u"x21", u"電話番号が不正です。電話番号は半角20文字以内で入力します。",
-                u"不正な入力です。電話番号は半角20文字以内で入力します。"},
-        Refusal{staff, u"F_HPhone", u"x21", u"携帯番号が不正です。携帯番号は半角20文字以内で入力します。",
-                u"不正な入力です。携帯番号は半角20文字以内で入力します。"},
-        Refusal{staff, u"F_EMail", u"x51", u"メールアドレスが不正です。メールアドレスは半角50文字以内で入力します。",
-                u"不正な入力です。メールアドレスは半角50文字以内で入力します。"},
-        Refusal{staff, u"F_Birth", u"1980/02/30", u"生年月日が不正です。日付をyyyy/mm/dd形式で入力します。",
-                u"不正な入力です。生年月日はyyyy/mm/ddの形式で入力します。"},
-        Refusal{staff, u"F_Join", u"2026/__/__", u"入社日が不正です。日付をyyyy/mm/dd形式で入力します。",
-                u"不正な入力です。入社日はyyyy/mm/ddの形式で入力します。"},
-        Refusal{staff, u"F_Retire", u"2026/13/01", u"退社日が不正です。日付をyyyy/mm/dd形式で入力します。",
-                u"不正な入力です。退社日はyyyy/mm/ddの形式で入力します。"},
-    };
-    for (const Refusal& wrong : refusals) {
-        const QString text = filled(wrong.text);
-        const bool isSection = wrong.fields.data() == section.data();
-        const RecordRules rules{{u"S01"_q}, isSection ? &sectionList().reserved : &staffList().reserved};
-        const QString name = QString::fromUtf16(wrong.field);
-        SCOPED_TRACE(name.toStdString() + " " + text.toStdString());
-        EXPECT_EQ(refusalOf([&] { checkFields(wrong.fields, with(wrong.fields, name, text), rules); }),
-                  QString::fromUtf16(wrong.onUpdate));
-        if (!wrong.onLeaving) continue;
-        const RecordField& field = wrong.fields[static_cast<std::size_t>(fieldAt(wrong.fields, name))];
-        EXPECT_EQ(refusalOnLeaving(field, text.trimmed(), rules.choices), QString::fromUtf16(wrong.onLeaving));
+    const QHash<QString, RecordFields> tables{
+        {u"corp"_q, corpFields()}, {u"section"_q, sectionList().fields}, {u"staff"_q, staffList().fields}};
+    for (const QString& line : QString::fromUtf8(refusals).split(u'\n', Qt::SkipEmptyParts)) {
+        SCOPED_TRACE(line.toStdString());
+        QStringList words = line.split(u' ');
+        if (words.size() == 4) {
+            words.append(u"不正な入力です。"_q + words[3]);
+            words[3] = words[3].section(u'は', 0, 0) + u"が不正です。"_q + words[3];
+        }
+        for (QString& word : words) word = word == u"-" ? QString() : word.replace(u"/n"_q, u"\r\n"_q);
+        if (words[2].startsWith(u'x')) words[2] = QString(words[2].sliced(1).toInt(), u'x');
+        const RecordFields fields = tables.value(words[0]);
+        const ReservedRecord& reserved = words[0] == u"section" ? sectionList().reserved : staffList().reserved;
+        EXPECT_EQ(refusalOf([&] {
+                      checkFields(fields, with(fields, words[1], words[2]), {{u"S01"_q}, &reserved});
+                  }),
+                  words[3]);
+        if (words[4] == u"?") continue;
+        const RecordField& field = fields[static_cast<std::size_t>(fieldAt(fields, words[1]))];
+        EXPECT_EQ(refusalOnLeaving(field, words[2], {u"S01"_q}), words[4].replace(u'_', u' '));
     }
 }
 

@@ -28,6 +28,8 @@ class NewSite : public ::testing::Test {
         window.load();
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        desk.prompts.expect(u"2026 年のカレンダーが作成されていません。"_q);
+        window.greet();
     }
     template <typename Widget = QWidget>
     [[nodiscard]] static Widget* find(const QWidget* form, const char* name) {
