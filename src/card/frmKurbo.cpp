@@ -3,7 +3,6 @@
 #include "base/product.h"
 #include "card/card_cells.h"
 #include "card/frmGoOut.h"
-#include "screen/coming_screens.h"
 #include "screen/fields.h"
 #include "screen/frmAbout.h"
 #include "screen/help.h"
@@ -94,7 +93,7 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdDisplay, ui_->mnuDisplay, dates(&CardScreen::display));
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
-    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
+    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { print(); });
     onCommand(nullptr, ui_->mnuSaveKrb, dates(&CardScreen::saveKrb));
     onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
@@ -131,10 +130,6 @@ void frmKurbo::run(const std::function<void()>& command) {
         if (client_.hasConnection(u"frmKurbo")) command();
     }
     showState();
-}
-
-void frmKurbo::coming(const QString& name) {
-    showComingScreen(client_.context, name);
 }
 
 void frmKurbo::load() {

@@ -47,7 +47,6 @@ class frmKurbo final : public QMainWindow {
     // Runs a command that works on the card: the open cell is taken first, and the window then shows what stands.
     void run(const std::function<void()>& command);
     void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
-    void coming(const QString& name);
 
     void showState();
     void showNames();
@@ -58,6 +57,9 @@ class frmKurbo final : public QMainWindow {
     void staffChosen();
     void moveYear(int years);
     void showDetail(const QModelIndex& cell);
+    void print();
+    [[nodiscard]] CodeName chosenSection() const;
+    [[nodiscard]] CodeName chosenStaff() const;
 
     void connectGoOut();
     [[nodiscard]] bool isGoOutOpen() const;

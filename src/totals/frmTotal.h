@@ -49,6 +49,7 @@ class frmTotal final : public QMainWindow {
     void sectionChosen();
     void staffChosen();
     void loadCsv();
+    void print();
 
     const std::unique_ptr<Ui::frmTotal> ui_;
     Client& client_;
