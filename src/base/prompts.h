@@ -12,7 +12,7 @@ enum class Buttons { Ok, YesNo, OkCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
 struct Message {
-    QString title;
+    QString title; // the product's name when empty
     QString text;
     Icon icon = Icon::Exclamation;
     Buttons buttons = Buttons::Ok;
@@ -39,6 +39,8 @@ class Prompts {
     // The paths chosen, none when the dialog is cancelled. Files to open are there; to replace one by saving, the
     // person has said yes.
     virtual QStringList chooseFiles(const FileQuestion& question) = 0;
+    // Opens a text file for the person to read and print; nothing waits for that.
+    virtual void showText(const QString& /*path*/) {}
 
     // The common boxes, titled with the product's name.
     void exclaim(const QString& text);

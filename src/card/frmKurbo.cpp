@@ -1,12 +1,8 @@
 #include "card/frmKurbo.h"
 
-#include "base/product.h"
 #include "card/card_cells.h"
 #include "card/frmGoOut.h"
 #include "screen/fields.h"
-#include "screen/frmAbout.h"
-#include "screen/help.h"
-#include "screen/hourglass.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
 #include "ui_frmKurbo.h"
@@ -14,7 +10,6 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QShortcut>
 
 namespace kurbo {
 namespace {
@@ -31,11 +26,9 @@ void showMark(QCheckBox& box, bool given) {
 } // namespace
 
 frmKurbo::frmKurbo(Client& client, QWidget* parent)
-    : QMainWindow(parent), ui_(std::make_unique<Ui::frmKurbo>()), client_(client), screen_(client) {
+    : ScreenForm(client, parent), ui_(std::make_unique<Ui::frmKurbo>()), screen_(client) {
     ui_->setupUi(this);
-    ui_->menus->setNativeMenuBar(false);
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(productName() + QStringLiteral("－タイムカード"));
+    dress(QStringLiteral("タイムカード"));
     dressFields();
     connectSelection();
     connectCommands();
@@ -45,10 +38,8 @@ frmKurbo::frmKurbo(Client& client, QWidget* parent)
     fillScreen(this, {1360, 990});
 }
 
-// The controls go before what they show.
 frmKurbo::~frmKurbo() {
-    ui_->vfgKurbo->cancelEdit();
-    hide();
+    putAway();
 }
 
 void frmKurbo::dressFields() {
@@ -96,11 +87,6 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { print(); });
     onCommand(nullptr, ui_->mnuSaveKrb, dates(&CardScreen::saveKrb));
     onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
-    connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    connect(ui_->mnuTopic, &QAction::triggered, this,
-            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
-    connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
     connect(ui_->vfgKurbo, &QAbstractItemView::doubleClicked, this, &frmKurbo::showDetail);
 }
 
@@ -114,22 +100,6 @@ void frmKurbo::connectMonth() {
     };
     onMark(ui_->chkPersonal, &CardScreen::approvePersonal);
     onMark(ui_->chkSuperior, &CardScreen::approveSuperior);
-}
-
-void frmKurbo::onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command) {
-    const auto body = [this, command] { run(command); };
-    if (button) connect(button, &QAbstractButton::clicked, this, body);
-    connect(action, &QAction::triggered, this, body);
-}
-
-void frmKurbo::run(const std::function<void()>& command) {
-    if (blnShowing_) return;
-    if (ui_->vfgKurbo->finishEdit()) {
-        const QScopedValueRollback showing(blnShowing_, true);
-        const Hourglass hourglass;
-        if (client_.hasConnection(u"frmKurbo")) command();
-    }
-    showState();
 }
 
 void frmKurbo::load() {
@@ -220,7 +190,7 @@ void frmKurbo::showApproval() {
 
 void frmKurbo::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayClose() || !closeGoOut()) return;
+    if (blnShowing_ || !finishEdits() || !screen_.mayClose() || !closeGoOut()) return;
     screen_.leave();
     event->accept();
     Q_EMIT closed();

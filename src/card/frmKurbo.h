@@ -1,14 +1,11 @@
 #pragma once
 
 #include "card/card_screen.h"
-
-#include <QMainWindow>
+#include "screen/screen_form.h"
 
 #include <array>
-#include <functional>
 #include <memory>
 
-class QAbstractButton;
 class QRadioButton;
 
 namespace kurbo {
@@ -19,14 +16,12 @@ class frmKurbo;
 class frmGoOut;
 
 // The card of one person and period. What is chosen and what stands in the grid is decided by CardScreen.
-class frmKurbo final : public QMainWindow {
+class frmKurbo final : public ScreenForm {
     Q_OBJECT
 
   public:
     explicit frmKurbo(Client& client, QWidget* parent = nullptr);
     ~frmKurbo() override;
-    frmKurbo(const frmKurbo&) = delete;
-    frmKurbo& operator=(const frmKurbo&) = delete;
 
     // Reads the lists and shows the own card.
     void load();
@@ -44,11 +39,8 @@ class frmKurbo final : public QMainWindow {
     void connectSelection();
     void connectCommands();
     void connectMonth();
-    // Runs a command that works on the card: the open cell is taken first, and the window then shows what stands.
-    void run(const std::function<void()>& command);
-    void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
 
-    void showState();
+    void showState() override;
     void showNames();
     void showPeriod();
     void showCommands();
@@ -74,11 +66,8 @@ class frmKurbo final : public QMainWindow {
     [[nodiscard]] bool closeGoOut();
 
     const std::unique_ptr<Ui::frmKurbo> ui_;
-    Client& client_;
     CardScreen screen_;
     std::array<QRadioButton*, months> optMonth_{};
-    // The program fills the controls, or a command runs: their events mean nothing.
-    bool blnShowing_ = false;
     int periodChanges_ = 0;
 
     std::unique_ptr<frmGoOut> frmGoOut_;

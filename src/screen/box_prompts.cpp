@@ -1,7 +1,9 @@
 #include "screen/box_prompts.h"
 
 #include "base/product.h"
+#include "screen/frmListing.h"
 #include "screen/hourglass.h"
+#include "screen/text_viewer.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -66,7 +68,7 @@ void keepLinesWhole(const QMessageBox& box) {
 
 void setText(QMessageBox& box, const Message& message) {
     QString text = message.text;
-    box.setWindowTitle(message.title);
+    box.setWindowTitle(message.title.isEmpty() ? productName() : message.title);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setText(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
@@ -134,6 +136,10 @@ QStringList BoxPrompts::chooseFiles(const FileQuestion& question) {
     const NormalPointer pointer;
     FileDialog dlgFile(*this, question);
     return dlgFile.exec() == QDialog::Accepted ? dlgFile.selectedFiles() : QStringList();
+}
+
+void BoxPrompts::showText(const QString& path) {
+    if (!openInViewer(path)) (new frmListing(path, QApplication::activeWindow()))->show();
 }
 
 QStringList nameFilters(const QString& filter) {

@@ -11,6 +11,7 @@ class BoxPrompts final : public Prompts {
   public:
     Answer ask(const Message& message) override;
     QStringList chooseFiles(const FileQuestion& question) override;
+    void showText(const QString& path) override;
 };
 
 // "text|pattern|text|pattern" as the toolkit's dialogs want it; an empty filter means all files.

@@ -1,6 +1,7 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "settings/frmWorkStyle.h"
 #include "totals/frmTotal.h"
 
 #include <algorithm>
@@ -21,7 +22,11 @@ struct Screen {
     QMainWindow* (*make)(Client& client);
 };
 
-constexpr std::array screens{Screen{u"frmKurbo", &made<frmKurbo>}, Screen{u"frmTotal", &made<frmTotal>}};
+constexpr std::array screens{
+    Screen{u"frmKurbo", &made<frmKurbo>},
+    Screen{u"frmTotal", &made<frmTotal>},
+    Screen{u"frmWorkStyle", &made<frmWorkStyle>},
+};
 
 } // namespace
 

@@ -18,6 +18,13 @@ bool Client::hasConnection(QStringView form) {
     });
 }
 
+bool Client::hasHome(QStringView form) {
+    return guarded(context, form, u"ReConnect", false, [this] {
+        if (!HomeConnection.isOpen()) HomeConnection.open(DbPath, databasePassword());
+        return true;
+    });
+}
+
 void Client::closeConnections() {
     HomeConnection.close();
     OtherConnection.close();

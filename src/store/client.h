@@ -38,6 +38,8 @@ class Client final {
     // Opens the file that is worked on again, where the disk or the network has taken it away; false after a failure,
     // which is reported under the form's name.
     [[nodiscard]] bool hasConnection(QStringView form);
+    // The same for the home file.
+    [[nodiscard]] bool hasHome(QStringView form);
     void closeConnections();
     // The help of the person who logged in last; that for people at first.
     [[nodiscard]] const QString& helpPath() const;

@@ -1,11 +1,7 @@
 #include "totals/frmTotal.h"
 
-#include "base/product.h"
 #include "screen/fields.h"
-#include "screen/frmAbout.h"
 #include "screen/frmPreview.h"
-#include "screen/help.h"
-#include "screen/hourglass.h"
 #include "screen/leave_check.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
@@ -16,16 +12,13 @@
 
 #include <QCloseEvent>
 #include <QScopedValueRollback>
-#include <QShortcut>
 
 namespace kurbo {
 
 frmTotal::frmTotal(Client& client, QWidget* parent)
-    : QMainWindow(parent), ui_(std::make_unique<Ui::frmTotal>()), client_(client), screen_(client) {
+    : ScreenForm(client, parent), ui_(std::make_unique<Ui::frmTotal>()), screen_(client) {
     ui_->setupUi(this);
-    ui_->menus->setNativeMenuBar(false);
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(productName() + QStringLiteral("－月次集計"));
+    dress(QStringLiteral("月次集計"));
     dressFields();
     connectSelection();
     connectCommands();
@@ -33,10 +26,8 @@ frmTotal::frmTotal(Client& client, QWidget* parent)
     fillScreen(this, {1360, 900});
 }
 
-// The controls go before what they show.
 frmTotal::~frmTotal() {
-    ui_->vfgKurbo->cancelEdit();
-    hide();
+    putAway();
 }
 
 void frmTotal::dressFields() {
@@ -86,27 +77,6 @@ void frmTotal::connectCommands() {
     onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
     onCommand(nullptr, ui_->mnuSaveCsv, [this] { screen_.saveCsv(); });
     onCommand(nullptr, ui_->mnuLoadCsv, [this] { loadCsv(); });
-    connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    connect(ui_->mnuTopic, &QAction::triggered, this,
-            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
-    connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
-}
-
-void frmTotal::onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command) {
-    const auto body = [this, command] { run(command); };
-    if (button) connect(button, &QAbstractButton::clicked, this, body);
-    connect(action, &QAction::triggered, this, body);
-}
-
-void frmTotal::run(const std::function<void()>& command) {
-    if (blnShowing_) return;
-    if (ui_->vfgKurbo->finishEdit()) {
-        const QScopedValueRollback showing(blnShowing_, true);
-        const Hourglass hourglass;
-        if (client_.hasConnection(u"frmTotal")) command();
-    }
-    showState();
 }
 
 void frmTotal::load() {
@@ -189,7 +159,7 @@ void frmTotal::showCommands() {
 
 void frmTotal::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (blnShowing_ || !ui_->vfgKurbo->finishEdit() || !screen_.mayDiscard()) return;
+    if (blnShowing_ || !finishEdits() || !screen_.mayDiscard()) return;
     screen_.leave();
     event->accept();
 }

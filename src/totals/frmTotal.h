@@ -1,13 +1,10 @@
 #pragma once
 
+#include "screen/screen_form.h"
 #include "totals/total_screen.h"
 
-#include <QMainWindow>
-
-#include <functional>
 #include <memory>
 
-class QAbstractButton;
 
 namespace kurbo {
 
@@ -17,14 +14,12 @@ class frmTotal;
 
 // Saved and calculated months of a person or a section. What is chosen and what stands in the grid is decided by
 // TotalScreen.
-class frmTotal final : public QMainWindow {
+class frmTotal final : public ScreenForm {
     Q_OBJECT
 
   public:
     explicit frmTotal(Client& client, QWidget* parent = nullptr);
     ~frmTotal() override;
-    frmTotal(const frmTotal&) = delete;
-    frmTotal& operator=(const frmTotal&) = delete;
 
     // Reads the lists and shows this month of the own section.
     void load();
@@ -38,11 +33,8 @@ class frmTotal final : public QMainWindow {
     void dressFields();
     void connectSelection();
     void connectCommands();
-    // Runs a command that works on the grid: the open cell is taken first, and the window then shows what stands.
-    void run(const std::function<void()>& command);
-    void onCommand(QAbstractButton* button, QAction* action, const std::function<void()>& command);
 
-    void showState();
+    void showState() override;
     void showNames();
     void showSpan();
     void showCommands();
@@ -52,10 +44,7 @@ class frmTotal final : public QMainWindow {
     void print();
 
     const std::unique_ptr<Ui::frmTotal> ui_;
-    Client& client_;
     TotalScreen screen_;
-    // The program fills the controls, or a command runs: their events mean nothing.
-    bool blnShowing_ = false;
     int spanChanges_ = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "tour/photographed_prompts.h"
 
+#include "screen/frmListing.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -34,6 +36,12 @@ void PhotographedPrompts::photographAndAnswer(Answer answer) {
 
 QStringList PhotographedPrompts::chooseFiles(const FileQuestion& /*question*/) {
     return {};
+}
+
+void PhotographedPrompts::showText(const QString& path) {
+    frmListing listing(path);
+    listing.show();
+    camera_.shoot(listing, listing.windowTitle());
 }
 
 } // namespace kurbo

@@ -13,6 +13,7 @@ class PhotographedPrompts final : public Prompts {
     void answerNext(Answer answer) { answer_ = answer; }
     Answer ask(const Message& message) override;
     QStringList chooseFiles(const FileQuestion& question) override;
+    void showText(const QString& path) override;
 
   private:
     void photographAndAnswer(Answer answer);

@@ -1,5 +1,7 @@
 #include "support/scripted_prompts.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace kurbo::test {
@@ -37,6 +39,12 @@ QStringList ScriptedPrompts::chooseFiles(const FileQuestion& question) {
     if (!files_.isEmpty()) return files_.takeFirst();
     ADD_FAILURE() << "unexpected file dialog: " << question.filter.toStdString();
     return {};
+}
+
+void ScriptedPrompts::showText(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    shownTexts_.append(QString::fromUtf8(file.readAll()));
 }
 
 } // namespace kurbo::test

@@ -23,11 +23,14 @@ class ScriptedPrompts final : public Prompts {
 
     Answer ask(const Message& message) override;
     QStringList chooseFiles(const FileQuestion& question) override;
+    void showText(const QString& path) override;
 
     // All that was asked, for looking at titles, icons and buttons.
     [[nodiscard]] const QList<Message>& seen() const { return seen_; }
     [[nodiscard]] const Message& last() const { return seen_.last(); }
     [[nodiscard]] const FileQuestion& lastFileQuestion() const { return lastFileQuestion_; }
+    // The text files that were shown, as they were then.
+    [[nodiscard]] const QStringList& shownTexts() const { return shownTexts_; }
     // Whether everything that was expected has come.
     [[nodiscard]] bool allShown() const { return script_.isEmpty() && files_.isEmpty(); }
 
@@ -40,6 +43,7 @@ class ScriptedPrompts final : public Prompts {
     QList<QStringList> files_;
     FileQuestion lastFileQuestion_;
     QList<Message> seen_;
+    QStringList shownTexts_;
 };
 
 } // namespace kurbo::test

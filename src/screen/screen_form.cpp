@@ -1,0 +1,59 @@
+#include "screen/screen_form.h"
+
+#include "base/product.h"
+#include "screen/frmAbout.h"
+#include "screen/grid.h"
+#include "screen/help.h"
+#include "screen/hourglass.h"
+
+#include <QAbstractButton>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace kurbo {
+
+ScreenForm::ScreenForm(Client& client, QWidget* parent) : QMainWindow(parent), client_(client) {
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ScreenForm::dress(const QString& title) {
+    setWindowTitle(productName() + u'－' + title);
+    menuBar()->setNativeMenuBar(false);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    const auto onAction = [this](const QString& name, const Command& body) {
+        if (auto* const action = findChild<QAction*>(name)) connect(action, &QAction::triggered, this, body);
+    };
+    onAction(QStringLiteral("mnuClose"), [this] { close(); });
+    onAction(QStringLiteral("mnuTopic"), [this] { openHelp(client_.context.prompts, client_.helpPath()); });
+    onAction(QStringLiteral("mnuVersion"), [this] { frmAbout(client_.helpPath(), this).exec(); });
+}
+
+void ScreenForm::onCommand(QAbstractButton* button, QAction* action, const Command& command) {
+    const auto body = [this, command] { run(command); };
+    if (button) connect(button, &QAbstractButton::clicked, this, body);
+    if (action) connect(action, &QAction::triggered, this, body);
+}
+
+void ScreenForm::run(const Command& command) {
+    if (blnShowing_) return;
+    if (finishEdits()) {
+        const QScopedValueRollback showing(blnShowing_, true);
+        const Hourglass hourglass;
+        if (hasConnection()) command();
+    }
+    showState();
+}
+
+bool ScreenForm::finishEdits() const {
+    return std::ranges::all_of(findChildren<Grid*>(), [](Grid* grid) { return grid->finishEdit(); });
+}
+
+void ScreenForm::putAway() {
+    for (Grid* const grid : findChildren<Grid*>()) grid->cancelEdit();
+    hide();
+}
+
+} // namespace kurbo

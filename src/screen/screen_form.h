@@ -1,0 +1,47 @@
+#pragma once
+
+#include "store/client.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QAbstractButton;
+class QAction;
+
+namespace kurbo {
+
+// A window with commands: what such windows have in common. The controls are found by their names.
+class ScreenForm : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    ScreenForm(const ScreenForm&) = delete;
+    ScreenForm& operator=(const ScreenForm&) = delete;
+
+  protected:
+    using Command = std::function<void()>;
+
+    ScreenForm(Client& client, QWidget* parent);
+
+    // Once the controls are there: the title behind the product's name, Esc, mnuClose, mnuTopic and mnuVersion.
+    void dress(const QString& title);
+    // A button, or none, and its menu twin, or none, run the same command.
+    void onCommand(QAbstractButton* button, QAction* action, const Command& command);
+    // Runs a command: the open cell of each grid is taken first, and the window then shows what stands.
+    void run(const Command& command);
+    // Takes the open cell of each grid; false when one is refused and stays open.
+    [[nodiscard]] bool finishEdits() const;
+    // For a destructor: the window goes before what its grids show.
+    void putAway();
+    // Opens the file again that the window works on, if the disk has taken it away; false after a reported failure.
+    [[nodiscard]] virtual bool hasConnection() { return client_.hasConnection(objectName()); }
+    // Shows what stands, after every command.
+    virtual void showState() = 0;
+
+    Client& client_; // NOLINT(*-non-private-member-variables-in-classes)
+    // The program fills the controls, or a command runs: their events mean nothing.
+    bool blnShowing_ = false; // NOLINT(*-non-private-member-variables-in-classes)
+};
+
+} // namespace kurbo

@@ -1,0 +1,20 @@
+#include "settings/listing.h"
+
+#include "base/files.h"
+
+namespace kurbo {
+
+QString listingTitle(const QString& subject, Day today) {
+    return QStringLiteral("%1  (%2 現在)").arg(subject, slashDate(today));
+}
+
+bool showListing(const Context& context, QStringView form, QStringView procedure, const QStringList& listing) {
+    return guarded(context, form, procedure, false, [&] {
+        const QString path = context.paths.PrintPath;
+        replaceFile(path, (listing.join(u'\n') + u'\n').toUtf8());
+        context.prompts.showText(path);
+        return true;
+    });
+}
+
+} // namespace kurbo

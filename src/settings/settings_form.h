@@ -1,0 +1,61 @@
+#pragma once
+
+#include "screen/leave_check.h"
+#include "screen/screen_form.h"
+#include "settings/settings_steps.h"
+
+#include <QLineEdit>
+
+namespace kurbo {
+
+// A settings screen. What a person changes in a watched field raises the changed flag, which enables cmdUpdate and
+// mnuUpdate; the window asks before it closes over changes.
+class SettingsForm : public ScreenForm {
+    Q_OBJECT
+
+  public:
+    // Reads the lists and shows the first record. After a failure, which is reported, all but closing is disabled.
+    void load();
+
+  Q_SIGNALS:
+    void closed();
+
+  protected:
+    using ScreenForm::ScreenForm;
+
+    // Reads what the screen needs and shows it; throws. Runs with the loading flag set.
+    virtual void readAll() = 0;
+    // A watched field has been changed by the person: the place for enabling what depends on it.
+    virtual void fieldChanged() {}
+    // The last word before the window closes.
+    [[nodiscard]] virtual bool mayClose() { return mayDiscard(subject_); }
+    // cmdUpdate and mnuUpdate follow the changed flag.
+    void showState() override;
+    [[nodiscard]] bool hasConnection() override;
+    void closeEvent(QCloseEvent* event) override;
+
+    // What the close question calls the screen.
+    void setSubject(const QString& subject) { subject_ = subject; }
+    // From now on a change of any field in `part` counts: text boxes, combos, check boxes, options.
+    void watch(QWidget& part);
+    // Fills controls with the loading flag set.
+    void fill(const Command& show);
+    void setChanged(bool changed);
+    [[nodiscard]] bool isChanged() const { return changed_; }
+    // Asks when there are changes; true when they may go.
+    [[nodiscard]] bool mayDiscard(const QString& subject) const;
+    // Check, question, write, and the flag goes down.
+    bool update(const SettingsStep& check, const SettingsStep& write);
+    // Keeps the focus in a field whose text the rule refuses. The rule gives the refusal, empty for a good text; an
+    // empty field is always good.
+    void checkOnLeaving(QWidget* field, const std::function<QString(const QString& text)>& refusal);
+
+  private:
+    void changedByPerson();
+
+    QString subject_;
+    bool changed_ = false;
+    bool alive_ = true;
+};
+
+} // namespace kurbo
