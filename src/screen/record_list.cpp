@@ -1,20 +1,25 @@
 #include "screen/record_list.h"
 
-#include "base/code_page.h"
-
 #include <algorithm>
 
 namespace kurbo {
 
+namespace {
+
+// As byteLength has it, without asking the encoder for each character.
+int bytesOf(QChar sign) {
+    const bool halfWidthKana = sign >= u'｡' && sign <= u'ﾟ';
+    return sign.unicode() < 0x80 || halfWidthKana ? 1 : 2;
+}
+
+} // namespace
+
 QString cutToBytes(const QString& text, int bytes) {
-    // No character has more than two bytes.
-    if (2 * text.size() <= bytes) return text;
     int used = 0;
     for (qsizetype i = 0; i < text.size();) {
-        const qsizetype units = text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
-        used += text[i].unicode() < 0x80 ? 1 : byteLength(text.mid(i, units));
+        used += bytesOf(text[i]);
         if (used > bytes) return text.left(i);
-        i += units;
+        i += text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
     }
     return text;
 }

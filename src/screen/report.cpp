@@ -28,6 +28,7 @@ void closeGaps(ReportSection& section, const std::vector<bool>& ColHidden) {
         if (isHidden(control, ColHidden) && std::ranges::find(gaps, control.column, &Gap::column) == gaps.end())
             gaps.push_back({control.column, control.left, control.width});
     for (ReportControl& control : section.controls) {
+        if (control.column < 0) continue;
         control.visible = control.visible && !isHidden(control, ColHidden);
         int shift = 0;
         for (const Gap& gap : gaps)

@@ -11,7 +11,7 @@ struct ReportControl : PaperItem {
     QString name{};
     // The field that gives its text; empty for a caption.
     QString dataField{};
-    // The grid's column that hides it; -1 for none.
+    // The grid's column that it shows; -1 for none.
     int column = -1;
     bool visible = true;
 };
@@ -24,7 +24,7 @@ struct ReportSection {
     [[nodiscard]] ReportControl& control(QStringView name);
 };
 
-// Hides the controls of hidden columns; whatever stands to the right of one moves left by its width.
+// Hides the controls of hidden columns; those of other columns to the right of one move left by its width.
 void closeGaps(ReportSection& section, const std::vector<bool>& ColHidden);
 
 // A report: its sections are printed with the records of its data source, one detail a record. A page is formatted when

@@ -60,11 +60,10 @@ std::pair<QString, QString> wordsOf(const GridModel& grid, int row) {
     return {first, subTotal};
 }
 
-// What no longer holds the end of its bracket says nothing.
+// A bracket that would be cut open says nothing.
 QString withoutOpenBracket(const QString& cell, int bytes) {
-    const QString cut = cutToBytes(cell, bytes);
-    const qsizetype bracket = cut.indexOf(u'(');
-    return bracket >= 0 && !cut.contains(u')') ? cut.left(bracket) : cut;
+    const qsizetype bracket = cell.indexOf(u'(');
+    return bracket >= 0 && cell.size() > bytes ? cell.left(bracket) : cell;
 }
 
 QStringList recordOf(const GridModel& grid, int row) {
