@@ -135,7 +135,7 @@ TEST_F(FrmPreview, SavesAPdfWholeOrNotAtAll) {
     EXPECT_EQ(pagesIn(file), 100);
     EXPECT_EQ(progress.maximum_, 100);
     EXPECT_EQ(progress.ended_, 2);
-    desk.prompts.expectFile(desk.file(u"no/a.pdf"_q)).expect(u"－cmdPdf_Click"_q);
+    desk.prompts.expectFile(desk.file(u"no/a.pdf"_q)).expect(u"エラー番号"_q);
     of<QPushButton>("cmdPdf").click();
 }
 
