@@ -125,7 +125,7 @@ void frmPreview::zoomBy(int steps) {
     ui_->cboZoom->setCurrentIndex(std::clamp(index, 2, static_cast<int>(zooms.size()) - 1));
 }
 
-// The wheel and the arrows turn the page where it can't be scrolled any further.
+// The wheel turns the page where it can't be scrolled any further.
 bool frmPreview::turnedAtEdge(int delta) {
     QScrollBar& bar = *ui_->scrPage->verticalScrollBar();
     if (delta > 0 && bar.value() == bar.maximum() && page_ + 1 < document_->pageCount()) {

@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QTest>
 
@@ -174,6 +175,7 @@ TEST_F(FrmPreview, OneStandsOverItsParentAndEscClosesIt) {
     ASSERT_TRUE(form());
     EXPECT_EQ(form()->windowTitle(), u"Kurbo－カレンダー設定(2026年)"_q);
     EXPECT_TRUE(QTest::qWaitForWindowActive(form()));
+    const QShortcut own(Qt::Key_Escape, &parent, [this] { parent.close(); });
     press(Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(form());
