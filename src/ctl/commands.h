@@ -17,6 +17,7 @@ namespace kurbo {
 [[nodiscard]] Exit runSql(const QStringList& arguments);
 [[nodiscard]] Exit runPunch(const QStringList& arguments);
 [[nodiscard]] Exit runCheck(const QStringList& arguments);
+[[nodiscard]] Exit runHolidays(const QStringList& arguments);
 [[nodiscard]] Exit runCompact(const QStringList& arguments);
 
 // Complains when there is something under the name of a file to be made.

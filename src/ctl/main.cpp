@@ -39,6 +39,7 @@ constexpr std::array commands{
             u"hh:nn:ss\"]"},
     Command{u"check", runCheck, u"check FILE"},
     Command{u"compact", runCompact, u"compact FILE"},
+    Command{u"holidays", runHolidays, u"holidays Holiday.txt --year YYYY [--overwrite]"},
 };
 
 QString usage() {

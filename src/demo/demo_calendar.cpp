@@ -1,6 +1,6 @@
 #include "demo/demo_calendar.h"
 
-#include "demo/public_holidays.h"
+#include "base/public_holidays.h"
 
 using namespace std::chrono;
 

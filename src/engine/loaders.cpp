@@ -228,16 +228,13 @@ QString styleStatement() {
 
 } // namespace
 
-bool GetWorkStyle(const Context& context, Connection& connection, clsWorkTime& rules) {
-    return guarded(context, module, u"GetWorkStyle", false, [&] {
-        const QString fault = QStringLiteral("勤務形態設定に不備があります。");
-        const RecordSet set(connection, styleStatement());
-        if (set.isEmpty()) complain(fault, styleAdvice());
-        readStyle(Row(set, fault, styleAdvice()), rules);
-        readRounding(Row(set, QStringLiteral("時間計算方法設定に不備があります。"), styleAdvice()), rules);
-        for (const Switch& item : switches) rules.*item.property = set.value(QString::fromUtf16(item.field)).yes();
-        return true;
-    });
+void readCompanyStyle(Connection& connection, clsWorkTime& rules) {
+    const QString fault = QStringLiteral("勤務形態設定に不備があります。");
+    const RecordSet set(connection, styleStatement());
+    if (set.isEmpty()) complain(fault, styleAdvice());
+    readStyle(Row(set, fault, styleAdvice()), rules);
+    readRounding(Row(set, QStringLiteral("時間計算方法設定に不備があります。"), styleAdvice()), rules);
+    for (const Switch& item : switches) rules.*item.property = set.value(QString::fromUtf16(item.field)).yes();
 }
 
 void readStaffInfo(Connection& connection, clsWorkTime& rules, const QString& staff) {
@@ -265,6 +262,13 @@ void readWorkTime(Connection& connection, clsWorkTime& rules, const QString& sta
     loadDay(connection, dayTables[1], rules, staff, false);
     if (rules.plngAmHolidayWork != 0) loadDay(connection, dayTables[2], rules, staff, rules.pbleAmFlexTime);
     if (rules.plngPmHolidayWork != 0) loadDay(connection, dayTables[3], rules, staff, rules.pblePmFlexTime);
+}
+
+bool GetWorkStyle(const Context& context, Connection& connection, clsWorkTime& rules) {
+    return guarded(context, module, u"GetWorkStyle", false, [&] {
+        readCompanyStyle(connection, rules);
+        return true;
+    });
 }
 
 bool GetStaffInfo(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff) {

@@ -18,7 +18,8 @@ namespace kurbo {
 [[nodiscard]] bool GetWorkTime(const Context& context, Connection& connection, clsWorkTime& rules,
                                const QString& staff);
 
-// The last two without a report; they throw.
+// The three without a report; they throw.
+void readCompanyStyle(Connection& connection, clsWorkTime& rules);
 void readStaffInfo(Connection& connection, clsWorkTime& rules, const QString& staff);
 void readWorkTime(Connection& connection, clsWorkTime& rules, const QString& staff);
 

@@ -13,11 +13,8 @@ struct Screen {
 
 constexpr std::array screens{
     Screen{u"frmCorp", u"会社情報登録"},       Screen{u"frmSection", u"部課情報登録"},
-    Screen{u"frmStaff", u"社員情報登録"},      Screen{u"frmWorkStyle", u"勤務形態設定"},
-    Screen{u"frmWorkTime", u"勤務時間設定"},   Screen{u"frmAccess", u"アクセス権設定"},
-    Screen{u"frmAsign", u"社員設定"},          Screen{u"frmCalendar", u"カレンダー設定"},
-    Screen{u"frmMaintainance", u"データ移動"}, Screen{u"frmPassword", u"パスワード変更"},
-    Screen{u"frmDeleteDest", u"外出先削除"},
+    Screen{u"frmStaff", u"社員情報登録"},      Screen{u"frmMaintainance", u"データ移動"},
+    Screen{u"frmPassword", u"パスワード変更"}, Screen{u"frmDeleteDest", u"外出先削除"},
 };
 
 } // namespace

@@ -74,6 +74,8 @@ void Grid::dress(QTableView& view, GridHeader& headings, GridDelegate& cells) {
     headings.setFont(font());
     QHeaderView& side = *view.verticalHeader();
     side.setFont(font());
+    // A style sheet takes the font from what the headings are painted on.
+    for (QHeaderView* const header : {static_cast<QHeaderView*>(&headings), &side}) header->viewport()->setFont(font());
     side.setSectionResizeMode(QHeaderView::Fixed);
     side.setMinimumSectionSize(height);
     side.setDefaultSectionSize(height);

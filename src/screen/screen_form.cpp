@@ -27,7 +27,12 @@ void ScreenForm::dress(const QString& title) {
         if (auto* const action = findChild<QAction*>(name)) connect(action, &QAction::triggered, this, body);
     };
     onAction(QStringLiteral("mnuClose"), [this] { close(); });
-    onAction(QStringLiteral("mnuTopic"), [this] { openHelp(client_.context.prompts, client_.helpPath()); });
+    const auto help = [this] { openHelp(client_.context.prompts, client_.helpPath()); };
+    onAction(QStringLiteral("mnuTopic"), help);
+    if (auto* const mnuTopic = findChild<QAction*>(QStringLiteral("mnuTopic")))
+        mnuTopic->setShortcut(Qt::Key_F1);
+    else
+        connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, help);
     onAction(QStringLiteral("mnuVersion"), [this] { frmAbout(client_.helpPath(), this).exec(); });
 }
 

@@ -24,7 +24,7 @@ class ScreenForm : public QMainWindow {
 
     ScreenForm(Client& client, QWidget* parent);
 
-    // Once the controls are there: the title behind the product's name, Esc, mnuClose, mnuTopic and mnuVersion.
+    // Once the controls are there: the title behind the product's name, Esc, F1, mnuClose, mnuTopic and mnuVersion.
     void dress(const QString& title);
     // A button, or none, and its menu twin, or none, run the same command.
     void onCommand(QAbstractButton* button, QAction* action, const Command& command);

@@ -30,6 +30,11 @@ void paste(Grid& grid, const QString& givenText) {
     pasteCells(cells, grid.GetSelection(), givenText.isEmpty() ? clipped : givenText);
 }
 
+// Of the grids on several pages that share a menu, the one in view.
+bool isMeant(Grid& grid) {
+    return grid.isVisible() && grid.finishEdit();
+}
+
 } // namespace
 
 void VfgCopy(const Grid& grid, bool withRaw, QString& rawText) {
@@ -49,13 +54,13 @@ void wireGridMenu(Grid& grid, const Context& context, QMenu* mnuGrid, QAction* m
                   QAction* mnuGClear) {
     grid.setGridMenu(mnuGrid);
     QObject::connect(mnuGCopy, &QAction::triggered, &grid, [&grid] {
-        if (grid.finishEdit()) VfgCopy(grid, true, rawBuffer());
+        if (isMeant(grid)) VfgCopy(grid, true, rawBuffer());
     });
     QObject::connect(mnuGPaste, &QAction::triggered, &grid, [&grid, &context] {
-        if (grid.finishEdit()) VfgPaste(context, grid, rawBuffer());
+        if (isMeant(grid)) VfgPaste(context, grid, rawBuffer());
     });
     QObject::connect(mnuGClear, &QAction::triggered, &grid, [&grid] {
-        if (grid.finishEdit()) clearCells(*grid.grid(), grid.GetSelection());
+        if (isMeant(grid)) clearCells(*grid.grid(), grid.GetSelection());
     });
 }
 

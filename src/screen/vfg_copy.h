@@ -12,8 +12,8 @@ void VfgCopy(const Grid& grid, bool withRaw, QString& rawText);
 // nothing; then the result is false.
 bool VfgPaste(const Context& context, Grid& grid, const QString& givenText);
 
-// Gives the three entries of a grid's menu their work. What mnuGCopy took, mnuGPaste prefers to the clipboard from then
-// on, in all grids of the program.
+// Gives the three entries of a grid's menu their work, for as long as the grid is in view: several grids may share a
+// menu. What mnuGCopy took, mnuGPaste prefers to the clipboard from then on, in all grids of the program.
 void wireGridMenu(Grid& grid, const Context& context, QMenu* mnuGrid, QAction* mnuGCopy, QAction* mnuGPaste,
                   QAction* mnuGClear);
 

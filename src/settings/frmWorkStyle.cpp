@@ -79,8 +79,8 @@ void frmWorkStyle::LoadWorkStyle() {
     const WorkStyle style = readWorkStyle(client_.HomeConnection);
     ui_->chkFlex->setChecked(style.flex);
     ui_->mskTime->setText(style.standard);
-    show(am_, style.am);
-    show(pm_, style.pm);
+    showHalfDay(am_, style.am);
+    showHalfDay(pm_, style.pm);
     choose(optMethod_, style.byMonth ? 1 : 0);
     choose(optEnter_, style.roundEnter);
     choose(optLeave_, style.roundLeave);
@@ -91,7 +91,7 @@ void frmWorkStyle::LoadWorkStyle() {
     enableFields();
 }
 
-void frmWorkStyle::show(const HalfDay& half, const WorkStyle::HalfDay& values) {
+void frmWorkStyle::showHalfDay(const HalfDay& half, const WorkStyle::HalfDay& values) {
     half.exists->setChecked(values.exists);
     choose(half.work, values.work);
     half.flex->setChecked(values.flex);

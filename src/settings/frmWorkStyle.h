@@ -47,7 +47,7 @@ class frmWorkStyle final : public SettingsForm {
     void PrintWorkStyle();
     [[nodiscard]] WorkStyle collected() const;
     static WorkStyle::HalfDay collected(const HalfDay& half);
-    static void show(const HalfDay& half, const WorkStyle::HalfDay& values);
+    static void showHalfDay(const HalfDay& half, const WorkStyle::HalfDay& values);
     void enableFields();
     static void enable(const HalfDay& half);
 

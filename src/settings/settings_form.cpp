@@ -1,6 +1,7 @@
 #include "settings/settings_form.h"
 
 #include "screen/fields.h"
+#include "screen/grid.h"
 #include "screen/hourglass.h"
 #include "screen/masked_box.h"
 
@@ -9,14 +10,16 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QScopedValueRollback>
+#include <QStatusBar>
 
 namespace kurbo {
 
 void SettingsForm::load() {
     const Hourglass hourglass;
-    alive_ = hasConnection() && guarded(client_.context, objectName(), u"Form_Load", false, [this] {
+    alive_ = hasConnection();
+    alive_ = alive_ && guarded(client_.context, objectName(), u"Form_Load", false, [this] {
                  fill([this] { readAll(); });
-                 return true;
+                 return alive_;
              });
     if (centralWidget()) centralWidget()->setEnabled(alive_);
     setChanged(false);
@@ -39,6 +42,20 @@ void SettingsForm::watch(QWidget& part) {
 void SettingsForm::fill(const Command& show) {
     const QScopedValueRollback showing(blnShowing_, true);
     show();
+}
+
+void SettingsForm::reload(const Command& show) {
+    guarded(client_.context, objectName(), u"Show", [&] {
+        fill(show);
+        setChanged(false);
+    });
+}
+
+void SettingsForm::tellTips(Grid& grid) {
+    connect(&grid, &Grid::AfterRowColChange, this, [this, &grid](int, int, int row, int column) {
+        const GridRules* const rules = grid.grid()->rules();
+        statusBar()->showMessage(rules && row >= 0 ? rules->tip(row, column) : QString());
+    });
 }
 
 void SettingsForm::changedByPerson() {

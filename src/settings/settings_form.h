@@ -8,6 +8,8 @@
 
 namespace kurbo {
 
+class Grid;
+
 // A settings screen. What a person changes in a watched field raises the changed flag, which enables cmdUpdate and
 // mnuUpdate; the window asks before it closes over changes.
 class SettingsForm : public ScreenForm {
@@ -23,8 +25,11 @@ class SettingsForm : public ScreenForm {
   protected:
     using ScreenForm::ScreenForm;
 
-    // Reads what the screen needs and shows it; throws. Runs with the loading flag set.
+    // Reads what the screen needs and shows it; throws, or says loadFailed(). Runs with the loading flag set.
     virtual void readAll() = 0;
+    // Something that the screen needs could not be read, and the person knows.
+    void loadFailed() { alive_ = false; }
+    [[nodiscard]] bool isAlive() const { return alive_; }
     // A watched field has been changed by the person: the place for enabling what depends on it.
     virtual void fieldChanged() {}
     // The last word before the window closes.
@@ -40,6 +45,8 @@ class SettingsForm : public ScreenForm {
     void watch(QWidget& part);
     // Fills controls with the loading flag set.
     void fill(const Command& show);
+    // Shows records anew: fills controls, and the changed flag goes down. A failure is reported.
+    void reload(const Command& show);
     void setChanged(bool changed);
     [[nodiscard]] bool isChanged() const { return changed_; }
     // Asks when there are changes; true when they may go.
@@ -49,6 +56,9 @@ class SettingsForm : public ScreenForm {
     // Keeps the focus in a field whose text the rule refuses. The rule gives the refusal, empty for a good text; an
     // empty field is always good.
     void checkOnLeaving(QWidget* field, const std::function<QString(const QString& text)>& refusal);
+
+    // The tip of the current cell stands in the status line.
+    void tellTips(Grid& grid);
 
   private:
     void changedByPerson();

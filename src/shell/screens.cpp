@@ -1,7 +1,11 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "settings/frmAccess.h"
+#include "settings/frmAsign.h"
+#include "settings/frmCalendar.h"
 #include "settings/frmWorkStyle.h"
+#include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
 
 #include <algorithm>
@@ -23,9 +27,10 @@ struct Screen {
 };
 
 constexpr std::array screens{
-    Screen{u"frmKurbo", &made<frmKurbo>},
-    Screen{u"frmTotal", &made<frmTotal>},
-    Screen{u"frmWorkStyle", &made<frmWorkStyle>},
+    Screen{u"frmKurbo", &made<frmKurbo>},         Screen{u"frmTotal", &made<frmTotal>},
+    Screen{u"frmWorkStyle", &made<frmWorkStyle>}, Screen{u"frmAccess", &made<frmAccess>},
+    Screen{u"frmAsign", &made<frmAsign>},         Screen{u"frmWorkTime", &made<frmWorkTime>},
+    Screen{u"frmCalendar", &made<frmCalendar>},
 };
 
 } // namespace

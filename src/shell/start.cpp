@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 
 #include <optional>
 
@@ -53,6 +54,11 @@ class Screens final : public StartScreens {
     std::optional<frmLogin> login_;
 };
 
+// A file that is there already is the company's own, and stays.
+void deliverHolidays(const QString& path) {
+    QFile::copy(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo/Holiday.txt"), path);
+}
+
 } // namespace
 
 int runClient(const QString& appFolder, const Clock& clock) {
@@ -65,6 +71,7 @@ int runClient(const QString& appFolder, const Clock& clock) {
     }
     QDir::setCurrent(appFolder);
     const Paths paths = pathsIn(appFolder);
+    deliverHolidays(paths.HolidayPath);
     frmWaiting waiting;
     const Context context{prompts, clock, paths, waiting};
     WaitBox waitBox;

@@ -59,11 +59,13 @@ QString WhichHoliday(const Context& context, Connection& connection, Day date) {
 }
 
 int ExistCalendar(const Context& context, Connection& connection, Day from, Day to) {
-    return guarded(context, module, u"ExistCalendar", -1, [&] {
-        const auto count = connection.firstValue(
-            QStringLiteral("SELECT Count(F_Date) FROM T01_Calendar WHERE (F_Date BETWEEN ? AND ?);"), {from, to});
-        return static_cast<int>(count->integer());
-    });
+    return guarded(context, module, u"ExistCalendar", -1, [&] { return calendarRows(connection, from, to); });
+}
+
+int calendarRows(Connection& connection, Day from, Day to) {
+    const auto count = connection.firstValue(
+        QStringLiteral("SELECT Count(F_Date) FROM T01_Calendar WHERE (F_Date BETWEEN ? AND ?);"), {from, to});
+    return static_cast<int>(count->integer());
 }
 
 QString noCalendarText() {
@@ -103,11 +105,14 @@ int RecordedDays(const Context& context, Connection& connection) {
 }
 
 std::optional<Day> GetFirstDate(const Context& context, Connection& connection) {
-    return guarded(context, module, u"GetFirstDate", std::optional<Day>(), [&] {
-        const auto first = connection.firstValue(QStringLiteral("SELECT F_Date FROM T01_Calendar ORDER BY F_Date;"));
-        const auto moment = first ? first->moment() : std::nullopt;
-        return std::optional(moment ? dayOf(*moment) : context.clock.today());
-    });
+    return guarded(context, module, u"GetFirstDate", std::optional<Day>(),
+                   [&] { return std::optional(firstCalendarDay(connection).value_or(context.clock.today())); });
+}
+
+std::optional<Day> firstCalendarDay(Connection& connection) {
+    const auto first = connection.firstValue(QStringLiteral("SELECT F_Date FROM T01_Calendar ORDER BY F_Date;"));
+    const auto moment = first ? first->moment() : std::nullopt;
+    return moment ? std::optional(dayOf(*moment)) : std::nullopt;
 }
 
 std::optional<Day> GetFirstMonth(const Context& context, Connection& connection) {

@@ -22,6 +22,8 @@ namespace kurbo {
 [[nodiscard]] QString WhichHoliday(const Context& context, Connection& connection, Day date);
 // Calendar rows from `from` to `to`, both included, or -1.
 [[nodiscard]] int ExistCalendar(const Context& context, Connection& connection, Day from, Day to);
+// The same without a report; throws.
+[[nodiscard]] int calendarRows(Connection& connection, Day from, Day to);
 // That a period or a day has no calendar yet.
 [[nodiscard]] QString noCalendarText();
 // Says so when `day` has no calendar row.
@@ -35,6 +37,8 @@ namespace kurbo {
 [[nodiscard]] int RecordedDays(const Context& context, Connection& connection);
 // First calendar day, today on an empty calendar, nothing on a failure.
 [[nodiscard]] std::optional<Day> GetFirstDate(const Context& context, Connection& connection);
+// The same without a report, nothing on an empty calendar; throws.
+[[nodiscard]] std::optional<Day> firstCalendarDay(Connection& connection);
 // First day of the first saved month, or of this month when none is saved; nothing on a failure.
 [[nodiscard]] std::optional<Day> GetFirstMonth(const Context& context, Connection& connection);
 // Combo list of a grid column, "#code;value" joined by "|"; without a code field the values alone; with `blank` one "|"

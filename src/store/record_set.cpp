@@ -25,7 +25,7 @@ void RecordSet::read(Rows& rows, bool withId) {
         QList<Value> values;
         values.reserve(fields_.size());
         for (int column = first; column < rows.columns(); ++column) values.append(rows.value(column));
-        records_.append({withId ? rows.integer(0) : 0, values, values});
+        records_.append({withId ? std::optional(rows.integer(0)) : std::nullopt, values, values});
     }
 }
 
@@ -99,7 +99,7 @@ void RecordSet::set(const QString& field, const Value& value) {
 void RecordSet::addNew() {
     const QList<Value> blank(fields_.size());
     visible_.append(records_.size());
-    records_.append({0, blank, blank});
+    records_.append({{}, blank, blank});
     at_ = visible_.size() - 1;
 }
 
@@ -108,7 +108,7 @@ void RecordSet::updateBatch() {
     QList<Record> sent = records_;
     Transaction transaction(connection_);
     for (Record& record : sent) {
-        if (record.id == 0)
+        if (!record.id)
             insert(record);
         else if (record.current != record.stored)
             update(record);
@@ -150,7 +150,7 @@ void RecordSet::update(const Record& record) {
         values.append(record.current[i]);
     }
     QString condition = QStringLiteral("rowid = ?");
-    values.append(record.id);
+    values.append(*record.id);
     for (const QString& key : keyOf(table_)) {
         const qsizetype position = positions_.value(key.toLower(), -1);
         if (position < 0) continue;

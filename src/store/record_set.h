@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace kurbo {
 
 // The rows of a statement, held in memory to be looked through and changed: for the few rows that a screen edits. What
@@ -43,7 +45,7 @@ class RecordSet final {
 
   private:
     struct Record {
-        std::int64_t id = 0; // 0: not yet in the store
+        std::optional<std::int64_t> id; // none: not yet in the store
         QList<Value> stored;
         QList<Value> current;
     };

@@ -3,7 +3,7 @@
 #include "base/code_page.h"
 #include "base/day.h"
 #include "base/failure.h"
-#include "totals/csv_line.h"
+#include "base/csv_line.h"
 
 #include <algorithm>
 #include <charconv>

@@ -200,8 +200,32 @@ void WorkingDay::administrator() {
         camera_.shoot(*menu, QStringLiteral("メニュー ") + menu->title().section(u'(', 0, 0));
         menu->close();
     }
-    window_.findChild<QAction*>(QStringLiteral("mnuCalendar"))->trigger();
+    calendar();
     window_.findChild<QAction*>(QStringLiteral("mnuTopic"))->trigger();
+}
+
+// Every Sunday becomes a day off.
+void WorkingDay::calendar() {
+    window_.findChild<QAction*>(QStringLiteral("mnuCalendar"))->trigger();
+    settle();
+    QWidget* const form = screen("frmCalendar");
+    if (!form) return;
+    form->findChild<QAction*>(QStringLiteral("mnuHoliday"))->trigger();
+    settle();
+    if (QWidget* const rules = screen("frmHoliday")) {
+        GridModel& cells = *rules->findChild<Grid*>(QStringLiteral("vfgHoliday"))->grid();
+        int column = 0;
+        for (const char16_t* text : {u"毎週", u"日曜日", u"", u"", u"定休日", u"全日"})
+            cells.edit(1, ++column, QString::fromUtf16(text));
+        camera_.shoot(*rules, QStringLiteral("休日設定"));
+        rules->findChild<QPushButton*>(QStringLiteral("cmdWrite"))->click();
+        settle();
+    }
+    camera_.shoot(*form, QStringLiteral("カレンダー設定"));
+    form->findChild<QPushButton*>(QStringLiteral("cmdUpdate"))->click();
+    settle();
+    form->close();
+    settle();
 }
 
 void WorkingDay::otherWindows() {

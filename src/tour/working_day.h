@@ -21,6 +21,7 @@ class WorkingDay final {
     void card();
     void totals();
     void administrator();
+    void calendar();
     void otherWindows();
     void end();
 

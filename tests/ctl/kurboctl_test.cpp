@@ -52,6 +52,19 @@ TEST_F(Kurboctl, WrongUseIsTwo) {
     EXPECT_EQ(kurboctl({u"punch"_q, desk.file(u"none.mdb"_q), u"enter"_q, u"--staff"_q, u"1"_q}).exit, 2);
 }
 
+TEST_F(Kurboctl, HolidaysOfAYear) {
+    const QString file = desk.file(u"Holiday.txt"_q);
+    for (const QString& year : {u"2021"_q, u"2100"_q, u"next"_q})
+        EXPECT_EQ(kurboctl({u"holidays"_q, file, u"--year"_q, year}).exit, 2);
+    EXPECT_EQ(kurboctl({u"holidays"_q, file}).exit, 2);
+    EXPECT_EQ(kurboctl({u"holidays"_q, file, u"--year"_q, u"2027"_q}).exit, 0);
+    const QByteArray first = readFile(file);
+    EXPECT_EQ(kurboctl({u"holidays"_q, file, u"--year"_q, u"2028"_q}).exit, 1);
+    EXPECT_EQ(readFile(file), first);
+    EXPECT_EQ(kurboctl({u"holidays"_q, file, u"--year"_q, u"2028"_q, u"--overwrite"_q}).exit, 0);
+    EXPECT_TRUE(readFile(file).contains("\"03/20\""));
+}
+
 TEST_F(Kurboctl, NewCheckAndCompact) {
     const QString fresh = desk.file(u"新しい.mdb"_q);
     EXPECT_EQ(kurboctl({u"new"_q, fresh}).exit, 0);

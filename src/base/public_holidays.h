@@ -9,6 +9,8 @@ namespace kurbo {
 struct PublicHoliday {
     Day day;
     QString name;
+    // It is always this Monday of its month; 0 for a holiday of a date.
+    int monday = 0;
     friend bool operator==(const PublicHoliday&, const PublicHoliday&) = default;
 };
 

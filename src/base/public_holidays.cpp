@@ -1,4 +1,4 @@
-#include "demo/public_holidays.h"
+#include "base/public_holidays.h"
 
 #include <algorithm>
 
@@ -11,8 +11,9 @@ Day on(int year, unsigned month, unsigned day) {
     return local_days{std::chrono::year{year} / std::chrono::month{month} / std::chrono::day{day}};
 }
 
-Day monday(int year, unsigned month, unsigned number) {
-    return local_days{std::chrono::year{year} / std::chrono::month{month} / Monday[number]};
+PublicHoliday onMonday(int year, unsigned month, int number, const QString& name) {
+    const auto nth = Monday[static_cast<unsigned>(number)];
+    return {local_days{std::chrono::year{year} / std::chrono::month{month} / nth}, name, number};
 }
 
 unsigned equinox(int year, int base) {
@@ -22,7 +23,7 @@ unsigned equinox(int year, int base) {
 
 QList<PublicHoliday> namedHolidays(int year) {
     return {{on(year, 1, 1), QStringLiteral("元日")},
-            {monday(year, 1, 2), QStringLiteral("成人の日")},
+            onMonday(year, 1, 2, QStringLiteral("成人の日")),
             {on(year, 2, 11), QStringLiteral("建国記念の日")},
             {on(year, 2, 23), QStringLiteral("天皇誕生日")},
             {on(year, 3, equinox(year, 20'843'100)), QStringLiteral("春分の日")},
@@ -30,11 +31,11 @@ QList<PublicHoliday> namedHolidays(int year) {
             {on(year, 5, 3), QStringLiteral("憲法記念日")},
             {on(year, 5, 4), QStringLiteral("みどりの日")},
             {on(year, 5, 5), QStringLiteral("こどもの日")},
-            {monday(year, 7, 3), QStringLiteral("海の日")},
+            onMonday(year, 7, 3, QStringLiteral("海の日")),
             {on(year, 8, 11), QStringLiteral("山の日")},
-            {monday(year, 9, 3), QStringLiteral("敬老の日")},
+            onMonday(year, 9, 3, QStringLiteral("敬老の日")),
             {on(year, 9, equinox(year, 23'248'800)), QStringLiteral("秋分の日")},
-            {monday(year, 10, 2), QStringLiteral("スポーツの日")},
+            onMonday(year, 10, 2, QStringLiteral("スポーツの日")),
             {on(year, 11, 3), QStringLiteral("文化の日")},
             {on(year, 11, 23), QStringLiteral("勤労感謝の日")}};
 }

@@ -1,4 +1,4 @@
-#include "totals/csv_line.h"
+#include "base/csv_line.h"
 
 namespace kurbo {
 namespace {

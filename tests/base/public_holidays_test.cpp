@@ -1,4 +1,4 @@
-#include "demo/public_holidays.h"
+#include "base/public_holidays.h"
 
 #include <gtest/gtest.h>
 

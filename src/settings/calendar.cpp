@@ -1,0 +1,73 @@
+#include "settings/calendar.h"
+
+#include "engine/loaders.h"
+#include "settings/calendar_store.h"
+#include "settings/settings_steps.h"
+#include "store/readers.h"
+
+namespace kurbo {
+namespace {
+
+constexpr QStringView form = u"frmCalendar";
+// Years before and after this one that may be made.
+constexpr int mostYears = 2;
+
+Day firstOf(int year) {
+    return makeDay(year, 1, 1).value();
+}
+
+Day lastOf(int year) {
+    return makeDay(year, 12, 31).value();
+}
+
+} // namespace
+
+void Calendar::load() {
+    Connection& connection = client_.HomeConnection;
+    clsWorkTime rules;
+    readCompanyStyle(connection, rules);
+    sheet.kinds = GridList(holidayKinds(rules));
+    const int thisYear = yearOf(client_.context.clock.today());
+    const auto first = firstCalendarDay(connection);
+    if (!first) CreateCalendar(client_.context.progress, connection, firstOf(thisYear), lastOf(thisYear));
+    const bool hasThisYear = !first || calendarRows(connection, firstOf(thisYear), lastOf(thisYear)) > 0;
+    ShowCalendar(connection, sheet, hasThisYear ? thisYear : yearOf(*first));
+}
+
+bool Calendar::mayMake(int year, bool later) const {
+    Prompts& prompts = client_.context.prompts;
+    const int ahead = year - yearOf(client_.context.clock.today());
+    if (later && ahead > mostYears) {
+        prompts.exclaim(QStringLiteral("これ以上先のカレンダーは作成できません。"));
+        return false;
+    }
+    if (!later && ahead < -mostYears) {
+        prompts.exclaim(QStringLiteral("これ以上前のカレンダーは作成できません。"));
+        return false;
+    }
+    const QString question = lines(QString::number(year) + QStringLiteral("年のカレンダーは作成されていません。"),
+                                   QString(), QStringLiteral("作成してよろしいですか？"));
+    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) == Answer::Ok;
+}
+
+bool Calendar::moveYear(int years, bool changed) {
+    const bool later = years > 0;
+    return guarded(client_.context, form, later ? u"udcYear_UpClick" : u"udcYear_DownClick", false, [&] {
+        if (!mayDiscard(client_.context.prompts, changed, QStringLiteral("カレンダー"))) return false;
+        Connection& connection = client_.HomeConnection;
+        const int year = sheet.year + years;
+        if (calendarRows(connection, firstOf(year), lastOf(year)) == 0) {
+            if (!mayMake(year, later)) return false;
+            CreateCalendar(client_.context.progress, connection, firstOf(year), lastOf(year));
+        }
+        ShowCalendar(connection, sheet, year);
+        return true;
+    });
+}
+
+void Calendar::showAgain() {
+    guarded(client_.context, form, u"ShowCalendar",
+            [this] { ShowCalendar(client_.HomeConnection, sheet, sheet.year); });
+}
+
+} // namespace kurbo

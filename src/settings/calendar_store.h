@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/progress.h"
+#include "settings/calendar_sheet.h"
+#include "store/connection.h"
+
+namespace kurbo {
+
+// All of these throw, and then have changed nothing.
+
+// Adds the days from `first` to `last`, both included, as working days; nothing where one of them is there already.
+void CreateCalendar(Progress& progress, Connection& connection, Day first, Day last);
+
+// Reads a year and draws it.
+void ShowCalendar(Connection& connection, CalendarSheet& sheet, int year);
+
+// Stores the rows that were changed since they were drawn. A day that is gone from the store is a complaint.
+void UpdateCalendar(Progress& progress, Connection& connection, const CalendarSheet& sheet);
+
+} // namespace kurbo

@@ -1,0 +1,88 @@
+#include "settings/time_checks.h"
+
+#include "base/code_page.h"
+#include "base/failure.h"
+#include "settings/time_store.h"
+#include "settings/time_texts.h"
+
+namespace kurbo {
+namespace {
+
+QString nameWord(const TimePage& page) {
+    return QString::fromUtf16(page.word) + QStringLiteral("名称");
+}
+
+QString lengthDemand(const TimePage& page) {
+    return nameWord(page) + QStringLiteral("は全角15文字(半角30文字)以内で入力します。");
+}
+
+bool isTooLong(const QString& name) {
+    constexpr int mostBytes = 30;
+    return byteLength(name) > mostBytes;
+}
+
+void checkName(Connection& connection, const TimeSheet& sheet, const QString& name) {
+    const QString word = nameWord(sheet.page);
+    if (name.isEmpty()) throw Complaint(word + QStringLiteral("が入力されていません。"));
+    if (name == sheet.page.reserved)
+        throw Complaint(lines(word + QStringLiteral("を変更して下さい。"),
+                              QStringLiteral("名称「%1」は使用できません。").arg(name)));
+    if (isTooLong(name)) throw Complaint(word + QStringLiteral("が不正です。") + lengthDemand(sheet.page));
+    if (sheet.code == 0) refuseTakenName(connection, sheet.page, name);
+}
+
+// The fourth slot of the flexible time doesn't count, nor, on a weekday, a text that is no time.
+void checkFilled(const TimeSheet& sheet) {
+    constexpr int mostCounted = 3;
+    const bool flexible = sheet.style.*sheet.page.flex;
+    const bool weekday = &sheet.page == &timePages()[weekdayPage];
+    const int row = sheet.rowOf(flexible ? u"Flex" : u"Work");
+    for (int slot = 0; slot < std::min(sheet.rowAt(row).slots, mostCounted); ++slot) {
+        const QString start = sheet.start(row, slot);
+        if (weekday ? minuteOfDay(start).has_value() : !start.isEmpty()) return;
+    }
+    throw Complaint(flexible ? QStringLiteral("フレキシブルタイムが入力されていません。")
+                             : QStringLiteral("就業時間が入力されていません。"));
+}
+
+// Why a slot with a start can't be stored; empty when it can.
+QString slotRefusal(const QString& start, const QString& end) {
+    if (end.isEmpty()) return QStringLiteral("終了時刻が入力されていません。");
+    if (!minuteOfDay(start) || !minuteOfDay(end)) return timeDemand();
+    return isBehind(end, start) ? QString() : orderDemand();
+}
+
+void checkSlots(const TimeSheet& sheet) {
+    for (int row = sheet.page.firstRow; row < sheet.rowEnd(); ++row) {
+        for (int slot = 0; slot < sheet.rowAt(row).slots; ++slot) {
+            const QString start = sheet.start(row, slot);
+            const QString refusal = start.isEmpty() ? QString() : slotRefusal(start, sheet.end(row, slot));
+            if (!refusal.isEmpty()) throw Complaint(sheet.label(row) + QStringLiteral("が不正です。") + refusal);
+        }
+    }
+}
+
+// The limits themselves are asked as they are typed.
+void checkPairedWithWeekday(const TimeSheet& weekday) {
+    for (int row = weekday.page.firstRow; row < weekday.rowEnd(); ++row) {
+        const QString text = weekday.start(row, 0);
+        if (!text.isEmpty() && !isLimit(text))
+            throw Complaint(weekday.label(row) +
+                            QStringLiteral("の調整時間が不正です。時間をhh:mm形式で入力して下さい。"));
+    }
+}
+
+} // namespace
+
+QString timeNameRefusal(const TimePage& page, const QString& name) {
+    return isTooLong(name) ? QStringLiteral("不正な入力です。") + lengthDemand(page) : QString();
+}
+
+void checkTimes(Connection& connection, const TimeSheet& sheet, const QString& name, const TimeSheet& weekday) {
+    checkName(connection, sheet, name);
+    if (!sheet.page.isBands()) return checkPairedWithWeekday(weekday);
+    if (sheet.page.flex) checkFilled(sheet);
+    checkSlots(sheet);
+}
+
+} // namespace kurbo

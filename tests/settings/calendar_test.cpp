@@ -1,0 +1,187 @@
+#include "settings/calendar.h"
+
+#include "settings/calendar_store.h"
+#include "store/database_file.h"
+#include "support/child.h"
+#include "support/sample_company.h"
+
+namespace kurbo::test {
+namespace {
+
+constexpr int nameColumn = static_cast<int>(CalendarColumn::Name);
+constexpr int kindColumn = static_cast<int>(CalendarColumn::Kind);
+
+class Watched final : public Progress {
+  public:
+    void begin(const QString& text, int maximum) override { seen += text + QString::number(maximum); }
+    void step(int value) override { last = value; }
+    void end() override { seen += u" end "_q; }
+    QString seen;
+    int last = 0;
+};
+
+// The calendar of 2026 is there, and today is in it.
+class CalendarDays : public SampleCompany {
+  protected:
+    CalendarDays() {
+        client.DbPath = path;
+        client.openHome();
+    }
+    [[nodiscard]] int days(int year) {
+        return asked(u"SELECT Count(*) FROM T01_Calendar WHERE (F_DateID LIKE '%1%')"_q.arg(year)).toInt();
+    }
+    [[nodiscard]] QString stored(const QString& id) {
+        return asked(u"SELECT F_Holiday FROM T01_Calendar WHERE F_DateID = '%1'"_q.arg(id)) + u' ' +
+               asked(u"SELECT F_Type FROM T01_Calendar WHERE F_DateID = '%1'"_q.arg(id));
+    }
+    void edit(int row, int column, const QString& text) { calendar.sheet.grid.edit(row, column, text); }
+    void update() { UpdateCalendar(watched, client.HomeConnection, calendar.sheet); }
+
+    Client client{desk.context};
+    Calendar calendar{client};
+    Watched watched;
+};
+
+QString complaintOf(const std::function<void()>& body) {
+    try {
+        body();
+    } catch (const Complaint& complaint) {
+        return complaint.description();
+    }
+    return {};
+}
+
+} // namespace
+
+TEST_F(CalendarDays, AYearIsMadeWholeOrNotAtAll) {
+    CreateCalendar(watched, connection, *makeDay(2028, 1, 1), *makeDay(2028, 12, 31));
+    EXPECT_EQ(days(2028), 366);
+    EXPECT_EQ(watched.seen, u"カレンダーを作成しています･･･367 end "_q);
+    EXPECT_EQ(watched.last, 366);
+    EXPECT_EQ(asked(u"SELECT F_Date FROM T01_Calendar WHERE F_DateID = '20280229'"_q), u"2028/02/29 00:00:00"_q);
+    EXPECT_EQ(stored(u"20280229"_q), u"- -"_q);
+    connection.execute(u"DELETE FROM T01_Calendar WHERE (F_DateID > '20280105')"_q);
+    CreateCalendar(watched, connection, *makeDay(2028, 1, 1), *makeDay(2028, 12, 31));
+    EXPECT_EQ(days(2028), 5) << "a year with any day counts as made";
+    connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20291231', #2030/01/01#)"_q);
+    EXPECT_THROW(CreateCalendar(watched, connection, *makeDay(2029, 1, 1), *makeDay(2029, 12, 31)), Fault);
+    EXPECT_EQ(days(2029), 1);
+}
+
+TEST_F(CalendarDays, TwoAdministratorsMakeTheSameYears) {
+    constexpr int years = 20;
+    connection.close();
+    client.closeConnections();
+    const auto makeYears = [this] {
+        Connection own;
+        own.open(path, databasePassword());
+        NoProgress quiet;
+        for (int year = 2001; year <= 2000 + years; ++year)
+            CreateCalendar(quiet, own, *makeDay(year, 1, 1), *makeDay(year, 12, 31));
+        return 0;
+    };
+    const pid_t one = startChild(makeYears);
+    const pid_t other = startChild(makeYears);
+    EXPECT_EQ(endOf(one), 0);
+    EXPECT_EQ(endOf(other), 0);
+    connection.open(path, databasePassword());
+    for (int year = 2001; year <= 2000 + years; ++year) EXPECT_EQ(days(year), year % 4 == 0 ? 366 : 365) << year;
+}
+
+TEST_F(CalendarDays, OpenOnThisYearOrTheOldest) {
+    calendar.load();
+    EXPECT_EQ(calendar.sheet.year, 2026);
+    EXPECT_EQ(calendar.sheet.kinds.source(), u"|#0;全日|#1;午前|#2;午後"_q);
+    desk.clock.set(at(*makeDay(2027, 1, 1), 9, 0));
+    connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20240701', #2024/07/01#)"_q);
+    connection.execute(u"UPDATE M01_CorpInfo SET F_AmHolidayWork = 0, F_PmHolidayWork = -1, F_LegalHoliday = True"_q);
+    calendar.load();
+    EXPECT_EQ(calendar.sheet.year, 2024);
+    EXPECT_EQ(calendar.sheet.kinds.source(), u"|#0;全日|#3;法定休日"_q);
+    connection.execute(u"DELETE FROM T01_Calendar"_q);
+    calendar.load();
+    EXPECT_EQ(calendar.sheet.year, 2027);
+    EXPECT_EQ(days(2027), 365);
+    connection.execute(u"DELETE FROM M01_CorpInfo"_q);
+    EXPECT_EQ(complaintOf([&] { calendar.load(); }).left(15), u"勤務形態設定に不備があります。"_q);
+}
+
+TEST_F(CalendarDays, YearsAreMadeWithinLimits) {
+    const QString make = u"年のカレンダーは作成されていません。\r\n\r\n作成してよろしいですか？"_q;
+    const QString discard = u"カレンダーは変更されています。変更を破棄しますか？"_q;
+    calendar.load();
+    desk.prompts.expect(discard, Answer::No);
+    EXPECT_FALSE(calendar.moveYear(1, true));
+    desk.prompts.expect(discard, Answer::Yes).expect(u"2027"_q + make, Answer::Cancel);
+    EXPECT_FALSE(calendar.moveYear(1, true));
+    EXPECT_EQ(days(2027), 0);
+    desk.prompts.expect(u"2027"_q + make).expect(u"2028"_q + make);
+    EXPECT_TRUE(calendar.moveYear(1, false) && calendar.moveYear(1, false));
+    EXPECT_EQ(calendar.sheet.grid.Rows(), 1 + 366);
+    desk.prompts.expect(u"これ以上先のカレンダーは作成できません。"_q);
+    EXPECT_FALSE(calendar.moveYear(1, false));
+    connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20290101', #2029/01/01#)"_q);
+    EXPECT_TRUE(calendar.moveYear(1, false)) << "what is there is shown beyond the limit";
+    for (int year = 2028; year >= 2026; --year) EXPECT_TRUE(calendar.moveYear(-1, false));
+    desk.prompts.expect(u"2025"_q + make).expect(u"2024"_q + make);
+    EXPECT_TRUE(calendar.moveYear(-1, false) && calendar.moveYear(-1, false));
+    desk.prompts.expect(u"これ以上前のカレンダーは作成できません。"_q);
+    EXPECT_FALSE(calendar.moveYear(-1, false));
+    EXPECT_EQ(calendar.sheet.year, 2024);
+    EXPECT_EQ(days(2023) + days(2030), 0);
+}
+
+TEST_F(CalendarDays, ChangedRowsAreStored) {
+    calendar.load();
+    const GridModel& grid = calendar.sheet.grid;
+    EXPECT_EQ(grid.CellText(3, 1), u"2026/01/03(土)"_q);
+    EXPECT_EQ(grid.RowForeColor(3), (GridColour{0, 0, 255}));
+    EXPECT_EQ(grid.RowForeColor(4), (GridColour{255, 0, 0}));
+    EXPECT_FALSE(grid.RowForeColor(5));
+    connection.execute(u"UPDATE T01_Calendar SET F_Holiday = '他', F_Type = '1' WHERE F_DateID = '20260103'"_q);
+    const QString strange = u" It's 50% %1 𠮷 "_q;
+    edit(1, nameColumn, strange);
+    edit(1, kindColumn, u"全日"_q);
+    edit(119, nameColumn, {});
+    update();
+    EXPECT_EQ(watched.seen, u"更新しています･･･366 end "_q);
+    EXPECT_EQ(stored(u"20260101"_q), strange.trimmed() + u" 0"_q);
+    EXPECT_EQ(stored(u"20260429"_q), u"- -"_q);
+    EXPECT_EQ(stored(u"20260103"_q), u"他 1"_q) << "what another client has written elsewhere stays";
+    edit(2, nameColumn, u"x"_q);
+    edit(120, nameColumn, u"y"_q);
+    connection.execute(u"DELETE FROM T01_Calendar WHERE F_DateID = '20260430'"_q);
+    EXPECT_EQ(complaintOf([&] { update(); }).left(10), u"2026/04/30"_q);
+    EXPECT_EQ(stored(u"20260102"_q), u"- -"_q);
+}
+
+TEST_F(CalendarDays, CellsAndRowsAreChecked) {
+    calendar.load();
+    const CalendarRules rules(calendar.sheet);
+    const QString thirty = u"亜"_q.repeated(15);
+    const QString badName = u"不正な入力です。日付名称は全角15文字(半角30文字)以内で入力します。"_q;
+    const QString badKind = u"不正な入力です。リストから選択して下さい。"_q;
+    const QString wrongName = u"2026/01/05(月)の日付名称が不正です。\r\n全角15文字(半角30文字)以内で入力します。"_q;
+    const QString wrongKind = u"2026/01/05(月)の休日種別が不正です。\r\n休日種別はリストから選択して下さい。"_q;
+    struct Case {
+        int column;
+        QString text;
+        QString refusal;
+        QString complaint;
+    };
+    for (const Case& c : {Case{nameColumn, thirty, {}, {}},
+                          {nameColumn, thirty + u'a', badName, wrongName},
+                          {nameColumn, u"ｱ"_q.repeated(31), badName, wrongName},
+                          {nameColumn, u"𠮷"_q.repeated(16), badName, wrongName},
+                          {kindColumn, u"午後"_q, {}, {}},
+                          {kindColumn, u"法定休日"_q, badKind, wrongKind},
+                          {kindColumn, u"x"_q, badKind, wrongKind}}) {
+        EXPECT_EQ(rules.refusal(5, c.column, c.text), c.refusal) << c.text;
+        edit(5, c.column, c.text);
+        EXPECT_EQ(complaintOf([&] { checkCalendar(calendar.sheet); }), c.complaint) << c.text;
+        edit(5, c.column, {});
+    }
+    EXPECT_FALSE(rules.mayEdit(0, nameColumn) || rules.mayEdit(5, 1) || rules.mayEdit(5, 4));
+}
+
+} // namespace kurbo::test

@@ -1,0 +1,94 @@
+#include "settings/frmAsign.h"
+
+#include "screen/data_combo.h"
+#include "screen/data_list.h"
+#include "screen/open_forms.h"
+#include "settings/settings_window.h"
+
+#include <QTabWidget>
+
+namespace kurbo::test {
+namespace {
+
+class frmAsignTest : public SettingsWindow<frmAsign> {
+  protected:
+    frmAsignTest() {
+        connection.execute(u"INSERT INTO M04_HolidayStyle (F_HolidayCode, F_HolidayName) VALUES (1, '休日')"_q);
+        connection.execute(u"UPDATE M01_CorpInfo SET F_AmHolidayWork = 0, F_PmHolidayWork = 0"_q);
+        connection.execute(u"UPDATE M02_StaffInfo SET F_AdjustHours = 1 WHERE (F_StaffCode = '1001')"_q);
+    }
+    [[nodiscard]] QString text(const char* name) const { return editorOf(find<QWidget>(name))->text(); }
+    void chooseStaff(int row) const {
+        find<DataList>("dtsStaff")->setCurrentRow(row);
+        QTest::qWait(1);
+    }
+};
+
+TEST_F(frmAsignTest, OneRound) {
+    open();
+    EXPECT_EQ(text("txtCloseDay"), u"31"_q);
+    EXPECT_EQ(text("dcbWeekday"), u"日勤"_q);
+    EXPECT_FALSE(find<QWidget>("dcbAmHoliday")->isEnabled() || find<QWidget>("cmdWorkTime_2")->isEnabled());
+    EXPECT_FALSE(mayUpdate());
+
+    type("txtCloseDay", u"28"_q);
+    desk.prompts.expect(u"不正な入力です。タイムカード締日は1～27, 31(末締は31)の範囲で入力します。"_q);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::qWait(1);
+    EXPECT_EQ(QApplication::focusWidget(), find<QWidget>("txtCloseDay"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(text("txtCloseDay"), u"31"_q);
+    type("txtEnterDelay", {});
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    click("cmdUpdate");
+    EXPECT_EQ(text("txtEnterDelay"), u"0"_q);
+
+    type("txtPaid", u"12.5"_q);
+    desk.prompts.expect(u"社員設定は変更されています。変更を破棄しますか？"_q, Answer::No);
+    chooseStaff(1);
+    EXPECT_EQ(find<DataList>("dtsStaff")->boundText(), u"1001"_q);
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
+    chooseStaff(1);
+    EXPECT_EQ(text("txtPaid"), u"20"_q);
+    EXPECT_FALSE(mayUpdate());
+}
+
+TEST_F(frmAsignTest, ADeletedSettingShowsBlank) {
+    open();
+    const QString question =
+        u"選択したユーザーの設定を削除します。\r\n削除したユーザーはログインできなくなります。\r\nよろしいですか？"_q;
+    desk.prompts.expect(question, Answer::Cancel).expect(question);
+    trigger("mnuDelete");
+    EXPECT_EQ(text("txtCloseDay"), u"31"_q);
+    trigger("mnuDelete");
+    EXPECT_EQ(text("txtCloseDay") + text("dcbAccess") + text("txtPassword"), QString());
+    trigger("mnuPrint");
+    EXPECT_TRUE(desk.prompts.shownTexts().first().contains(u"         ﾊﾟｽﾜｰﾄﾞ：\n"_q));
+    desk.prompts.expect(u"パスワードが入力されていません。"_q);
+    type("txtLeaveGain", u"5"_q);
+    click("cmdUpdate");
+    desk.prompts.expect(u"社員設定は変更されています。"_q, Answer::Yes);
+    EXPECT_TRUE(form->close());
+    EXPECT_EQ(asked(u"SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = '1001')"_q), u"山田太郎"_q);
+}
+
+// The page of the button that was pressed.
+TEST_F(frmAsignTest, TheButtonsLeadToTheirPages) {
+    open();
+    find<QTabWidget>("tabStaff")->setCurrentIndex(1);
+    for (const auto& [button, page] : {std::pair{"cmdWorkTime_1", 1}, {"cmdWorkTime_4", 4}}) {
+        find<QWidget>(button)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QWidget* const workTime = QApplication::activeModalWidget();
+        ASSERT_TRUE(workTime && workTime->objectName() == u"frmWorkTime") << button;
+        EXPECT_EQ(workTime->findChild<QTabWidget*>(u"tabTime"_q)->currentIndex(), page);
+        workTime->close();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    }
+    click("cmdAccess");
+    ASSERT_TRUE(IsFormLoaded(u"frmAccess"_q));
+    QApplication::activeModalWidget()->close();
+}
+
+} // namespace
+} // namespace kurbo::test

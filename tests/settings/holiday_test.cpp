@@ -1,0 +1,204 @@
+#include "base/code_page.h"
+#include "base/files.h"
+#include "base/public_holidays.h"
+#include "settings/holiday_sheet.h"
+#include "support/desk.h"
+
+#include <QRegularExpression>
+
+namespace kurbo::test {
+namespace {
+
+const QString delivered = QStringLiteral(KURBO_DATA "/Holiday.txt");
+
+// A year of working days, and rules for it.
+class HolidayRules : public ::testing::Test {
+  protected:
+    HolidayRules() { begin(2027); }
+    void begin(int year) {
+        QList<CalendarRow> days;
+        for (Day day = *makeDay(year, 1, 1); yearOf(day) == year; day += std::chrono::days(1))
+            days.append({day, dateId(day), {}, {}});
+        calendar.kinds = GridList(u"|#0;全日|#1;午前"_q);
+        calendar.onEdit = [this] { ++told; };
+        drawCalendar(calendar, year, days);
+        SetupGrid(rules, calendar);
+        next = 1;
+        told = 0;
+    }
+    // Method, weekday, start, end, name, kind.
+    void rule(const QStringList& cells) {
+        for (int i = 0; i < cells.size(); ++i) rules.grid.TextMatrix(next, 1 + i, cells[i]);
+        ++next;
+    }
+    // "mmdd" and the name of each day that was marked.
+    [[nodiscard]] QString marked() const {
+        QStringList days;
+        for (int row = 1; row < calendar.grid.Rows(); ++row)
+            if (calendar.grid.RowStatus(row) != GridStatus::None)
+                days.append(calendar.text(row, CalendarColumn::Id).mid(4) + calendar.text(row, CalendarColumn::Name));
+        return days.join(u' ');
+    }
+    [[nodiscard]] QString refusal() const {
+        try {
+            checkRules(rules);
+        } catch (const Complaint& complaint) {
+            return complaint.description();
+        }
+        return {};
+    }
+
+    CalendarSheet calendar;
+    HolidaySheet rules;
+    int next = 1;
+    int told = 0;
+};
+
+QString official(int year) {
+    QStringList days;
+    for (const PublicHoliday& holiday : publicHolidays(year)) days.append(dateId(holiday.day).mid(4) + holiday.name);
+    return days.join(u' ');
+}
+
+} // namespace
+
+TEST_F(HolidayRules, TheDeliveredFileIsTheLawsYear) {
+    const auto file = ReadHolidayFile(delivered);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->heading.startsWith(u"2027年"_q));
+    fillHolidays(rules, file->lines);
+    EXPECT_EQ(refusal(), QString());
+    writeRules(rules, calendar);
+    EXPECT_EQ(marked(), official(2027));
+    for (int row = 1; row < calendar.grid.Rows(); ++row) {
+        EXPECT_EQ(calendar.text(row, CalendarColumn::Kind).isEmpty(),
+                  calendar.text(row, CalendarColumn::Name).isEmpty());
+    }
+    EXPECT_EQ(readFile(delivered), holidayFileOf(2027));
+}
+
+// Why the file is made anew each year: the equinoxes, and the days off that follow from other holidays.
+TEST_F(HolidayRules, AFileIsRightForItsOwnYear) {
+    const Desk desk;
+    for (const int year : {2028, 2029, 2030, 2032}) {
+        replaceFile(desk.paths.HolidayPath, holidayFileOf(year));
+        begin(year);
+        fillHolidays(rules, ReadHolidayFile(desk.paths.HolidayPath)->lines);
+        writeRules(rules, calendar);
+        EXPECT_EQ(marked(), official(year));
+        begin(year);
+        fillHolidays(rules, ReadHolidayFile(delivered)->lines);
+        writeRules(rules, calendar);
+        EXPECT_NE(marked(), official(year));
+        const QStringList lasting = official(year).split(u' ').filter(QRegularExpression(u"^[^春秋休]+$"_q));
+        for (const QString& day : lasting) EXPECT_TRUE(marked().contains(day)) << day;
+    }
+}
+
+TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
+    const Desk desk;
+    const QString line = u"01/01,元日,0\r\n"_q;
+    struct Case {
+        QByteArray bytes;
+        QString expected;
+    };
+    const auto cp932 = [](const QString& text) { return *toCodePage(text); };
+    for (const Case& c : {Case{cp932(u"見出し\r\n"_q + line), u"見出し:01/01元日0"_q},
+                          {cp932(u"\"見, \"\"出\"\"\"\n\"02/11\", 建国 ,\"1\"\n\n"_q), u"見, \"出\":02/11建国1"_q},
+                          {"\xEF\xBB\xBF" + (u"𠮷\n"_q + line).toUtf8(), u"𠮷:01/01元日0"_q},
+                          {cp932(u"h\r\n"_q + line.repeated(100)), u"h:"_q + u"01/01元日0"_q.repeated(100)},
+                          {cp932(u"h\n"_q + line.repeated(101)), {}},
+                          {cp932(u"h\n01/2/2,成人の日,0"_q), u"h:01/2/2成人の日0"_q},
+                          {cp932(u"h\n1/2/2,成人の日,0"_q), {}},
+                          {cp932(u"h\n0101,元日,0"_q), {}},
+                          {cp932(u"h\n01/01,元日"_q), {}},
+                          {cp932(u"h\n01/01,元日,0,"_q), {}},
+                          {cp932(u"h\n\"01/01,元日,0"_q), {}},
+                          {"h\n01/01,\x81\x01,0", {}},
+                          {{}, {}}}) {
+        replaceFile(desk.paths.HolidayPath, c.bytes);
+        const auto file = ReadHolidayFile(desk.paths.HolidayPath);
+        QString read = file ? file->heading + u':' : QString();
+        for (const HolidayLine& holiday : file ? file->lines : QList<HolidayLine>())
+            read += holiday.date + holiday.name + holiday.kind;
+        EXPECT_EQ(read, c.expected);
+    }
+    EXPECT_FALSE(ReadHolidayFile(desk.file(u"none.txt"_q)));
+    EXPECT_FALSE(ReadHolidayFile(desk.folder.path()));
+    EXPECT_EQ(holidayDate(u"01/2/2"_q, 2027), u"01/11"_q);
+    EXPECT_FALSE(holidayDate(u"02/5/2"_q, 2027)) << "no fifth Monday";
+    EXPECT_FALSE(holidayDate(u"13/1/2"_q, 2027) || holidayDate(u"01/1/8"_q, 2027));
+}
+
+TEST_F(HolidayRules, HolidaysTakeTheEmptyRows) {
+    rule({u"0"_q, u"1"_q});
+    rules.grid.TextMatrix(3, 1, u"6"_q);
+    const QList<HolidayLine> holidays(30, {u"01/01"_q, u"元日"_q, u"0"_q});
+    fillHolidays(rules, holidays);
+    EXPECT_EQ(rules.text(1, HolidayColumn::Name) + rules.text(3, HolidayColumn::Name), QString());
+    EXPECT_EQ(rules.text(2, HolidayColumn::Name) + rules.text(32, HolidayColumn::To), u"元日01/01"_q);
+    EXPECT_EQ(rules.text(33, HolidayColumn::Method), QString());
+    fillHolidays(rules, holidays);
+    EXPECT_EQ(rules.text(holidayRules, HolidayColumn::Kind), u"0"_q);
+    EXPECT_EQ(rules.grid.Rows(), 1 + holidayRules);
+}
+
+TEST_F(HolidayRules, RulesMeetTheirDays) {
+    struct Case {
+        QList<QStringList> rules;
+        QString days;
+    };
+    const QString none;
+    for (const Case& c : {Case{{{u"5"_q, u"2"_q, none, none, u"a"_q}}, u"0329a 0531a 0830a 1129a"_q},
+                          {{{u"2"_q, u"6"_q, none, none, u"a"_q}, {u"6"_q, none, u"01/01"_q, u"11/30"_q}}, u"1210a"_q},
+                          {{{u"6"_q, none, u"12/29"_q, u"01/03"_q, u"a"_q}}, none},
+                          {{{u"6"_q, none, u"12/29"_q, u"12/31"_q, u"a"_q}, {u"0"_q, u"5"_q, none, none, none, none}},
+                           u"1229a 1231a"_q},
+                          {{{u"9"_q, u"1"_q, none, none, u"a"_q}, {u"第１"_q, u"1"_q, none, none, u"a"_q}}, none},
+                          {{{u"10"_q, u"1"_q, none, none, u"a"_q}, {u"3x"_q, u"1"_q, none, none, u"a"_q}}, none},
+                          {{{u"1"_q, u"x"_q, none, none, u"a"_q}, {u"0"_q, u"8"_q, none, none, u"a"_q}}, none}}) {
+        begin(2027);
+        for (const QStringList& cells : c.rules) rule(cells);
+        EXPECT_EQ(refusal(), QString());
+        writeRules(rules, calendar);
+        const QStringList named = marked().split(u' ').filter(u"a"_q);
+        EXPECT_EQ(named.join(u' '), c.days);
+    }
+    begin(2027);
+    rule({u"0"_q, u"1"_q, none, none, u"a"_q, u"0"_q});
+    rule({u"0"_q, u"7"_q, none, none, u"b"_q, u"1"_q});
+    rule({u"6"_q, none, u"01/03"_q, u"01/03"_q});
+    writeRules(rules, calendar);
+    EXPECT_EQ(marked().left(28), u"0102b 0103 0109b 0110a 0116b"_q);
+    EXPECT_EQ(calendar.text(3, CalendarColumn::Kind), QString()) << "an empty rule clears";
+    EXPECT_GT(told, 0);
+}
+
+TEST_F(HolidayRules, WhatIsNotWholeIsRefused) {
+    const QString badList = u"不正な入力です。リストから選択して下さい。"_q;
+    const QString badDate = u"不正な入力です。日付をmm:dd形式で入力して下さい。"_q;
+    const HolidayCells cells(rules);
+    EXPECT_EQ(cells.refusal(1, 1, u"第６"_q), badList);
+    EXPECT_EQ(cells.refusal(1, 2, u"日"_q), badList);
+    EXPECT_EQ(cells.refusal(1, 6, u"午後"_q), badList) << "the company has no free afternoons";
+    EXPECT_EQ(cells.refusal(1, 3, u"02/29"_q), badDate);
+    EXPECT_EQ(cells.refusal(1, 4, u"13/01"_q), badDate);
+    EXPECT_EQ(cells.refusal(1, 5, u"a"_q.repeated(31)),
+              u"不正な入力です。休日名称は全角15文字(半角30文字)以内で入力します。"_q);
+    EXPECT_EQ(cells.refusal(1, 1, u"期間"_q) + cells.refusal(1, 3, u"02/28"_q) + cells.refusal(1, 6, u"午前"_q),
+              QString());
+    rule({u"7"_q});
+    rule({});
+    rule({u"6"_q, {}, u"01/05"_q});
+    EXPECT_EQ(refusal(), u"3行目で終了日付が正しく入力されていません。"_q);
+    rules.grid.TextMatrix(3, 3, u"02/29"_q);
+    EXPECT_EQ(refusal(), u"3行目で開始日付が正しく入力されていません。"_q);
+    rules.grid.TextMatrix(2, 1, u"5"_q);
+    EXPECT_EQ(refusal(), u"2行目で曜日が選択されていません。"_q);
+    begin(2028);
+    rule({u"6"_q, {}, u"02/29"_q, u"02/28"_q});
+    EXPECT_EQ(refusal(), QString()) << "a leap year; the order of the dates is not looked at";
+    EXPECT_EQ(cells.refusal(1, 3, u"02/29"_q), QString());
+}
+
+} // namespace kurbo::test

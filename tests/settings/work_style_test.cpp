@@ -1,0 +1,133 @@
+#include "settings/work_style.h"
+
+#include "base/failure.h"
+#include "settings/listing.h"
+#include "support/sample_company.h"
+
+namespace kurbo::test {
+namespace {
+
+class WorkStyleTest : public SampleCompany {
+  protected:
+    [[nodiscard]] static QString refusal(const WorkStyle& style) {
+        try {
+            checkWorkStyle(style);
+        } catch (const Complaint& complaint) {
+            return complaint.description();
+        }
+        return {};
+    }
+    [[nodiscard]] static WorkStyle good() {
+        WorkStyle style;
+        style.flex = true;
+        style.standard = u"08:00"_q;
+        style.am = {true, 2, true, u"03:30"_q};
+        style.pm = {true, 1, true, u"04:00"_q};
+        style.roundUnit = u"15"_q;
+        style.roundEnter = 1;
+        style.countUnit = 0;
+        style.display.fill(true);
+        return style;
+    }
+    // The stored row, one field after another.
+    [[nodiscard]] QString row(const QStringList& fields) {
+        QStringList texts;
+        for (const QString& field : fields) texts.append(asked(u"SELECT %1 FROM M01_CorpInfo"_q.arg(field)));
+        return texts.join(u' ');
+    }
+};
+
+TEST_F(WorkStyleTest, TheFirstRuleThatFailsIsTold) {
+    struct Case {
+        std::function<void(WorkStyle&)> spoil;
+        QString message;
+    };
+    const auto unit = [](const QString& text) { return [text](WorkStyle& style) { style.roundUnit = text; }; };
+    const QString badUnit = u"端数処理単位が不正です。端数処理単位は1～60の範囲で入力します。"_q;
+    for (const Case& wrong : {
+             Case{[](WorkStyle& style) { style.standard = style.am.standard = u"__:__"_q; },
+                  u"平日勤務の標準労働時間が入力されていません。"_q},
+             Case{[](WorkStyle& style) { style.standard = u"25:00"_q; },
+                  u"平日勤務の標準労働時間が不正です。時間をhh:mm形式で入力します。"_q},
+             Case{[](WorkStyle& style) { style.am.standard = u"__:__"_q; },
+                  u"午前休日の標準労働時間が入力されていません。"_q},
+             Case{[](WorkStyle& style) { style.pm.standard = u"1_:00"_q; },
+                  u"午後休日の標準労働時間が不正です。時間をhh:mm形式で入力します。"_q},
+             Case{unit(u" "_q), u"端数処理単位が入力されていません。"_q},
+             Case{unit(u"0"_q), badUnit},
+             Case{unit(u"-5"_q), badUnit},
+             Case{unit(u"1.5"_q), badUnit},
+             Case{unit(u"61"_q), badUnit},
+             Case{unit(u"60"_q), QString()},
+             // What is switched off is not looked at.
+             Case{[](WorkStyle& style) {
+                      style.flex = style.am.flex = style.pm.exists = false;
+                      style.standard = style.am.standard = style.pm.standard = u"99:99"_q;
+                  },
+                  QString()},
+         }) {
+        WorkStyle style = good();
+        wrong.spoil(style);
+        EXPECT_EQ(refusal(style), wrong.message);
+    }
+}
+
+TEST_F(WorkStyleTest, WhatTheChoicesLeaveWithoutAMeaningBecomesNull) {
+    const QStringList fields{u"F_WorkStyle"_q,      u"F_FlexStandard"_q,  u"F_AmHolidayWork"_q, u"F_AmFlex"_q,
+                             u"F_AmFlexStandard"_q, u"F_PmHolidayWork"_q, u"F_RoundMethod"_q,   u"F_RoundEnter"_q,
+                             u"F_RoundLeave"_q,     u"F_RoundHour"_q,     u"F_CountUnit"_q,     u"F_RoundUnit"_q,
+                             u"F_Diff"_q,           u"F_LegalOver"_q,     u"F_EarlyLeave"_q};
+    writeWorkStyle(connection, good());
+    EXPECT_EQ(row(fields), u"1 08:00 3 -1 03:30 2 0 1 0 - 0 15 -1 0 -1"_q);
+    WorkStyle style = good();
+    style.flex = style.am.exists = false;
+    style.byMonth = true;
+    style.roundHour = 1;
+    writeWorkStyle(connection, style);
+    EXPECT_EQ(row(fields), u"0 - 0 0 - 2 1 - - 1 1 15 0 -1 -1"_q);
+    EXPECT_EQ(count(u"M01_CorpInfo"_q), 1);
+}
+
+TEST_F(WorkStyleTest, AnEmptyCompanyGetsItsRowAndReadsItBack) {
+    connection.execute(u"DELETE * FROM M01_CorpInfo"_q);
+    EXPECT_FALSE(readWorkStyle(connection).am.exists);
+    writeWorkStyle(connection, good());
+    const WorkStyle style = readWorkStyle(connection);
+    EXPECT_EQ(style.am.standard, u"03:30"_q);
+    EXPECT_EQ(style.pm.work, 1);
+    EXPECT_EQ(style.roundUnit, u"15"_q);
+    EXPECT_FALSE(style.display[WorkStyle::legalOver]);
+    // A field without a value leaves what stood before.
+    connection.execute(u"UPDATE M01_CorpInfo SET F_AmHolidayWork = Null, F_RoundUnit = Null"_q);
+    WorkStyle before;
+    before.am = {true, 1, false, u"__:__"_q};
+    EXPECT_EQ(readWorkStyle(connection, before).am.work, 1);
+    EXPECT_EQ(readWorkStyle(connection).roundUnit, QString());
+}
+
+TEST_F(WorkStyleTest, TheListingTellsTheControls) {
+    const QString listing = workStyleListing(good()).join(u'\n');
+    EXPECT_TRUE(listing.startsWith(u"            平日勤務：ﾌﾚｯｸｽ勤務 (標準労働時間：08:00)\n"
+                                   "        午前休日勤務：ﾌﾚｯｸｽ勤務 (標準労働時間：03:30)\n"
+                                   "  午前休日勤務の取扱：ｶｳﾝﾄしない\n"
+                                   "        午後休日勤務：ﾌﾚｯｸｽ勤務 (標準労働時間：04:00)\n"
+                                   "  午後休日勤務の取扱：休日出勤扱い\n"
+                                   "        端数処理方法：1日単位\n"
+                                   "            出社時刻：切上\n"
+                                   "            退社時刻：切捨\n"
+                                   "    端数処理単位(分)：15\n"
+                                   "            時間表示：10進法表示\n"
+                                   "      標準時間との差：表示する\n"
+                                   "        普通残業時間：表示する\n"_q))
+        << listing;
+    WorkStyle style = good();
+    style.flex = style.am.exists = false;
+    style.byMonth = true;
+    const QStringList lines = workStyleListing(style);
+    EXPECT_EQ(lines.mid(0, 2), QStringList({u"            平日勤務：普通勤務"_q, u"        午前休日勤務：無"_q}));
+    EXPECT_TRUE(lines.contains(u"            労働時間：切捨"_q));
+    EXPECT_TRUE(lines.contains(u"      法定内残業時間：表示する"_q));
+}
+
+} // namespace
+} // namespace kurbo::test
