@@ -73,7 +73,7 @@ void Report::place(Part part, int record, int together) {
     const int height = sectionOf(part).height;
     const bool fits = top_ + height + together <= footerTop(design_.paper);
     if (!fits && !pages_.back().empty()) {
-        pages_.push_back({});
+        pages_.emplace_back();
         top_ = firstTop();
         if (part == Part::Detail && hasGroups()) place(Part::Group, record, height);
     }

@@ -66,9 +66,11 @@ QString withoutOpenBracket(const QString& cell, int bytes) {
     return bracket >= 0 && cell.size() > bytes ? cell.left(bracket) : cell;
 }
 
-QStringList recordOf(const GridModel& grid, int row) {
+QStringList recordOf(const GridModel& grid, int row, bool byMonth) {
     const auto [group, line] = wordsOf(grid, row);
-    QStringList cells = isByMonth(grid) ? QStringList{group, line} : QStringList{line, group};
+    QStringList cells;
+    cells.reserve(std::ssize(columns));
+    cells << (byMonth ? group : line) << (byMonth ? line : group);
     for (const ReportColumn& column : figures)
         cells.append(withoutOpenBracket(grid.TextMatrix(row, column.column), column.bytes));
     return cells;
@@ -129,14 +131,14 @@ rptTotal::rptTotal(const GridModel& vfgKurbo, const TotalHeading& heading, Day p
 }
 
 void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeading& heading, Day printedOn) {
+    const bool byMonth = isByMonth(grid);
     RecordList records(fieldsOf(columns));
     for (int row = 1; row < grid.Rows(); ++row) {
-        records.AddNew(recordOf(grid, row));
+        records.AddNew(recordOf(grid, row, byMonth));
         sums_.push_back(isSum(grid, row));
     }
     const QString month = QStringLiteral("F_YearMonth");
     const QString name = QStringLiteral("F_StaffName");
-    const bool byMonth = isByMonth(grid);
     run({.caption = productName() + QStringLiteral("－集計"),
          .documentName = reportDocumentName(),
          .printedOn = slashDate(printedOn),
