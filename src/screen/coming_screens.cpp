@@ -12,9 +12,8 @@ struct Screen {
 };
 
 constexpr std::array screens{
-    Screen{u"frmCorp", u"会社情報登録"},       Screen{u"frmSection", u"部課情報登録"},
-    Screen{u"frmStaff", u"社員情報登録"},      Screen{u"frmMaintainance", u"データ移動"},
-    Screen{u"frmPassword", u"パスワード変更"}, Screen{u"frmDeleteDest", u"外出先削除"},
+    Screen{u"frmMaintainance", u"データ移動"},
+    Screen{u"frmDeleteDest", u"外出先削除"},
 };
 
 } // namespace

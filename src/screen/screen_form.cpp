@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QShortcut>
+#include <QStatusBar>
 
 #include <algorithm>
 
@@ -54,6 +55,13 @@ void ScreenForm::run(const Command& command) {
 
 bool ScreenForm::finishEdits() const {
     return std::ranges::all_of(findChildren<Grid*>(), [](Grid* grid) { return grid->finishEdit(); });
+}
+
+void ScreenForm::tellTips(Grid& grid) {
+    connect(&grid, &Grid::AfterRowColChange, this, [this, &grid](int, int, int row, int column) {
+        const GridRules* const rules = grid.grid()->rules();
+        statusBar()->showMessage(rules && row >= 0 ? rules->tip(row, column) : QString());
+    });
 }
 
 void ScreenForm::putAway() {

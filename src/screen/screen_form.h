@@ -11,6 +11,8 @@ class QAction;
 
 namespace kurbo {
 
+class Grid;
+
 // A window with commands: what such windows have in common. The controls are found by their names.
 class ScreenForm : public QMainWindow {
     Q_OBJECT
@@ -32,6 +34,8 @@ class ScreenForm : public QMainWindow {
     void run(const Command& command);
     // Takes the open cell of each grid; false when one is refused and stays open.
     [[nodiscard]] bool finishEdits() const;
+    // The tip of the current cell stands in the status line.
+    void tellTips(Grid& grid);
     // For a destructor: the window goes before what its grids show.
     void putAway();
     // Opens the file again that the window works on, if the disk has taken it away; false after a reported failure.

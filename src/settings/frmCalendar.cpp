@@ -29,6 +29,7 @@ frmCalendar::~frmCalendar() {
 void frmCalendar::dressFields() {
     ui_->vfgCalendar->setGrid(calendar_.sheet.grid, client_.context);
     ui_->vfgCalendar->setStretchColumn(static_cast<int>(CalendarColumn::Name));
+    tellTips(*ui_->vfgCalendar);
     ui_->udcYear->setBuddy(ui_->txtYear);
     SetImeOpen(ui_->txtYear, false);
     wireGridMenu(*ui_->vfgCalendar, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
@@ -52,9 +53,8 @@ void frmCalendar::readAll() {
 // Nothing stands behind the other commands while no year could be read.
 void frmCalendar::showState() {
     SettingsForm::showState();
-    const bool shown = calendar_.sheet.year > 0;
-    ui_->txtYear->setText(shown ? QString::number(calendar_.sheet.year) : QString());
-    for (QAction* const action : {ui_->mnuPrint, ui_->mnuHoliday}) action->setEnabled(shown);
+    ui_->txtYear->setText(isAlive() ? QString::number(calendar_.sheet.year) : QString());
+    for (QAction* const action : {ui_->mnuPrint, ui_->mnuHoliday}) action->setEnabled(isAlive());
 }
 
 void frmCalendar::moveYear(int years) {

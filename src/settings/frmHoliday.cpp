@@ -14,6 +14,7 @@ frmHoliday::frmHoliday(Client& client, CalendarSheet& calendar, QWidget* parent)
     rules_.grid.setRules(&cells_);
     ui_->vfgHoliday->setGrid(rules_.grid, client_.context);
     ui_->vfgHoliday->setStretchColumn(static_cast<int>(HolidayColumn::Name));
+    tellTips(*ui_->vfgHoliday);
     wireGridMenu(*ui_->vfgHoliday, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
     onCommand(ui_->cmdHoliday, ui_->mnuHoliday, [this] { addHolidays(); });
     onCommand(ui_->cmdWrite, ui_->mnuWrite, [this] { write(); });

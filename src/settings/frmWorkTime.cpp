@@ -14,6 +14,7 @@
 #include "ui_frmWorkTime.h"
 
 #include <QSignalBlocker>
+#include <QStatusBar>
 
 namespace kurbo {
 namespace {
@@ -69,6 +70,7 @@ void frmWorkTime::dressPage(Page& page) {
     page.mnuUpdate = find<QAction>(QStringLiteral("mnuUpdate"), page);
     SetImeOpen(page.txtName, true);
     page.vfgTimes->setGrid(page.sheet.grid, client_.context);
+    tellTips(*page.vfgTimes);
     wireGridMenu(*page.vfgTimes, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
     for (int entry = 0; page.sheet.page.isBands() && entry < legendLabels; ++entry)
         page.lblLegend.push_back(
@@ -98,6 +100,8 @@ void frmWorkTime::readAll() {
     shown_ = askedPage();
     if (!exists(shownPage().sheet.page, style_)) shown_ = 0;
     ui_->tabTime->setCurrentIndex(shown_);
+    shownPage().dtsList->setFocus();
+    statusBar()->clearMessage();
 }
 
 // The other pages keep their numbers where one is missing.
@@ -179,6 +183,7 @@ void frmWorkTime::pageChosen(int index) {
     if (blnShowing_) return;
     if (finishEdits()) {
         shown_ = index;
+        statusBar()->clearMessage();
         return setChanged(isChanged());
     }
     const QSignalBlocker quiet(ui_->tabTime);
@@ -186,6 +191,7 @@ void frmWorkTime::pageChosen(int index) {
 }
 
 void frmWorkTime::showState() {
+    ui_->mnuGrid->setEnabled(isAlive());
     for (const auto& page : pages_) {
         const bool current = page.get() == &shownPage();
         page->mnuPage->setEnabled(isAlive() && current);

@@ -97,7 +97,10 @@ std::optional<QString> holidayDate(const QString& date, int year) {
 }
 
 QByteArray holidayFileOf(int year) {
-    QString text = csvQuoted(QStringLiteral("%1年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。").arg(year)) + QStringLiteral("\r\n");
+    QString text =
+        csvQuoted(
+            QStringLiteral("%1年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。").arg(year)) +
+        QStringLiteral("\r\n");
     for (const PublicHoliday& holiday : publicHolidays(year)) {
         const QString fixed = slashDate(holiday.day).mid(5);
         const QString date =

@@ -1,7 +1,6 @@
 #include "settings/settings_form.h"
 
 #include "screen/fields.h"
-#include "screen/grid.h"
 #include "screen/hourglass.h"
 #include "screen/masked_box.h"
 
@@ -10,7 +9,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QScopedValueRollback>
-#include <QStatusBar>
 
 namespace kurbo {
 
@@ -48,13 +46,6 @@ void SettingsForm::reload(const Command& show) {
     guarded(client_.context, objectName(), u"Show", [&] {
         fill(show);
         setChanged(false);
-    });
-}
-
-void SettingsForm::tellTips(Grid& grid) {
-    connect(&grid, &Grid::AfterRowColChange, this, [this, &grid](int, int, int row, int column) {
-        const GridRules* const rules = grid.grid()->rules();
-        statusBar()->showMessage(rules && row >= 0 ? rules->tip(row, column) : QString());
     });
 }
 

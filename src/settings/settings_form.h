@@ -8,8 +8,6 @@
 
 namespace kurbo {
 
-class Grid;
-
 // A settings screen. What a person changes in a watched field raises the changed flag, which enables cmdUpdate and
 // mnuUpdate; the window asks before it closes over changes.
 class SettingsForm : public ScreenForm {
@@ -56,9 +54,6 @@ class SettingsForm : public ScreenForm {
     // Keeps the focus in a field whose text the rule refuses. The rule gives the refusal, empty for a good text; an
     // empty field is always good.
     void checkOnLeaving(QWidget* field, const std::function<QString(const QString& text)>& refusal);
-
-    // The tip of the current cell stands in the status line.
-    void tellTips(Grid& grid);
 
   private:
     void changedByPerson();

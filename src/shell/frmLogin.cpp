@@ -28,6 +28,15 @@ bool isOccupied() {
     return isBoxUp() || IsFormLoaded(QStringLiteral("frmWaiting"));
 }
 
+// What was chosen stays chosen while the list has it; a text that is in no list stays as it was typed.
+void refill(DataCombo& list, const QList<CodeName>& entries) {
+    const QString code = list.boundText();
+    const bool wasChosen = list.isInList();
+    list.setEntries(entries);
+    list.setBoundText(code);
+    if (wasChosen && !list.isInList()) list.clearEditText();
+}
+
 } // namespace
 
 frmLogin::frmLogin(Client& client) : ui_(std::make_unique<Ui::frmLogin>()), client_(client), login_(client) {
@@ -96,18 +105,15 @@ bool frmLogin::ReConnect() {
     return true;
 }
 
-// Reads both lists anew; what was chosen stays chosen.
+// Reads both lists anew.
 void frmLogin::fillLists() {
     const QSignalBlocker quietSection(ui_->dcbSection);
     const QSignalBlocker quietStaff(ui_->dcbStaff);
-    const QString section = ui_->dcbSection->boundText();
-    const QString staff = ui_->dcbStaff->boundText();
     Connection& connection = client_.HomeConnection;
-    ui_->dcbSection->setEntries(loginSections(connection));
-    ui_->dcbSection->setBoundText(section);
-    ui_->dcbStaff->setEntries(loginStaff(connection, section));
-    ui_->dcbStaff->setBoundText(staff);
+    refill(*ui_->dcbSection, loginSections(connection));
+    refill(*ui_->dcbStaff, loginStaff(connection, ui_->dcbSection->boundText()));
     listsOpen_ = true;
+    checkInput();
 }
 
 // Nobody is here: the database is left to others. The session goes on.

@@ -85,6 +85,7 @@ class frmLogin final : public QMainWindow {
     void openSetting(Setting setting, const QString& screen);
     void openMove();
     void openScreen(const QString& screen);
+    void showScreen(QMainWindow& form);
     void openParm();
     void showVersion();
     void showTopics();

@@ -3,6 +3,7 @@
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/open_forms.h"
+#include "settings/settings_form.h"
 #include "shell/frmLogin.h"
 #include "shell/frmParm.h"
 #include "shell/screens.h"
@@ -72,11 +73,21 @@ void frmLogin::openScreen(const QString& screen) {
     {
         const Hourglass hourglass;
         if (QMainWindow* const form = makeScreen(client_, screen))
-            form->show();
+            showScreen(*form);
         else
             showComingScreen(client_.context, screen);
     }
     tmrTimer_->start();
+}
+
+// What a settings screen has changed shows in the lists of sections and names.
+void frmLogin::showScreen(QMainWindow& form) {
+    if (auto* const settings = qobject_cast<SettingsForm*>(&form))
+        connect(settings, &SettingsForm::closed, this, [this] {
+            listsOpen_ = false;
+            (void)ReConnect();
+        });
+    form.show();
 }
 
 void frmLogin::openParm() {

@@ -7,9 +7,7 @@ namespace kurbo {
 bool IsPasswordOK(const Context& context, Connection& connection, const QString& staff, const QString& password) {
     return guarded(context, u"frmLogin", u"IsPasswordOK", false, [&] {
         if (password.contains(u'\'') || staff.contains(u'\'')) throw storeFault(StoreError::Syntax);
-        return connection.hasRow(
-            QStringLiteral("SELECT F_StaffCode FROM M02_StaffInfo WHERE (F_StaffCode = ?) AND (F_PassWord = ?);"),
-            {staff, password});
+        return isPasswordOf(connection, staff, password);
     });
 }
 

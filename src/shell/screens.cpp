@@ -4,6 +4,10 @@
 #include "settings/frmAccess.h"
 #include "settings/frmAsign.h"
 #include "settings/frmCalendar.h"
+#include "settings/frmCorp.h"
+#include "settings/frmPassword.h"
+#include "settings/frmSection.h"
+#include "settings/frmStaff.h"
 #include "settings/frmWorkStyle.h"
 #include "settings/frmWorkTime.h"
 #include "totals/frmTotal.h"
@@ -21,16 +25,31 @@ QMainWindow* made(Client& client) {
     return form;
 }
 
+// While it is open, nothing else can be worked on.
+template <typename Form>
+QMainWindow* madeModal(Client& client) {
+    QMainWindow* const form = made<Form>(client);
+    form->setWindowModality(Qt::ApplicationModal);
+    return form;
+}
+
 struct Screen {
     const char16_t* name;
     QMainWindow* (*make)(Client& client);
 };
 
 constexpr std::array screens{
-    Screen{u"frmKurbo", &made<frmKurbo>},         Screen{u"frmTotal", &made<frmTotal>},
-    Screen{u"frmWorkStyle", &made<frmWorkStyle>}, Screen{u"frmAccess", &made<frmAccess>},
-    Screen{u"frmAsign", &made<frmAsign>},         Screen{u"frmWorkTime", &made<frmWorkTime>},
+    Screen{u"frmKurbo", &made<frmKurbo>},
+    Screen{u"frmTotal", &made<frmTotal>},
+    Screen{u"frmCorp", &madeModal<frmCorp>},
+    Screen{u"frmSection", &madeModal<frmSection>},
+    Screen{u"frmStaff", &madeModal<frmStaff>},
+    Screen{u"frmWorkStyle", &madeModal<frmWorkStyle>},
+    Screen{u"frmWorkTime", &madeModal<frmWorkTime>},
+    Screen{u"frmAccess", &madeModal<frmAccess>},
+    Screen{u"frmAsign", &made<frmAsign>},
     Screen{u"frmCalendar", &made<frmCalendar>},
+    Screen{u"frmPassword", &madeModal<frmPassword>},
 };
 
 } // namespace

@@ -49,6 +49,12 @@ bool GetAccess(const Context& context, Connection& connection, const QString& st
     });
 }
 
+bool isPasswordOf(Connection& connection, const QString& staff, const QString& password) {
+    return connection.hasRow(
+        QStringLiteral("SELECT F_StaffCode FROM M02_StaffInfo WHERE (F_StaffCode = ?) AND (F_PassWord = ?);"),
+        {staff, password});
+}
+
 bool isAdminCode(const QString& staff) {
     return staff.toUpper() == adminCode();
 }

@@ -51,6 +51,9 @@ struct AccessRights {
 [[nodiscard]] bool GetAccess(const Context& context, Connection& connection, const QString& staff,
                              const QString& section, AccessRights& access);
 
+// Whether the password is the person's; Latin letters in either case. Throws.
+[[nodiscard]] bool isPasswordOf(Connection& connection, const QString& staff, const QString& password);
+
 // Whether a staff code is the administrator's, in any case.
 [[nodiscard]] bool isAdminCode(const QString& staff);
 [[nodiscard]] inline QString adminCode() {

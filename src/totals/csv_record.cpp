@@ -1,9 +1,9 @@
 #include "totals/csv_record.h"
 
 #include "base/code_page.h"
+#include "base/csv_line.h"
 #include "base/day.h"
 #include "base/failure.h"
-#include "base/csv_line.h"
 
 #include <algorithm>
 #include <charconv>

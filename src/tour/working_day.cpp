@@ -3,6 +3,7 @@
 #include "card/card_cells.h"
 #include "card/card_grid.h"
 #include "screen/data_combo.h"
+#include "screen/data_list.h"
 #include "screen/frmAbout.h"
 #include "screen/frmPreview.h"
 #include "screen/grid.h"
@@ -200,8 +201,24 @@ void WorkingDay::administrator() {
         camera_.shoot(*menu, QStringLiteral("メニュー ") + menu->title().section(u'(', 0, 0));
         menu->close();
     }
+    showSetting("mnuCorp", "frmCorp", QStringLiteral("会社情報登録"));
+    showSetting("mnuSection", "frmSection", QStringLiteral("部課情報登録"));
+    showSetting("mnuStaff", "frmStaff", QStringLiteral("社員情報登録"));
+    showSetting("mnuPassword", "frmPassword", QStringLiteral("パスワード変更"));
     calendar();
     window_.findChild<QAction*>(QStringLiteral("mnuTopic"))->trigger();
+}
+
+// In a list, the first record behind the one that stands for a new one.
+void WorkingDay::showSetting(const char* menu, const char* name, const QString& title) {
+    window_.findChild<QAction*>(QString::fromLatin1(menu))->trigger();
+    settle();
+    QWidget* const form = screen(name);
+    if (!form) return;
+    if (auto* const list = form->findChild<DataList*>()) press(list, Qt::Key_Down);
+    camera_.shoot(*form, title);
+    form->close();
+    settle();
 }
 
 // Every Sunday becomes a day off.

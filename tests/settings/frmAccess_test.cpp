@@ -10,11 +10,11 @@ namespace {
 class frmAccessTest : public SettingsWindow<frmAccess> {
   protected:
     [[nodiscard]] QString shown() const {
-        return find<DataList>("dtsAccess")->text() + u'/' + find<QLineEdit>("txtAccess")->text();
+        return of<DataList>("dtsAccess").text() + u'/' + of<QLineEdit>("txtAccess").text();
     }
     // By hand, so that the screen hears of it.
     void choose(int row) const {
-        find<DataList>("dtsAccess")->setCurrentRow(row);
+        of<DataList>("dtsAccess").setCurrentRow(row);
         QTest::qWait(1);
     }
 };
@@ -23,18 +23,18 @@ TEST_F(frmAccessTest, OneRound) {
     open();
     EXPECT_EQ(shown(), u"新しいアクセス権/新しいアクセス権"_q);
     type("txtAccess", u"Reader"_q);
-    auto* const grid = find<Grid>("vfgAccess");
-    grid->setFocus();
-    grid->Select(firstAccessRow, static_cast<int>(AccessColumn::FirstRight));
-    QTest::keyClick(grid, Qt::Key_Space);
-    EXPECT_TRUE(grid->grid()->CellChecked(firstAccessRow, static_cast<int>(AccessColumn::FirstRight)));
+    auto& grid = of<Grid>("vfgAccess");
+    grid.setFocus();
+    grid.Select(firstAccessRow, static_cast<int>(AccessColumn::FirstRight));
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_TRUE(grid.grid()->CellChecked(firstAccessRow, static_cast<int>(AccessColumn::FirstRight)));
     desk.prompts.expect(u"有効なデータが入力されていません。"_q);
     click("cmdUpdate");
-    grid->grid()->edit(firstAccessRow, static_cast<int>(AccessColumn::Section), u"所属部課"_q);
+    grid.grid()->edit(firstAccessRow, static_cast<int>(AccessColumn::Section), u"所属部課"_q);
     desk.prompts.expect(u"追加・変更を更新します。"_q);
     click("cmdUpdate");
     EXPECT_EQ(shown(), u"Reader/Reader"_q);
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
     EXPECT_EQ(asked(u"SELECT F_ReadMyKurbo FROM M08_Access WHERE (F_AccessName = 'Reader')"_q), u"-1"_q);
 
     type("txtAccess", u"Other"_q);
@@ -64,7 +64,7 @@ TEST_F(frmAccessTest, WhatIsNeededStays) {
     connection.execute(u"DELETE * FROM M08_Access WHERE (F_AccessCode = 0)"_q);
     desk.prompts.expect(u"「新しいアクセス権」が削除されています。"_q);
     open();
-    EXPECT_FALSE(find<QWidget>("picAccess")->isEnabled());
+    EXPECT_FALSE(of<QWidget>("picAccess").isEnabled());
 }
 
 } // namespace

@@ -17,9 +17,9 @@ class frmAsignTest : public SettingsWindow<frmAsign> {
         connection.execute(u"UPDATE M01_CorpInfo SET F_AmHolidayWork = 0, F_PmHolidayWork = 0"_q);
         connection.execute(u"UPDATE M02_StaffInfo SET F_AdjustHours = 1 WHERE (F_StaffCode = '1001')"_q);
     }
-    [[nodiscard]] QString text(const char* name) const { return editorOf(find<QWidget>(name))->text(); }
+    [[nodiscard]] QString text(const char* name) const { return editorOf(&of<QWidget>(name))->text(); }
     void chooseStaff(int row) const {
-        find<DataList>("dtsStaff")->setCurrentRow(row);
+        of<DataList>("dtsStaff").setCurrentRow(row);
         QTest::qWait(1);
     }
 };
@@ -28,14 +28,14 @@ TEST_F(frmAsignTest, OneRound) {
     open();
     EXPECT_EQ(text("txtCloseDay"), u"31"_q);
     EXPECT_EQ(text("dcbWeekday"), u"日勤"_q);
-    EXPECT_FALSE(find<QWidget>("dcbAmHoliday")->isEnabled() || find<QWidget>("cmdWorkTime_2")->isEnabled());
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(of<QWidget>("dcbAmHoliday").isEnabled() || of<QWidget>("cmdWorkTime_2").isEnabled());
+    EXPECT_FALSE(isUpdatable());
 
     type("txtCloseDay", u"28"_q);
     desk.prompts.expect(u"不正な入力です。タイムカード締日は1～27, 31(末締は31)の範囲で入力します。"_q);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::qWait(1);
-    EXPECT_EQ(QApplication::focusWidget(), find<QWidget>("txtCloseDay"));
+    EXPECT_EQ(QApplication::focusWidget(), &of<QWidget>("txtCloseDay"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
     EXPECT_EQ(text("txtCloseDay"), u"31"_q);
     type("txtEnterDelay", {});
@@ -46,11 +46,11 @@ TEST_F(frmAsignTest, OneRound) {
     type("txtPaid", u"12.5"_q);
     desk.prompts.expect(u"社員設定は変更されています。変更を破棄しますか？"_q, Answer::No);
     chooseStaff(1);
-    EXPECT_EQ(find<DataList>("dtsStaff")->boundText(), u"1001"_q);
+    EXPECT_EQ(of<DataList>("dtsStaff").boundText(), u"1001"_q);
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
     chooseStaff(1);
     EXPECT_EQ(text("txtPaid"), u"20"_q);
-    EXPECT_FALSE(mayUpdate());
+    EXPECT_FALSE(isUpdatable());
 }
 
 TEST_F(frmAsignTest, ADeletedSettingShowsBlank) {
@@ -75,9 +75,9 @@ TEST_F(frmAsignTest, ADeletedSettingShowsBlank) {
 // The page of the button that was pressed.
 TEST_F(frmAsignTest, TheButtonsLeadToTheirPages) {
     open();
-    find<QTabWidget>("tabStaff")->setCurrentIndex(1);
+    of<QTabWidget>("tabStaff").setCurrentIndex(1);
     for (const auto& [button, page] : {std::pair{"cmdWorkTime_1", 1}, {"cmdWorkTime_4", 4}}) {
-        find<QWidget>(button)->setFocus();
+        of<QWidget>(button).setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QWidget* const workTime = QApplication::activeModalWidget();
         ASSERT_TRUE(workTime && workTime->objectName() == u"frmWorkTime") << button;

@@ -2,15 +2,11 @@
 
 #include "screen/grid.h"
 #include "settings/frmHoliday.h"
-#include "store/database_file.h"
-#include "support/sample_company.h"
+#include "settings/settings_window.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QTest>
+#include <QStatusBar>
 
 namespace kurbo::test {
 namespace {
@@ -18,42 +14,21 @@ namespace {
 const QString discard = u"カレンダーは変更されています。変更を破棄しますか？"_q;
 const QString update = u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q;
 
-// The calendar of 2026 and its rules, worked by keyboard.
-class FrmCalendar : public SampleCompany {
+// The calendar of 2026 and its rules.
+class FrmCalendar : public SettingsWindow<frmCalendar> {
   protected:
-    FrmCalendar() {
-        client.DbPath = path;
-        client.openHome();
-    }
-    ~FrmCalendar() override { delete form; }
-
-    void open() {
-        form = new frmCalendar(client);
-        form->load();
-        form->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    }
     void openRules() {
-        find<QAction>("mnuHoliday").trigger();
+        trigger("mnuHoliday");
         rules = form->findChild<frmHoliday*>();
         ASSERT_TRUE(rules);
         EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == rules; }));
     }
     template <typename Widget>
-    [[nodiscard]] static Widget& in(const QWidget& window, const char* name) {
-        return *window.findChild<Widget*>(QString::fromLatin1(name));
+    [[nodiscard]] Widget& ofRules(const char* name) const {
+        return *rules->findChild<Widget*>(QString::fromLatin1(name));
     }
-    template <typename Widget>
-    [[nodiscard]] Widget& find(const char* name) const {
-        return in<Widget>(*form, name);
-    }
-    [[nodiscard]] Grid& days() const { return find<Grid>("vfgCalendar"); }
-    [[nodiscard]] bool isUpdatable() const {
-        EXPECT_EQ(find<QPushButton>("cmdUpdate").isEnabled(), find<QAction>("mnuUpdate").isEnabled());
-        return find<QPushButton>("cmdUpdate").isEnabled();
-    }
-    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    static void type(Grid& grid, int row, int column, const QString& text) {
+    [[nodiscard]] Grid& days() const { return of<Grid>("vfgCalendar"); }
+    static void typeAt(Grid& grid, int row, int column, const QString& text) {
         grid.setFocus();
         grid.Select(row, column);
         for (const QChar sign : text) QTest::keyClick(QApplication::focusWidget(), sign.toLatin1());
@@ -72,8 +47,6 @@ class FrmCalendar : public SampleCompany {
                asked(u"SELECT F_Type FROM T01_Calendar WHERE F_DateID = '%1'"_q.arg(id));
     }
 
-    Client client{desk.context};
-    QPointer<frmCalendar> form;
     QPointer<frmHoliday> rules;
 };
 
@@ -82,22 +55,23 @@ class FrmCalendar : public SampleCompany {
 TEST_F(FrmCalendar, DaysAreTypedAndStored) {
     open();
     EXPECT_EQ(form->windowTitle(), u"Kurbo－カレンダー設定"_q);
-    EXPECT_EQ(find<QLineEdit>("txtYear").text(), u"2026"_q);
+    EXPECT_EQ(of<QLineEdit>("txtYear").text(), u"2026"_q);
     EXPECT_EQ(days().grid()->CellText(119, 1) + days().grid()->CellText(119, 2), u"2026/04/29(水)昭和の日"_q);
     EXPECT_FALSE(isUpdatable());
-    type(days(), 2, 2, u"Rest"_q);
+    EXPECT_EQ(form->statusBar()->currentMessage(), u"日付の名称を入力します(例：夏季休暇)"_q);
+    typeAt(days(), 2, 2, u"Rest"_q);
     EXPECT_TRUE(isUpdatable());
     choose(days(), 2, 3, 2);
     EXPECT_EQ(days().grid()->TextMatrix(2, 3), u"1"_q);
     EXPECT_EQ(days().grid()->CellText(2, 3), u"午前"_q);
     desk.prompts.expect(u"半角30文字"_q);
-    type(days(), 3, 2, u"x"_q.repeated(31));
+    typeAt(days(), 3, 2, u"x"_q.repeated(31));
     EXPECT_TRUE(days().isEditing());
     press(Qt::Key_Escape);
     desk.prompts.expect(update, Answer::Cancel).expect(update);
-    find<QPushButton>("cmdUpdate").click();
+    of<QPushButton>("cmdUpdate").click();
     EXPECT_EQ(stored(u"20260102"_q), u"- -"_q);
-    find<QAction>("mnuUpdate").trigger();
+    trigger("mnuUpdate");
     EXPECT_EQ(stored(u"20260102"_q), u"Rest 1"_q);
     EXPECT_FALSE(isUpdatable());
     EXPECT_EQ(days().Row(), 3) << "the cursor stays where it was";
@@ -105,7 +79,7 @@ TEST_F(FrmCalendar, DaysAreTypedAndStored) {
     press(Qt::Key_Delete);
     connection.execute(u"DELETE FROM T01_Calendar WHERE F_DateID = '20260102'"_q);
     desk.prompts.expect(update).expect(u"2026/01/02は"_q).expect(u"追加・変更を更新できませんでした。"_q);
-    find<QPushButton>("cmdUpdate").click();
+    of<QPushButton>("cmdUpdate").click();
     EXPECT_TRUE(isUpdatable());
     desk.prompts.expect(discard, Answer::No).expect(discard, Answer::Yes);
     press(Qt::Key_Escape);
@@ -116,13 +90,13 @@ TEST_F(FrmCalendar, DaysAreTypedAndStored) {
 
 TEST_F(FrmCalendar, YearsAreTurnedByKey) {
     open();
-    auto& year = find<QLineEdit>("txtYear");
+    auto& year = of<QLineEdit>("txtYear");
     year.setFocus();
     desk.prompts.expect(u"2027年のカレンダーは作成されていません。"_q);
     press(Qt::Key_Up);
     EXPECT_EQ(year.text(), u"2027"_q);
     EXPECT_EQ(days().grid()->CellText(365, 1), u"2027/12/31(金)"_q);
-    type(days(), 1, 2, u"a"_q);
+    typeAt(days(), 1, 2, u"a"_q);
     year.setFocus();
     desk.prompts.expect(discard, Answer::No).expect(discard, Answer::Yes);
     press(Qt::Key_Down);
@@ -139,36 +113,39 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     open();
     openRules();
     EXPECT_EQ(rules->windowTitle(), u"Kurbo－休日設定"_q);
-    Grid& grid = in<Grid>(*rules, "vfgHoliday");
+    Grid& grid = ofRules<Grid>("vfgHoliday");
     choose(grid, 1, 1, 1);
     choose(grid, 1, 2, 1);
     EXPECT_EQ(grid.grid()->TextMatrix(1, 1) + grid.grid()->TextMatrix(1, 2), u"01"_q);
     choose(grid, 2, 1, 7);
     desk.prompts.expect(u"2行目で開始日付が正しく入力されていません。"_q);
-    in<QPushButton>(*rules, "cmdWrite").click();
-    type(grid, 2, 3, u"0812"_q);
+    ofRules<QPushButton>("cmdWrite").click();
+    typeAt(grid, 2, 3, u"0812"_q);
     EXPECT_EQ(grid.grid()->TextMatrix(2, 3), u"08/12"_q);
     desk.prompts.expect(u"不正な入力です。日付をmm:dd形式で入力して下さい。"_q);
-    type(grid, 2, 4, u"0832"_q);
+    typeAt(grid, 2, 4, u"0832"_q);
     press(Qt::Key_Escape);
-    type(grid, 2, 4, u"0814"_q);
-    type(grid, 2, 5, u"Obon"_q);
+    typeAt(grid, 2, 4, u"0814"_q);
+    typeAt(grid, 2, 5, u"Obon"_q);
     choose(grid, 2, 6, 1);
-    desk.prompts.expect(u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n\r\nよろしいですか？"_q, Answer::Cancel)
+    desk.prompts
+        .expect(
+            u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n\r\nよろしいですか？"_q,
+            Answer::Cancel)
         .expect(u"2027年の祝日"_q);
-    in<QPushButton>(*rules, "cmdHoliday").click();
+    ofRules<QPushButton>("cmdHoliday").click();
     EXPECT_EQ(grid.grid()->TextMatrix(3, 1), QString());
-    in<QPushButton>(*rules, "cmdHoliday").click();
+    ofRules<QPushButton>("cmdHoliday").click();
     EXPECT_EQ(grid.grid()->CellText(3, 1) + grid.grid()->CellText(3, 5), u"期間元日"_q);
     const QString write = u"指定された休日をカレンダーに設定します。\r\n\r\nよろしいですか？"_q;
     desk.prompts.expect(write, Answer::Cancel).expect(write);
-    in<QPushButton>(*rules, "cmdWrite").click();
+    ofRules<QPushButton>("cmdWrite").click();
     EXPECT_FALSE(isUpdatable());
-    in<QAction>(*rules, "mnuWrite").trigger();
+    ofRules<QAction>("mnuWrite").trigger();
     EXPECT_FALSE(rules && rules->isVisible());
     EXPECT_TRUE(isUpdatable());
     desk.prompts.expect(update);
-    find<QPushButton>("cmdUpdate").click();
+    of<QPushButton>("cmdUpdate").click();
     EXPECT_EQ(stored(u"20260813"_q), u"Obon 0"_q);
     EXPECT_EQ(stored(u"20260104"_q), u"- -"_q) << "every Sunday, without a name";
     EXPECT_EQ(stored(u"20260112"_q), u"成人の日 0"_q) << "the second Monday of the year that is shown";
@@ -177,10 +154,10 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
 TEST_F(FrmCalendar, RulesAreLeftWithoutAWord) {
     open();
     openRules();
-    Grid& grid = in<Grid>(*rules, "vfgHoliday");
-    in<QPushButton>(*rules, "cmdHoliday").click();
+    Grid& grid = ofRules<Grid>("vfgHoliday");
+    ofRules<QPushButton>("cmdHoliday").click();
     EXPECT_EQ(grid.grid()->TextMatrix(1, 1), QString()) << "no file, no message";
-    type(grid, 1, 5, u"x"_q);
+    typeAt(grid, 1, 5, u"x"_q);
     EXPECT_EQ(QApplication::activeModalWidget(), rules);
     press(Qt::Key_Escape);
     EXPECT_FALSE(rules && rules->isVisible());

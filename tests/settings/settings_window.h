@@ -1,53 +1,45 @@
 #pragma once
 
-#include "screen/fields.h"
 #include "settings/settings_form.h"
+#include "store/client.h"
 #include "support/sample_company.h"
+#include "support/typing.h"
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QPointer>
-#include <QTest>
+#include <QPushButton>
 
 namespace kurbo::test {
 
-// A settings screen over the sample company, worked by keyboard as an administrator works it.
+// A settings screen on the sample company, worked as a person works it.
 template <typename Form>
 class SettingsWindow : public SampleCompany {
   protected:
     ~SettingsWindow() override { delete form; }
-    void open() {
-        if (client.DbPath.isEmpty()) {
-            client.DbPath = path;
-            client.openHome();
-        }
+    void open(const QString& staff = QStringLiteral("ADMIN")) {
+        client.DbPath = path;
+        if (!client.HomeConnection.isOpen()) client.openHome();
+        client.session.SessionStaff = staff;
         delete form;
         form = new Form(client);
         form->load();
         form->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     }
-    template <typename Widget>
-    [[nodiscard]] Widget* find(const char* name) const {
-        auto* const found = form->template findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_TRUE(found) << name;
-        return found;
+    template <typename Control = QLineEdit>
+    [[nodiscard]] Control& of(const char* name) const {
+        return *form->template findChild<Control*>(QString::fromLatin1(name));
     }
-    // Replaces what stands in a text box, a masked box or an editable combo.
-    void type(const char* name, const QString& text) const {
-        auto* const field = find<QWidget>(name);
-        field->setFocus();
-        editorOf(field)->selectAll();
-        QTest::keyClick(editorOf(field), Qt::Key_Delete);
-        for (const QChar sign : text) QTest::sendKeyEvent(QTest::Click, editorOf(field), Qt::Key_unknown, sign, {});
+    static void press(int key) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        QCoreApplication::processEvents();
     }
-    void click(const char* button) const { find<QAbstractButton>(button)->click(); }
-    void trigger(const char* action) const { find<QAction>(action)->trigger(); }
-    // Both commands of an update are off, or both are on.
-    [[nodiscard]] bool mayUpdate() const {
-        EXPECT_EQ(find<QWidget>("cmdUpdate")->isEnabled(), find<QAction>("mnuUpdate")->isEnabled());
-        return find<QWidget>("cmdUpdate")->isEnabled();
+    void type(const char* name, const QString& text) const { typeInto(&of<QWidget>(name), text); }
+    void click(const char* button) const { of<QAbstractButton>(button).click(); }
+    void trigger(const char* action) const { of<QAction>(action).trigger(); }
+    [[nodiscard]] bool isUpdatable() const {
+        EXPECT_EQ(of<QWidget>("cmdUpdate").isEnabled(), of<QAction>("mnuUpdate").isEnabled());
+        return of<QWidget>("cmdUpdate").isEnabled();
     }
 
     Client client{desk.context};

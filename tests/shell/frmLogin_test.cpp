@@ -1,6 +1,7 @@
 #include "shell/frmLogin.h"
 
 #include "screen/data_combo.h"
+#include "screen/open_forms.h"
 #include "shell/office.h"
 
 #include <QAction>
@@ -37,6 +38,11 @@ class FrmLogin : public Office {
     [[nodiscard]] DataCombo* staff() const { return find<DataCombo>("dcbStaff"); }
     void choose(const char* menu) const { find<QAction>(menu)->trigger(); }
     void tick(const char* timer) const { QMetaObject::invokeMethod(find<QTimer>(timer), "timeout"); }
+    static void close(const char* screen) {
+        for (QWidget* const form : openScreens())
+            if (form->objectName() == QLatin1String(screen)) form->close();
+        settle();
+    }
     void idleAway() const {
         for (int minute = 0; minute < 5; ++minute) tick("tmrTimer");
     }
@@ -148,12 +154,32 @@ TEST_F(FrmLogin, TheAdministratorGetsTheSettingsInTheirOrder) {
     EXPECT_FALSE(button("cmdEnter")->isEnabled());
     prompts.expect(QStringLiteral("会社情報が登録されていません。"));
     choose("mnuSection");
-    prompts.expect(QStringLiteral("設定メニューの表示順序")).expect(QStringLiteral("「会社情報登録」画面"));
+    prompts.expect(QStringLiteral("設定メニューの表示順序"));
     choose("mnuCorp");
+    close("frmCorp");
     prompts.expect(QStringLiteral("移動するデータがありません。"));
     choose("mnuMove");
     prompts.expect(QStringLiteral("KurboAdm.hlp"));
     choose("mnuTopic");
+}
+
+TEST_F(FrmLogin, ListsFollowWhatASettingsScreenHasChanged) {
+    execute("INSERT INTO C01_Corp (F_Corp) VALUES ('見本商事')");
+    logInAsAdmin();
+    choose("mnuSection");
+    execute("UPDATE C02_Section SET F_SectionName = '管理部' WHERE (F_SectionCode = 'S1')");
+    execute("INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
+            "VALUES ('S2', '工場', '/srv/other.mdb', 2, -1)");
+    close("frmSection");
+    EXPECT_EQ(staff()->currentText(), u"admin");
+    EXPECT_EQ(section()->itemText(0), u8("管理部"));
+    EXPECT_EQ(section()->count(), 1) << "the factory lies in another file";
+    logInAs("P1", "pw1");
+    choose("mnuPassword");
+    execute("UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = 'P1')");
+    close("frmPassword");
+    EXPECT_EQ(section()->boundText(), u"S1");
+    EXPECT_EQ(staff()->currentText(), QString()) << "no longer in the list";
 }
 
 TEST_F(FrmLogin, AComboRefusesWhatIsNotInItsList) {

@@ -1,0 +1,154 @@
+#include "settings/records.h"
+
+namespace kurbo::test {
+namespace {
+
+using RecordFieldsTest = SampleCompany;
+
+// Screen, field, text ("x51": 51 letters, "-": none), what would be right or the whole refusal on an update, and the
+// refusal on leaving where it isn't made of the same words ("-": none). "/n" is the end of a line.
+constexpr auto refusals = R"(
+corp F_Corp - 会社名が入力されていません。 -
+corp F_Corp x51 会社名は全角25文字(半角50文字)以内で入力します。
+corp F_Branch x51 支社店名は全角25文字(半角50文字)以内で入力します。
+corp F_ZipCode １ 郵便番号は半角12文字以内で入力します。
+corp F_Pref 江戸 都道府県名が不正です。都道府県名はリストから選択して下さい。 リストから選択して下さい｡_
+corp F_Pref 全国 - -
+corp F_Address1 x51 住所1は全角25文字(半角50文字)以内で入力します。
+corp F_Address2 x51 住所2は全角25文字(半角50文字)以内で入力します。
+corp F_Tel x21 電話番号は半角20文字以内で入力します。
+corp F_Fax x21 ﾌｧｯｸｽ番号は半角20文字以内で入力します。
+corp F_Title x21 代表者肩書は全角10文字(半角20文字)以内で入力します。
+corp F_President x31 代表者名は全角15文字(半角30文字)以内で入力します。
+section F_SectionName - 部課名が入力されていません。 -
+section F_SectionName 新しい部課 部課名を変更して下さい。/n名称「新しい部課」は使用できません。 -
+section F_SectionName x31 部課名は全角15文字(半角30文字)以内で入力します。
+section F_SectionCode - 部課コードが入力されていません。 -
+section F_SectionCode x11 部課コードは半角10文字以内で入力します。
+section F_SectionCode mysection 部課コードが不正です。「MySection」はシステム予約コードです。 -
+section F_SectionCode new 部課コードが不正です。「NEW」はシステム予約コードです。 不正な入力です。「NEW」はシステム予約コードです。
+section F_Tel x21 電話番号は半角20文字以内で入力します。
+section F_Fax x21 ﾌｧｯｸｽ番号は半角20文字以内で入力します。
+section F_DB - データベースのパスが入力されていません。 -
+staff F_StaffName - 氏名が入力されていません。 -
+staff F_StaffName 新しい社員 氏名を変更して下さい。/n氏名「新しい社員」は使用できません。 -
+staff F_StaffName x21 氏名は全角10文字(半角20文字)以内で入力します。
+staff F_Kana - フリガナが入力されていません。 -
+staff F_Kana ア フリガナは半角20文字以内で入力します。
+staff F_StaffCode - 社員コードが入力されていません。 -
+staff F_StaffCode x11 社員コードが不正です。部課コードは半角10文字以内で入力します。 不正な入力です。社員コードは半角10文字以内で入力します。
+staff F_StaffCode nEw 社員コードが不正です。「NEW」はシステム予約コードです。 不正な入力です。「NEW」はシステム予約コードです。
+staff F_StaffCode admin 社員コードが不正です。「ADMIN」はシステム予約コードです。 -
+staff F_Section - 所属部課が入力されていません。 -
+staff F_Section 総務 所属部課が不正です。所属部課はリストから選択して下さい。 リストから選択して下さい｡_
+staff F_ZipCode x13 郵便番号は半角12文字以内で入力します。
+staff F_Pref 全国 都道府県名が不正です。都道府県名はリストから選択して下さい。 リストから選択して下さい｡_
+staff F_Address1 x51 住所1は全角25文字(半角50文字)以内で入力します。
+staff F_Address2 x51 住所2は全角25文字(半角50文字)以内で入力します。
+staff F_Tel x21 電話番号は半角20文字以内で入力します。
+staff F_HPhone x21 携帯番号は半角20文字以内で入力します。
+staff F_EMail x51 メールアドレスは半角50文字以内で入力します。
+staff F_Birth 1980/02/30 生年月日が不正です。日付をyyyy/mm/dd形式で入力します。 不正な入力です。生年月日はyyyy/mm/ddの形式で入力します。
+staff F_Join 2026/__/__ 入社日が不正です。日付をyyyy/mm/dd形式で入力します。 不正な入力です。入社日はyyyy/mm/ddの形式で入力します。
+staff F_Retire 2026/13/01 退社日が不正です。日付をyyyy/mm/dd形式で入力します。 不正な入力です。退社日はyyyy/mm/ddの形式で入力します。
+section F_DB x101 データベースのパスが不正です。/nデータベースのパスは全角50文字(半角100文字)以内で入力します。/nデータベースの保存場所を変更し、パスを短縮して下さい。 ?
+)";
+
+TEST_F(RecordFieldsTest, EveryRefusalHasItsWords) {
+    const QHash<QString, RecordFields> tables{
+        {u"corp"_q, corpFields()}, {u"section"_q, sectionList().fields}, {u"staff"_q, staffList().fields}};
+    for (const QString& line : QString::fromUtf8(refusals).split(u'\n', Qt::SkipEmptyParts)) {
+        SCOPED_TRACE(line.toStdString());
+        QStringList words = line.split(u' ');
+        if (words.size() == 4) {
+            words.append(u"不正な入力です。"_q + words[3]);
+            words[3] = words[3].section(u'は', 0, 0) + u"が不正です。"_q + words[3];
+        }
+        for (QString& word : words) word = word == u"-" ? QString() : word.replace(u"/n"_q, u"\r\n"_q);
+        if (words[2].startsWith(u'x')) words[2] = QString(words[2].sliced(1).toInt(), u'x');
+        const RecordFields fields = tables.value(words[0]);
+        const ReservedRecord& reserved = words[0] == u"section" ? sectionList().reserved : staffList().reserved;
+        EXPECT_EQ(refusalOf([&] {
+                      checkFields(fields, with(fields, words[1], words[2]), {{u"S01"_q}, &reserved});
+                  }),
+                  words[3]);
+        if (words[4] == u"?") continue;
+        const RecordField& field = fields[static_cast<std::size_t>(fieldAt(fields, words[1]))];
+        EXPECT_EQ(refusalOnLeaving(field, words[2], {u"S01"_q}), words[4].replace(u'_', u' '));
+    }
+}
+
+// What fills a field of a number of bytes, in several scripts, and whether a field of single bytes takes it.
+QList<std::pair<QString, bool>> limits(int bytes) {
+    return {{QString(bytes / 2, u'漢'), false},   {QString(bytes, u'x'), true},
+            {QString(bytes, u'ｱ'), true},         {u"'%' OR \"?\" --"_q.first(qMin(bytes, 13)), true},
+            {u"𠮷"_q.repeated(bytes / 2), false}, {u"😀"_q.repeated(bytes / 2), false}};
+}
+
+template <typename Check, typename Store>
+void tryLimits(RecordFields fields, Check check, Store stored) {
+    for (qsizetype i = 0; i < static_cast<qsizetype>(fields.size()); ++i) {
+        const RecordField& field = fields[static_cast<std::size_t>(i)];
+        const bool oneByte = field.kind == FieldKind::SingleByte || field.kind == FieldKind::Code;
+        if (!oneByte && field.kind != FieldKind::Text && field.kind != FieldKind::Name) continue;
+        const QString refused = QString::fromUtf16(field.subject) + u"が不正です。"_q;
+        for (const auto& [text, isOneByte] : limits(field.limit)) {
+            SCOPED_TRACE(QString::fromUtf16(field.name).toStdString() + " " + text.toStdString());
+            RecordTexts texts = goodTexts(fields);
+            texts[i] = text;
+            const QString refusal = refusalOf([&] { check(texts); });
+            EXPECT_EQ(refusal.isEmpty(), isOneByte || !oneByte) << refusal;
+            if (refusal.isEmpty()) {
+                EXPECT_EQ(stored(texts), texts);
+            }
+            texts[i] = QString(field.limit, u'x') + u'ｱ';
+            EXPECT_TRUE(refusalOf([&] { check(texts); }).startsWith(refused));
+        }
+    }
+}
+
+TEST_F(RecordFieldsTest, TextsAtTheirLimitsComeBackAsTheyWere) {
+    tryLimits(
+        corpFields(), [](const RecordTexts& texts) { checkFields(corpFields(), texts, {}); },
+        [this](const RecordTexts& texts) {
+            writeCorp(connection, readCorp(connection), texts);
+            return readCorp(connection);
+        });
+    for (const RecordList* list : {&sectionList(), &staffList()})
+        tryLimits(
+            list->fields,
+            [&](const RecordTexts& texts) {
+                checkRecord(connection, *list, {newCode(), {}, texts});
+            },
+            [&](const RecordTexts& texts) {
+                const QString code = writeRecord(connection, *list, {newCode(), {}, texts});
+                const RecordTexts stored = readRecord(connection, *list, code);
+                removeRecord(connection, *list, code);
+                return stored;
+            });
+}
+
+TEST_F(RecordFieldsTest, BlanksAreStoredAsNullAndPrefecturesByNumber) {
+    RecordTexts texts = goodTexts(corpFields());
+    writeCorp(connection, readCorp(connection), texts);
+    EXPECT_EQ(asked(u"SELECT F_Pref FROM C01_Corp"_q), u"13"_q);
+    for (qsizetype i = 1; i < texts.size(); ++i) texts[i] = u" "_q;
+    writeCorp(connection, readCorp(connection), texts);
+    for (const RecordField& field : corpFields().subspan(1))
+        EXPECT_EQ(asked(u"SELECT %1 FROM C01_Corp"_q.arg(QString::fromUtf16(field.name))), u"-"_q);
+    EXPECT_EQ(count(u"C01_Corp"_q), 1);
+    connection.execute(u"UPDATE C01_Corp SET F_Pref = '大阪府'"_q);
+    EXPECT_EQ(readCorp(connection)[3], u"大阪府"_q) << "stored by its name";
+}
+
+TEST_F(RecordFieldsTest, AgesAreWholeYearsAndMonths) {
+    EXPECT_EQ(ageText(u"1980/01/15"_q, today), u"年齢：46歳3月"_q);
+    EXPECT_EQ(ageText(u"1980/04/16"_q, today), u"年齢：45歳11月"_q);
+    EXPECT_EQ(ageText(u"1980/__/__"_q, today) + ageText({}, today), QString());
+    EXPECT_EQ(serviceText(u"2010/04/01"_q, {}, today), u"勤続：16年"_q);
+    EXPECT_EQ(serviceText(u"2010/04/01"_q, u"2020/06/30"_q, today), u"勤続：10年2月"_q);
+    EXPECT_EQ(serviceText(u"2010/04/01"_q, u"2020/__/__"_q, today), QString());
+}
+
+} // namespace
+} // namespace kurbo::test
