@@ -40,7 +40,7 @@ QStringList recordOf(const Rows& row) {
 }
 
 struct Outings {
-    RecordList records{fieldsOf(columns)};
+    ReportRecords records{fieldsOf(columns)};
     std::int64_t expense = 0;
 };
 

@@ -100,7 +100,7 @@ rptKurbo::rptKurbo(const GridModel& vfgKurbo, const CardHeading& heading, Day pr
 }
 
 void rptKurbo::ActiveReport_ReportStart(const GridModel& grid, const CardHeading& heading, Day printedOn) {
-    RecordList records(fieldsOf(columns));
+    ReportRecords records(fieldsOf(columns));
     for (int row = firstCardDay; row < grid.Rows(); ++row) records.AddNew(cellsOf(grid, row, columns));
     run({.caption = productName() + QStringLiteral("－タイムカード"),
          .documentName = reportDocumentName(),

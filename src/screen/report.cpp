@@ -37,7 +37,7 @@ void closeGaps(ReportSection& section, const std::vector<bool>& ColHidden) {
     }
 }
 
-void Report::run(Design design, RecordList records) {
+void Report::run(Design design, ReportRecords records) {
     design_ = std::move(design);
     records_ = std::move(records);
     breakPages();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "screen/paper.h"
-#include "screen/record_list.h"
+#include "screen/report_records.h"
 
 namespace kurbo {
 
@@ -53,8 +53,8 @@ class Report : public PaperDocument {
     };
 
     // Takes the records and finds where the pages break.
-    void run(Design design, RecordList records);
-    [[nodiscard]] const RecordList& DataSource() const { return records_; }
+    void run(Design design, ReportRecords records);
+    [[nodiscard]] const ReportRecords& DataSource() const { return records_; }
 
     // `record` counts from 0; of the page header it is the page's first one.
     virtual void PageHeader_Format(ReportSection& /*section*/, int /*record*/) const {}
@@ -82,7 +82,7 @@ class Report : public PaperDocument {
     void put(PaperPage& page, const ReportSection& designed, Event event, const Piece& piece) const;
 
     Design design_;
-    RecordList records_{{}};
+    ReportRecords records_{{}};
     std::vector<Pieces> pages_;
     int top_ = 0;
 };

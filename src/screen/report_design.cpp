@@ -15,8 +15,8 @@ void addControl(ReportSection& section, ReportControl control, const ReportColum
 
 } // namespace
 
-std::vector<RecordList::Field> fieldsOf(std::span<const ReportColumn> columns) {
-    std::vector<RecordList::Field> fields;
+std::vector<ReportRecords::Field> fieldsOf(std::span<const ReportColumn> columns) {
+    std::vector<ReportRecords::Field> fields;
     for (const ReportColumn& column : columns) fields.push_back({column.field, column.bytes});
     return fields;
 }

@@ -18,7 +18,7 @@ struct ReportColumn {
     GridAlign align = GridAlign::Right;
 };
 
-[[nodiscard]] std::vector<RecordList::Field> fieldsOf(std::span<const ReportColumn> columns);
+[[nodiscard]] std::vector<ReportRecords::Field> fieldsOf(std::span<const ReportColumn> columns);
 // All printed columns together.
 [[nodiscard]] int widthOf(std::span<const ReportColumn> columns);
 // Those of them that are hidden.

@@ -132,7 +132,7 @@ rptTotal::rptTotal(const GridModel& vfgKurbo, const TotalHeading& heading, Day p
 
 void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeading& heading, Day printedOn) {
     const bool byMonth = isByMonth(grid);
-    RecordList records(fieldsOf(columns));
+    ReportRecords records(fieldsOf(columns));
     for (int row = 1; row < grid.Rows(); ++row) {
         records.AddNew(recordOf(grid, row, byMonth));
         sums_.push_back(isSum(grid, row));

@@ -6,7 +6,7 @@
 namespace kurbo::test {
 namespace {
 
-TEST(RecordList, CutsFieldsByBytesAndNeverHalfACharacter) {
+TEST(ReportRecords, CutsFieldsByBytesAndNeverHalfACharacter) {
     struct Case {
         QString text;
         int bytes;
@@ -19,7 +19,7 @@ TEST(RecordList, CutsFieldsByBytesAndNeverHalfACharacter) {
         const QString text = QString(QChar(sign)) + u'x';
         EXPECT_TRUE(QChar(sign).isSurrogate() || (cutToBytes(text, 2) == text) == (byteLength(text) <= 2)) << text;
     }
-    RecordList list({{u"F_A", 3}, {u"F_B", 4}});
+    ReportRecords list({{u"F_A", 3}, {u"F_B", 4}});
     list.AddNew({u"漢字"_q, u"12:30"_q});
     EXPECT_EQ(list.text(0, u"F_A"), u"漢"_q);
     EXPECT_EQ(list.text(0, u"F_B"), u"12:3"_q);
@@ -47,7 +47,7 @@ TEST(ReportSection, HiddenColumnsLeaveNoGapInAnyOfItsLines) {
 class Groups final : public Report {
   public:
     explicit Groups(const std::vector<int>& sizes) {
-        RecordList records(fieldsOf(columns));
+        ReportRecords records(fieldsOf(columns));
         for (std::size_t group = 0; group < sizes.size(); ++group)
             for (int i = 0; i < sizes[group]; ++i) records.AddNew({u"G%1"_q.arg(group), u"%1.%2"_q.arg(group).arg(i)});
         const int line = (footerTop(a4Landscape) - paperMargin) / 10;

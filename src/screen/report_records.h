@@ -12,13 +12,13 @@ namespace kurbo {
 [[nodiscard]] QString cutToBytes(const QString& text, int bytes);
 
 // A report's local record set: text fields of fixed width, without a connection.
-class RecordList final {
+class ReportRecords final {
   public:
     struct Field {
         const char16_t* name;
         int bytes;
     };
-    explicit RecordList(std::vector<Field> fields) : fields_(std::move(fields)) {}
+    explicit ReportRecords(std::vector<Field> fields) : fields_(std::move(fields)) {}
 
     // Adds a record of one text a field, each cut to its field's width.
     void AddNew(QStringList cells);

@@ -1,4 +1,4 @@
-#include "screen/record_list.h"
+#include "screen/report_records.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ QString cutToBytes(const QString& text, int bytes) {
     return text;
 }
 
-void RecordList::AddNew(QStringList cells) {
+void ReportRecords::AddNew(QStringList cells) {
     cells.resize(static_cast<qsizetype>(fields_.size()));
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         QString& cell = cells[static_cast<qsizetype>(i)];
@@ -33,12 +33,12 @@ void RecordList::AddNew(QStringList cells) {
     records_.append(std::move(cells));
 }
 
-int RecordList::fieldNamed(QStringView name) const {
+int ReportRecords::fieldNamed(QStringView name) const {
     const auto found = std::ranges::find_if(fields_, [name](const Field& field) { return name == field.name; });
     return found == fields_.end() ? -1 : static_cast<int>(found - fields_.begin());
 }
 
-QString RecordList::text(int record, QStringView field) const {
+QString ReportRecords::text(int record, QStringView field) const {
     const int place = fieldNamed(field);
     return place >= 0 && record >= 0 && record < count() ? text(record, place) : QString();
 }
