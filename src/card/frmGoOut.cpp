@@ -2,8 +2,9 @@
 
 #include "base/product.h"
 #include "card/card_checks.h"
-#include "screen/coming_screens.h"
+#include "card/rptGoOut.h"
 #include "screen/frmAbout.h"
+#include "screen/frmPreview.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/show_now.h"
@@ -68,8 +69,10 @@ void frmGoOut::setPeriod(Period period) {
     ui_->mskEnd->setDay(period.to);
 }
 
-void frmGoOut::setPerson(const QString& staff, bool blnMyCard) {
-    goOut_.setPerson(staff, blnMyCard);
+void frmGoOut::setPerson(const CodeName& section, const CodeName& staff, bool blnMyCard) {
+    section_ = section;
+    staff_ = staff;
+    goOut_.setPerson(staff.code, blnMyCard);
     showCommands();
 }
 
@@ -96,9 +99,11 @@ void frmGoOut::update() {
 }
 
 void frmGoOut::print() {
-    if (ui_->vfgGoOut->finishEdit() &&
-        checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText()))
-        showComingScreen(client_.context, QStringLiteral("印刷"));
+    if (!ui_->vfgGoOut->finishEdit()) return;
+    const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
+    if (!period || !client_.hasConnection(u"frmGoOut")) return;
+    auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, section_, staff_, *period);
+    if (report) showPreview(std::move(report), client_.context, this);
 }
 
 // The cursor goes to the new row.

@@ -2,6 +2,7 @@
 
 #include "card/go_out.h"
 #include "engine/hours.h"
+#include "store/readers.h"
 
 #include <QMainWindow>
 
@@ -26,7 +27,7 @@ class frmGoOut final : public QMainWindow {
     // The period that is printed.
     void setPeriod(Period period);
     // Whose card the days belong to, empty for nobody's, and whether it is the reader's own.
-    void setPerson(const QString& staff, bool blnMyCard);
+    void setPerson(const CodeName& section, const CodeName& staff, bool blnMyCard);
     // Shows the day of a card row by its key and its date "yy/mm/dd(aaa)". Without one of the two the list is empty and
     // can't be edited.
     void ShowGoOut(const QString& cardKey, const QString& dateText);
@@ -52,6 +53,8 @@ class frmGoOut final : public QMainWindow {
     const std::unique_ptr<Ui::frmGoOut> ui_;
     Client& client_;
     GoOut goOut_;
+    CodeName section_;
+    CodeName staff_;
 };
 
 } // namespace kurbo

@@ -2,7 +2,6 @@
 
 #include "card/card_cells.h"
 #include "card/frmGoOut.h"
-#include "screen/coming_screens.h"
 #include "screen/fields.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
@@ -85,7 +84,7 @@ void frmKurbo::connectCommands() {
     onCommand(ui_->cmdDisplay, ui_->mnuDisplay, dates(&CardScreen::display));
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, dates(&CardScreen::update));
     onCommand(nullptr, ui_->mnuDelete, dates(&CardScreen::deletePeriod));
-    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { coming(QStringLiteral("印刷")); });
+    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { print(); });
     onCommand(nullptr, ui_->mnuSaveKrb, dates(&CardScreen::saveKrb));
     onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
     connect(ui_->vfgKurbo, &QAbstractItemView::doubleClicked, this, &frmKurbo::showDetail);
@@ -101,10 +100,6 @@ void frmKurbo::connectMonth() {
     };
     onMark(ui_->chkPersonal, &CardScreen::approvePersonal);
     onMark(ui_->chkSuperior, &CardScreen::approveSuperior);
-}
-
-void frmKurbo::coming(const QString& name) {
-    showComingScreen(client_.context, name);
 }
 
 void frmKurbo::load() {

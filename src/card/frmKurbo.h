@@ -39,7 +39,6 @@ class frmKurbo final : public ScreenForm {
     void connectSelection();
     void connectCommands();
     void connectMonth();
-    void coming(const QString& name);
 
     void showState() override;
     void showNames();
@@ -50,6 +49,9 @@ class frmKurbo final : public ScreenForm {
     void staffChosen();
     void moveYear(int years);
     void showDetail(const QModelIndex& cell);
+    void print();
+    [[nodiscard]] CodeName chosenSection() const;
+    [[nodiscard]] CodeName chosenStaff() const;
 
     void connectGoOut();
     [[nodiscard]] bool isGoOutOpen() const;

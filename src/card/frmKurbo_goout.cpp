@@ -43,18 +43,12 @@ void frmKurbo::openGoOut() {
     frmGoOut_->show();
 }
 
-void frmKurbo::listGoOut() {
-    if (checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText()) &&
-        !refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細一覧の表示はできません。")))
-        coming(ui_->mnuList->text().section(u'(', 0, 0));
-}
-
 // The day of the current row, of the card as it stands now.
 void frmKurbo::showGoOutDay() {
     const int row = ui_->vfgKurbo->Row();
     goOutDate_ = cardText(screen_.sheet.grid, row, CardColumn::Date);
     goOutDrawing_ = screen_.drawings();
-    frmGoOut_->setPerson(screen_.staff(), screen_.isOwnCard());
+    frmGoOut_->setPerson(chosenSection(), chosenStaff(), screen_.isOwnCard());
     frmGoOut_->ShowGoOut(cardText(screen_.sheet.grid, row, CardColumn::Id), goOutDate_);
 }
 
@@ -81,7 +75,7 @@ void frmKurbo::refreshGoOut() {
         frmGoOut_->close();
         return;
     }
-    frmGoOut_->setPerson(screen_.staff(), screen_.isOwnCard());
+    frmGoOut_->setPerson(chosenSection(), chosenStaff(), screen_.isOwnCard());
     if (screen_.drawings() != goOutDrawing_ && !frmGoOut_->isChanged()) showGoOutDay();
 }
 

@@ -1,25 +1,12 @@
 #include "card/card_cells.h"
 #include "ctl/commands.h"
 #include "ctl/console.h"
+#include "ctl/questions.h"
 #include "ctl/result_output.h"
-#include "engine/loaders.h"
 #include "store/database_file.h"
 
 namespace kurbo {
 namespace {
-
-// "yyyy/mm", or --from and --to.
-Period spanOf(const Options& options, int closeDay) {
-    const auto from = options.day(QStringLiteral("from"));
-    const auto to = options.day(QStringLiteral("to"));
-    if (from && to && *from <= *to) return {*from, *to};
-    const auto month = parseSlashDate(options.value(QStringLiteral("month")) + QStringLiteral("/01"));
-    const auto period =
-        month ? periodOfMonth(yearOf(*month), static_cast<int>(static_cast<unsigned>(civil(*month).month())), closeDay)
-              : std::nullopt;
-    if (!period) throw WrongUse{QStringLiteral("card takes --month yyyy/mm, or --from and --to")};
-    return *period;
-}
 
 void printCard(const Card& card, const QString& staff, Period span, Format format) {
     QList<QStringList> rows(card.summary.begin(), card.summary.end());
@@ -38,20 +25,14 @@ Exit runCard(const QStringList& arguments) {
     options.add(QStringLiteral("from"), QStringLiteral("first day, yyyy/mm/dd"));
     options.add(QStringLiteral("to"), QStringLiteral("last day, yyyy/mm/dd"));
     options.read(arguments, 1);
+    (void)options.needed(QStringLiteral("staff"));
     const Format format = formatNamed(options.value(QStringLiteral("format")));
-    const QString staff = options.needed(QStringLiteral("staff"));
     const Console console(options);
     Connection connection;
     connection.open(options.place(0), databasePassword());
-    clsWorkTime rules;
-    if (!GetWorkStyle(console.context(), connection, rules) ||
-        !GetStaffInfo(console.context(), connection, rules, staff) ||
-        !GetWorkTime(console.context(), connection, rules, staff))
-        return console.refused();
-    const Period span = spanOf(options, rules.plngCloseDay());
-    const auto card = makeCard(console.context(), connection, rules, staff, span);
-    if (!card) return console.refused();
-    printCard(*card, staff, span, format);
+    const auto asked = askedCard(console.context(), connection, options);
+    if (!asked) return console.refused();
+    printCard(asked->card, asked->staff, asked->span, format);
     return Exit::Done;
 }
 

@@ -3,12 +3,13 @@
 #include "ctl/commands.h"
 #include "ctl/console.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <exception>
+#include <memory>
 
 namespace kurbo {
 namespace {
@@ -32,6 +33,8 @@ constexpr std::array commands{
     Command{u"import", runImport, u"import FILE X.csv... [--overwrite]"},
     Command{u"move", runMove,
             u"move FILE --dest DEST.mdb --from yyyy/mm/dd --to yyyy/mm/dd [--month-from yyyy/mm --month-to yyyy/mm]"},
+    Command{u"report", runReport,
+            u"report FILE card|totals|goout (options as card and totals have them; goout as card) --out X.pdf"},
     Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
     Command{u"punch", runPunch,
             u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "
@@ -83,11 +86,24 @@ Exit runNamed(const QStringList& arguments) {
     return Exit::WrongUse;
 }
 
+// What the toolkit misses about the session matters only on a display.
+void passOver(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) complain(text);
+}
+
+// Letters are drawn without a display; the other commands start without all that.
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
+    if (argc < 2 || QByteArrayView(argv[1]) != "report") return std::make_unique<QCoreApplication>(argc, argv);
+    qInstallMessageHandler(passOver);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 } // namespace
 } // namespace kurbo
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = kurbo::makeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kurbo"));
     const kurbo::Exit exit = kurbo::runNamed(QCoreApplication::arguments());
     // Output that could not be written is a fault, whatever came before.

@@ -1,5 +1,6 @@
 #include "ctl/commands.h"
 #include "ctl/console.h"
+#include "ctl/questions.h"
 #include "ctl/result_output.h"
 #include "store/database_file.h"
 #include "totals/total_lines.h"
@@ -10,26 +11,6 @@ namespace {
 // Without the signs of the alignment.
 QStringList plainHeadings(bool byStaff) {
     return totalHeadings(byStaff).remove(u'^').split(u'|');
-}
-
-bool isByStaff(const QString& order) {
-    if (order.isEmpty() || order == u"staff") return true;
-    if (order == u"month") return false;
-    throw WrongUse{QStringLiteral("--by takes staff or month")};
-}
-
-TotalsQuestion questionOf(const Options& options) {
-    const bool section = options.has(QStringLiteral("section"));
-    if (section == options.has(QStringLiteral("staff")))
-        throw WrongUse{QStringLiteral("totals takes either --section or --staff")};
-    TotalsQuestion question;
-    question.section = options.value(QStringLiteral("section"));
-    question.staff = options.value(QStringLiteral("staff"));
-    question.from = options.month(QStringLiteral("from"));
-    question.to = options.month(QStringLiteral("to"));
-    question.byStaff = isByStaff(options.value(QStringLiteral("by")));
-    if (question.to < question.from) throw WrongUse{QStringLiteral("--to lies before --from")};
-    return question;
 }
 
 void printTotals(const Totals& totals, Format format) {
@@ -50,7 +31,7 @@ Exit runTotals(const QStringList& arguments) {
     options.add(QStringLiteral("to"), QStringLiteral("last month, yyyy/mm"));
     options.add(QStringLiteral("by"), QStringLiteral("the order of the rows, staff or month"));
     options.read(arguments, 1);
-    const TotalsQuestion question = questionOf(options);
+    const TotalsQuestion question = askedTotals(options);
     const Console console(options);
     Connection connection;
     connection.open(options.place(0), databasePassword());

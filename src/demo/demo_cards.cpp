@@ -17,7 +17,7 @@ constexpr int destinationsEach = 4;
 struct Worker {
     Person& person;
     Habits habits;
-    PersonMonths months;
+    DemoMonths months;
     int firstDestination = 0;
 };
 
@@ -25,23 +25,23 @@ int halves(char leave) {
     return leave == 0 ? 0 : leave == '0' ? 2 : 1;
 }
 
-DayCode codeOf(const DayCard& card, DayOff off) {
+DemoDay codeOf(const DayCard& card, DayOff off) {
     for (const char leave : {card.paid, card.special, card.compens}) {
-        if (leave == '0') return DayCode::WholeLeave;
-        if (leave == '1') return DayCode::MorningLeave;
-        if (leave == '2') return DayCode::AfternoonLeave;
+        if (leave == '0') return DemoDay::WholeLeave;
+        if (leave == '1') return DemoDay::MorningLeave;
+        if (leave == '2') return DemoDay::AfternoonLeave;
     }
     switch (off) {
     case DayOff::Whole:
-        return DayCode::Holiday;
+        return DemoDay::Holiday;
     case DayOff::Legal:
-        return DayCode::LegalHoliday;
+        return DemoDay::LegalHoliday;
     case DayOff::Afternoon:
-        return DayCode::AfternoonOff;
+        return DemoDay::AfternoonOff;
     case DayOff::None:
         break;
     }
-    return DayCode::Work;
+    return DemoDay::Work;
 }
 
 DayKind kindOf(DayOff off) {
@@ -99,7 +99,7 @@ void CardWriter::write(std::vector<Person>& people, const std::vector<DemoSectio
         habits.zeal = person.zeal;
         const auto number = static_cast<int>(workers.size());
         workers.push_back(
-            {person, habits, PersonMonths(person, sections[person.section].code, number, span_, flexible_)});
+            {person, habits, DemoMonths(person, sections[person.section].code, number, span_, flexible_)});
         if (person.sales) writeDestinations(workers.back());
     }
     const auto from = static_cast<std::size_t>((span_.first - calendar_.front().day).count());
@@ -169,7 +169,7 @@ void CardWriter::writeOuting(const Worker& worker, Day day, int order, const Out
 
 void CardWriter::account(Worker& worker, const DayCard& card, std::size_t index) {
     const CalendarDay& day = calendar_[index];
-    const DayCode code = codeOf(card, day.off);
+    const DemoDay code = codeOf(card, day.off);
     worker.months.add({code, kindOf(calendar_[index + 1].off), card.enter, card.leave},
                       {halves(card.paid), halves(card.special), halves(card.compens)});
     worker.months.endDay(connection_, day.day);

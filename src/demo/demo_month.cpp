@@ -12,7 +12,7 @@ struct Stay {
     int leave;
 };
 
-int overlap(const Stay& stay, const Band& band, int date) {
+int overlap(const Stay& stay, const WorkBand& band, int date) {
     const int start = std::max(stay.enter, date * daySeconds + band.start * 60);
     const int end = std::min(stay.leave, date * daySeconds + band.end * 60);
     return std::max(end - start, 0);
@@ -20,7 +20,7 @@ int overlap(const Stay& stay, const Band& band, int date) {
 
 int overlapOn(const Stay& stay, const BandList& bands, int date) {
     int seconds = 0;
-    for (const Band& band : bands)
+    for (const WorkBand& band : bands)
         if (band.inUse()) seconds += overlap(stay, band, date);
     return seconds;
 }
@@ -42,13 +42,13 @@ int overMinutes(const Stay& stay, const Style& style, const Style& next) {
 
 int absentMinutes(const Stay& stay, const Style& style) {
     int seconds = -overlapOn(stay, style.work, 0);
-    for (const Band& band : style.work) seconds += (band.end - band.start) * 60;
+    for (const WorkBand& band : style.work) seconds += (band.end - band.start) * 60;
     return seconds / 60;
 }
 
 Stay business(const Style& style) {
     int end = 0;
-    for (const Band& band : style.work) end = std::max(end, band.end);
+    for (const WorkBand& band : style.work) end = std::max(end, band.end);
     return {style.work[0].start * 60, end * 60};
 }
 
@@ -57,18 +57,18 @@ Stay roundedStay(const Stay& raw) {
     return {(raw.enter + unit - 1) / unit * unit, raw.leave / unit * unit};
 }
 
-DayKind kindOf(DayCode code) {
+DayKind kindOf(DemoDay code) {
     switch (code) {
-    case DayCode::Holiday:
-    case DayCode::LegalHoliday:
+    case DemoDay::Holiday:
+    case DemoDay::LegalHoliday:
         return DayKind::Holiday;
-    case DayCode::MorningLeave:
+    case DemoDay::MorningLeave:
         return DayKind::AmHoliday;
-    case DayCode::AfternoonOff:
-    case DayCode::AfternoonLeave:
+    case DemoDay::AfternoonOff:
+    case DemoDay::AfternoonLeave:
         return DayKind::PmHoliday;
-    case DayCode::Work:
-    case DayCode::WholeLeave:
+    case DemoDay::Work:
+    case DemoDay::WholeLeave:
         break;
     }
     return DayKind::Weekday;
@@ -90,13 +90,13 @@ void addAbsence(MonthFigures& month, const Style& style) {
 }
 
 // A free morning brings no early work, an afternoon's leave no overtime.
-void addOvertime(MonthFigures& month, DayCode code, const Stay& stay, const Style& style, const Style& next) {
-    if (code != DayCode::AfternoonLeave) {
+void addOvertime(MonthFigures& month, DemoDay code, const Stay& stay, const Style& style, const Style& next) {
+    if (code != DemoDay::AfternoonLeave) {
         month.of(Figure::LegalOver) += minutesIn(stay, style.legalOver);
         month.of(Figure::Over) += overMinutes(stay, style, next);
         month.of(Figure::Late) += minutesIn(stay, style.late);
     }
-    if (code != DayCode::MorningLeave) month.of(Figure::Early) += overlapOn(stay, style.early, 0) / 60;
+    if (code != DemoDay::MorningLeave) month.of(Figure::Early) += overlapOn(stay, style.early, 0) / 60;
 }
 
 void addWork(MonthFigures& month, const Stay& raw, const Stay& stay, const Style& style) {
@@ -114,8 +114,8 @@ void addWork(MonthFigures& month, const Stay& raw, const Stay& stay, const Style
 
 } // namespace
 
-void addDay(MonthFigures& month, bool flexible, Shift shift, const DayFacts& facts) {
-    if (facts.code == DayCode::WholeLeave) return;
+void addDay(MonthFigures& month, bool flexible, Shift shift, const DemoFacts& facts) {
+    if (facts.code == DemoDay::WholeLeave) return;
     const Style& style = styleOf(flexible, shift, kindOf(facts.code));
     const bool holiday = kindOf(facts.code) == DayKind::Holiday;
     if (!facts.enter && !facts.leave && !holiday) addAbsence(month, style);
@@ -123,7 +123,7 @@ void addDay(MonthFigures& month, bool flexible, Shift shift, const DayFacts& fac
     const Stay raw{*facts.enter, *facts.leave};
     const Stay stay = flexible ? raw : roundedStay(raw);
     if (holiday) {
-        addHoliday(month, style, stay, facts.code == DayCode::LegalHoliday);
+        addHoliday(month, style, stay, facts.code == DemoDay::LegalHoliday);
         return;
     }
     addWork(month, raw, stay, style);

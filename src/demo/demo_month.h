@@ -6,11 +6,11 @@
 
 namespace kurbo {
 
-enum class DayCode { Work, Holiday, LegalHoliday, AfternoonOff, MorningLeave, AfternoonLeave, WholeLeave };
+enum class DemoDay { Work, Holiday, LegalHoliday, AfternoonOff, MorningLeave, AfternoonLeave, WholeLeave };
 
 // What a finished day's card row says. Times are seconds after the day's midnight.
-struct DayFacts {
-    DayCode code = DayCode::Work;
+struct DemoFacts {
+    DemoDay code = DemoDay::Work;
     DayKind next = DayKind::Weekday; // of the following day
     std::optional<int> enter;
     std::optional<int> leave;
@@ -32,7 +32,7 @@ struct MonthFigures {
 };
 
 // Adds a day that lies in the past. A stay must not reach into the next day's working hours.
-void addDay(MonthFigures& month, bool flexible, Shift shift, const DayFacts& facts);
+void addDay(MonthFigures& month, bool flexible, Shift shift, const DemoFacts& facts);
 
 // The month as it is saved: rounded for flexible work, and cut to the limits.
 [[nodiscard]] MonthFigures finalFigures(MonthFigures month, bool flexible, Adjust adjust);

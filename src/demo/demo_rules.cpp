@@ -3,11 +3,11 @@
 namespace kurbo {
 namespace {
 
-constexpr Band from(int startHour, int startMinute, int endHour, int endMinute) {
+constexpr WorkBand from(int startHour, int startMinute, int endHour, int endMinute) {
     return {startHour * 60 + startMinute, endHour * 60 + endMinute};
 }
 
-constexpr Band hours(int start, int end) {
+constexpr WorkBand hours(int start, int end) {
     return {start * 60, end * 60};
 }
 

@@ -11,12 +11,12 @@ enum class Shift { Days, Nights };
 enum class DayKind { Weekday, Holiday, AmHoliday, PmHoliday };
 
 // Minutes of the day; a band that is not in use has no length.
-struct Band {
+struct WorkBand {
     int start = 0;
     int end = 0; // 1440 for midnight
     [[nodiscard]] constexpr bool inUse() const { return end > start; }
 };
-using BandList = std::array<Band, 4>;
+using BandList = std::array<WorkBand, 4>;
 
 // One named set of bands. In a flexible set `work` is the core time.
 struct Style {

@@ -6,7 +6,7 @@ using namespace std::chrono;
 
 namespace kurbo {
 
-PersonMonths::PersonMonths(const Person& person, QString section, int number, const CardSpan& span, bool flexible)
+DemoMonths::DemoMonths(const Person& person, QString section, int number, const CardSpan& span, bool flexible)
     : person_(person),
       section_(std::move(section)),
       number_(number),
@@ -15,24 +15,24 @@ PersonMonths::PersonMonths(const Person& person, QString section, int number, co
       paidHalves_(person.paidHalves),
       savedHalves_(person.paidHalves) {}
 
-void PersonMonths::grant(int halves, int most) {
+void DemoMonths::grant(int halves, int most) {
     const int added = std::max(0, std::min(paidHalves_ + halves, most) - paidHalves_);
     paidHalves_ += added;
     savedHalves_ += added;
 }
 
-void PersonMonths::add(const DayFacts& facts, const LeaveHalves& leaves) {
+void DemoMonths::add(const DemoFacts& facts, const LeaveHalves& leaves) {
     addDay(figures_, flexible_, person_.shift, facts);
     leaves_.paid += leaves.paid;
     leaves_.special += leaves.special;
     leaves_.compens += leaves.compens;
 }
 
-bool PersonMonths::closesOn(Day day) const {
+bool DemoMonths::closesOn(Day day) const {
     return dayOfMonth(day + days{person_.closeDay == 31 ? 1 : 0}) == (person_.closeDay == 31 ? 1 : person_.closeDay);
 }
 
-void PersonMonths::endDay(Connection& connection, Day day) {
+void DemoMonths::endDay(Connection& connection, Day day) {
     if (!closesOn(day)) return;
     const Day first = addMonths(day + days{1}, -1);
     const bool newest = addMonths(day + days{1}, 1) > span_.until;
@@ -44,14 +44,14 @@ void PersonMonths::endDay(Connection& connection, Day day) {
 }
 
 // The newest month still waits for the superiors, and for some of the people.
-Values PersonMonths::approvals(Day last, bool newest) const {
+Values DemoMonths::approvals(Day last, bool newest) const {
     const int turn = number_ + static_cast<int>(static_cast<unsigned>(civil(last).month()));
     const bool personal = turn % (newest ? 3 : 13) != 0;
     const bool superior = !newest && turn % 9 != 0;
     return {Value::yesNo(personal), Value::yesNo(superior)};
 }
 
-void PersonMonths::save(Connection& connection, Day first, Day last, bool newest) {
+void DemoMonths::save(Connection& connection, Day first, Day last, bool newest) {
     static const QString statement = QStringLiteral(
         "INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_PaidTotal, F_Paid, F_Special, "
         "F_Compens, F_AbsentDay, F_LateEnter, F_EarlyLeave, F_Term, F_Work, F_LegalOver, F_Over, F_Late, F_Early, "

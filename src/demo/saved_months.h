@@ -14,12 +14,12 @@ struct LeaveHalves {
 };
 
 // Gathers a person's days and saves each closing period when it is over.
-class PersonMonths final {
+class DemoMonths final {
   public:
-    PersonMonths(const Person& person, QString section, int number, const CardSpan& span, bool flexible);
+    DemoMonths(const Person& person, QString section, int number, const CardSpan& span, bool flexible);
 
     void grant(int halves, int most);
-    void add(const DayFacts& facts, const LeaveHalves& leaves);
+    void add(const DemoFacts& facts, const LeaveHalves& leaves);
     void endDay(Connection& connection, Day day);
     // What is left of the paid leave after the newest saved month.
     [[nodiscard]] int savedPaidHalves() const { return savedHalves_; }

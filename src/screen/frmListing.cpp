@@ -5,28 +5,47 @@
 #include "screen/show_now.h"
 
 #include <QFile>
-#include <QFontDatabase>
-#include <QPlainTextEdit>
+#include <QMenuBar>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QShortcut>
 
 namespace kurbo {
 
-frmListing::frmListing(const QString& path, QWidget* parent) : QMainWindow(parent) {
+frmListing::frmListing(const QString& path, QWidget* parent)
+    : QMainWindow(parent), txtListing_(new QPlainTextEdit(this)) {
     constexpr QSize roomy(760, 640);
     setObjectName(QStringLiteral("frmListing"));
     setAttribute(Qt::WA_DeleteOnClose);
     // Also beside a screen that blocks all others.
     setWindowModality(Qt::ApplicationModal);
     setWindowTitle(productName() + u'－' + FileNameOf(path));
-    auto* const text = new QPlainTextEdit(this);
-    text->setObjectName(QStringLiteral("txtListing"));
-    text->setReadOnly(true);
-    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    dress();
     QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) text->setPlainText(QString::fromUtf8(file.readAll()));
-    setCentralWidget(text);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    if (file.open(QIODevice::ReadOnly)) txtListing_->setPlainText(QString::fromUtf8(file.readAll()));
     fillScreen(this, roomy);
+}
+
+// The lines are set out by blanks: a full-width character is as wide as two of the others.
+void frmListing::dress() {
+    constexpr int points = 11;
+    QFont font(QStringList{QStringLiteral("Noto Sans Mono CJK JP"), QStringLiteral("monospace")});
+    font.setPointSize(points);
+    txtListing_->setObjectName(QStringLiteral("txtListing"));
+    txtListing_->setReadOnly(true);
+    txtListing_->setFont(font);
+    setCentralWidget(txtListing_);
+    menuBar()->setNativeMenuBar(false);
+    QMenu* const file = menuBar()->addMenu(QStringLiteral("ﾌｧｲﾙ(&F)"));
+    file->addAction(QStringLiteral("印刷(&P)"), QKeySequence::Print, this, &frmListing::print);
+    file->addAction(QStringLiteral("閉じる(&X)"), this, &QWidget::close);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+void frmListing::print() {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() == QDialog::Accepted) txtListing_->print(&printer);
 }
 
 } // namespace kurbo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPlainTextEdit>
 
 namespace kurbo {
 
@@ -10,6 +11,12 @@ class frmListing final : public QMainWindow {
 
   public:
     explicit frmListing(const QString& path, QWidget* parent = nullptr);
+
+  private:
+    void dress();
+    void print();
+
+    QPlainTextEdit* txtListing_;
 };
 
 } // namespace kurbo

@@ -125,7 +125,7 @@ void frmPreview::zoomBy(int steps) {
     ui_->cboZoom->setCurrentIndex(std::clamp(index, 2, static_cast<int>(zooms.size()) - 1));
 }
 
-// The wheel and the arrows turn the page where it can't be scrolled any further.
+// The wheel turns the page where it can't be scrolled any further.
 bool frmPreview::turnedAtEdge(int delta) {
     QScrollBar& bar = *ui_->scrPage->verticalScrollBar();
     if (delta > 0 && bar.value() == bar.maximum() && page_ + 1 < document_->pageCount()) {
@@ -197,20 +197,21 @@ void frmPreview::print() {
     if (dialog.exec() == QDialog::Accepted) printOn(printer);
 }
 
+PageRange frmPreview::rangeOf(const QPrinter& printer) const {
+    const int last = document_->pageCount() - 1;
+    if (printer.printRange() == QPrinter::CurrentPage) return {page_, page_};
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() < 1) return {0, last};
+    const int first = std::clamp(printer.fromPage() - 1, 0, last);
+    return {first, std::clamp(printer.toPage() - 1, first, last)};
+}
+
 void frmPreview::printOn(QPrinter& printer) {
     if (busy_) return;
     const QScopedValueRollback busy(busy_, true);
     printer.setFullPage(true);
-    int first = 0;
-    int last = document_->pageCount() - 1;
-    if (printer.printRange() == QPrinter::CurrentPage) first = last = page_;
-    if (printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0) {
-        first = std::clamp(printer.fromPage() - 1, 0, last);
-        last = std::clamp(printer.toPage() - 1, first, last);
-    }
     guarded(context_, u"frmPreview", u"cmdPrint_Click", [&] {
         const Hourglass hourglass;
-        if (!paintPages(printer, printer.resolution(), *document_, first, last, context_.progress)) printer.abort();
+        if (!paintPages(printer, *document_, rangeOf(printer), context_.progress)) printer.abort();
     });
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/guard.h"
-#include "screen/paper.h"
+#include "screen/paper_pdf.h"
 
 #include <QWidget>
 
@@ -43,14 +43,14 @@ class frmPreview final : public QWidget {
     void fillZooms();
     void connectCommands();
     void print();
+    [[nodiscard]] PageRange rangeOf(const QPrinter& printer) const;
     void savePdf();
     void zoomBy(int steps);
     void applyZoom();
     [[nodiscard]] bool turnedAtEdge(int delta);
 
     const std::unique_ptr<Ui::frmPreview> ui_;
-    // Outlives the window while it is printed.
-    std::shared_ptr<PaperDocument> document_;
+    const std::unique_ptr<PaperDocument> document_;
     Context context_;
     PageView* view_;
     int page_ = 0;

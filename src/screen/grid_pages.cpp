@@ -140,7 +140,7 @@ PaperPage GridPages::page(int index) const {
     int top = paperMargin + titleHeight;
     addHeadings(page, band, top);
     top += static_cast<int>(headings_.size()) * fit(lineHeight);
-    const auto first = static_cast<std::size_t>(index / bands * linesOnPage());
+    const std::size_t first = static_cast<std::size_t>(index / bands) * static_cast<std::size_t>(linesOnPage());
     const std::size_t end = std::min(lines_.size(), first + static_cast<std::size_t>(linesOnPage()));
     for (std::size_t i = first; i < end; ++i) {
         addLine(page, band, lines_[i], top);

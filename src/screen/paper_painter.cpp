@@ -52,6 +52,9 @@ PaperPainter::Type& PaperPainter::typeOf(const PaperItem& item) {
         font.setFamilies(japaneseFamilies());
         font.setPixelSize(std::max(1, dots(item.fontSize)));
         font.setBold(item.bold);
+        // Glyphs that only shaping brings in have no letter of their own: a PDF's text couldn't be searched.
+        font.setStyleStrategy(QFont::PreferNoShaping);
+        font.setKerning(false);
         type = std::make_unique<Type>(Type{font, QFontMetrics(font, painter_.device()), {}});
     }
     return *type;

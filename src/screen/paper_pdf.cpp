@@ -4,6 +4,7 @@
 #include "base/files.h"
 #include "base/product.h"
 #include "screen/paper_painter.h"
+#include "screen/pdf_letters.h"
 
 #include <QBuffer>
 #include <QPagedPaintDevice>
@@ -12,19 +13,18 @@
 
 namespace kurbo {
 
-bool paintPages(QPagedPaintDevice& device, int dotsPerInch, const PaperDocument& document, int first, int last,
-                Progress& progress) {
+bool paintPages(QPagedPaintDevice& device, const PaperDocument& document, PageRange range, Progress& progress) {
     const Fault noPage(static_cast<std::int64_t>(FileError::DeviceIo), QStringLiteral("paintPages"),
                        QStringLiteral("印刷できませんでした。"));
-    const Shown shown(progress, QStringLiteral("印刷中です・・・"), last - first + 1);
+    const Shown shown(progress, QStringLiteral("印刷中です・・・"), range.last - range.first + 1);
     QPainter painter;
     if (!painter.begin(&device)) throw noPage;
-    PaperPainter paper(painter, dotsPerInch);
-    for (int index = first; index <= last; ++index) {
+    PaperPainter paper(painter, device.logicalDpiX());
+    for (int index = range.first; index <= range.last; ++index) {
         if (progress.stopped()) return false;
-        if (index > first && !device.newPage()) throw noPage;
+        if (index > range.first && !device.newPage()) throw noPage;
         paper.paint(document.page(index));
-        progress.step(index - first + 1);
+        progress.step(index - range.first + 1);
     }
     if (!painter.end()) throw noPage;
     return true;
@@ -42,8 +42,9 @@ bool writePdf(const PaperDocument& document, const QString& path, Progress& prog
         const bool lying = paper.width > paper.height;
         pdf.setPageLayout(
             QPageLayout(QPageSize(QPageSize::A4), lying ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()));
-        if (!paintPages(pdf, twipsPerInch, document, 0, document.pageCount() - 1, progress)) return false;
+        if (!paintPages(pdf, document, {0, document.pageCount() - 1}, progress)) return false;
     }
+    nameLetters(bytes.buffer());
     replaceFile(path, bytes.data());
     return true;
 }

@@ -7,10 +7,16 @@ class QPagedPaintDevice;
 
 namespace kurbo {
 
-// Paints all pages on a device whose resolution is `dotsPerInch`, from `first` to `last`, counted from 0. Shows its
-// progress; false when the person has closed that. Throws a Fault when the device takes no page.
-[[nodiscard]] bool paintPages(QPagedPaintDevice& device, int dotsPerInch, const PaperDocument& document, int first,
-                              int last, Progress& progress);
+// Counted from 0, both included.
+struct PageRange {
+    int first = 0;
+    int last = 0;
+};
+
+// Paints pages on a device that takes them without margins. Shows its progress; false when the person has closed that.
+// Throws a Fault when the device takes no page.
+[[nodiscard]] bool paintPages(QPagedPaintDevice& device, const PaperDocument& document, PageRange range,
+                              Progress& progress);
 
 // The whole document in place of the file, in one step and with its letters; false, and the old file as it was, when
 // the person has closed the progress. Throws a Fault.

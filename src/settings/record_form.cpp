@@ -73,9 +73,8 @@ QString RecordForm::textIn(const RecordField& field) const {
 
 void RecordForm::put(const RecordField& field, const QString& text) const {
     QWidget* const control = controlOf(field);
-    const QString name = QString::fromUtf16(field.control);
-    if (field.kind == FieldKind::Option)
-        findChild<QRadioButton*>(name + u'_' + text)->setChecked(true);
+    if (field.kind == FieldKind::Option && text != u"1")
+        findChild<QRadioButton*>(QString::fromUtf16(field.control) + QStringLiteral("_0"))->setChecked(true);
     else if (auto* const button = qobject_cast<QAbstractButton*>(control))
         button->setChecked(!text.isEmpty());
     else if (auto* const combo = qobject_cast<DataCombo*>(control); combo && field.kind == FieldKind::List)

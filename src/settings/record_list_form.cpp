@@ -42,7 +42,9 @@ void RecordListForm::showNew() {
     const bool found = !controls_.list->text().isEmpty();
     controls_.record->setEnabled(found);
     if (found) return showRecord(newCode());
+    showTexts(RecordTexts(static_cast<qsizetype>(records_.fields.size())));
     code_.clear();
+    setChanged(false);
     const QString lost = QStringLiteral("「%1」が削除されています。").arg(text(records_.reserved.name));
     if (records_.needsReserved) throw Complaint(lost);
     client_.context.prompts.exclaim(lost);

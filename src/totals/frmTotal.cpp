@@ -1,12 +1,13 @@
 #include "totals/frmTotal.h"
 
-#include "screen/coming_screens.h"
 #include "screen/fields.h"
+#include "screen/frmPreview.h"
 #include "screen/leave_check.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
 #include "totals/csv_file.h"
 #include "totals/frmCsv.h"
+#include "totals/rptTotal.h"
 #include "ui_frmTotal.h"
 
 #include <QCloseEvent>
@@ -70,7 +71,7 @@ void frmTotal::connectCommands() {
     };
     onCommand(ui_->cmdDisplay, ui_->mnuDisplay, dates(&TotalScreen::display));
     onCommand(ui_->cmdUpdate, ui_->mnuUpdate, [this] { screen_.update(); });
-    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { showComingScreen(client_.context, QStringLiteral("印刷")); });
+    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { print(); });
     onCommand(nullptr, ui_->mnuDelete, dates(&TotalScreen::deleteMonths));
     onCommand(nullptr, ui_->mnuSaveKrb, dates(&TotalScreen::saveKrb));
     onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
@@ -81,6 +82,18 @@ void frmTotal::connectCommands() {
 void frmTotal::load() {
     run([this] { screen_.load(); });
     ui_->vfgKurbo->setFocus();
+}
+
+void frmTotal::print() {
+    const TotalHeading heading{ui_->mskStart->maskText(),
+                               ui_->mskEnd->maskText(),
+                               {ui_->dcbSection->boundText(), ui_->dcbSection->currentText()},
+                               {ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText()}};
+    if (!checkedMonths(client_.context, heading.start, heading.end)) return;
+    guarded(client_.context, u"rptTotal", u"ActiveReport_ReportStart", [&] {
+        showPreview(std::make_unique<rptTotal>(screen_.sheet.grid, heading, client_.context.clock.today()),
+                    client_.context, this);
+    });
 }
 
 // Records that have come in stand in the grid at once.

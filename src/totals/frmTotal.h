@@ -40,6 +40,7 @@ class frmTotal final : public ScreenForm {
     void sectionChosen();
     void staffChosen();
     void loadCsv();
+    void print();
 
     const std::unique_ptr<Ui::frmTotal> ui_;
     TotalScreen screen_;

@@ -1,30 +1,23 @@
 #pragma once
 
-#include <QList>
-#include <QPixmap>
 #include <QString>
 
 class QWidget;
 
 namespace kurbo {
 
-// Takes pictures of windows: each goes into the folder as a PNG, and all of them into one PDF.
+// Takes pictures of windows: each goes into the folder as a PNG.
 class Camera final {
   public:
     explicit Camera(QString folder) : folder_(std::move(folder)) {}
-    // Lets the window paint itself first. `title` is the picture's caption and, after its number, its file's name.
+    // Lets the window paint itself first. `title` is, after the picture's number, its file's name.
     void shoot(QWidget& window, const QString& title);
-    // Writes the PDF, a picture a page; false when it can't be written.
-    [[nodiscard]] bool writePdf(const QString& name) const;
-    [[nodiscard]] qsizetype count() const { return pictures_.size(); }
+    [[nodiscard]] const QString& folder() const { return folder_; }
+    [[nodiscard]] int count() const { return count_; }
 
   private:
-    struct Picture {
-        QString title;
-        QPixmap pixels;
-    };
     QString folder_;
-    QList<Picture> pictures_;
+    int count_ = 0;
 };
 
 } // namespace kurbo

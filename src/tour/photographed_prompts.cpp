@@ -34,8 +34,9 @@ void PhotographedPrompts::photographAndAnswer(Answer answer) {
         if (box->buttonRole(button) == roleOf(answer)) return button->click();
 }
 
-QStringList PhotographedPrompts::chooseFiles(const FileQuestion& /*question*/) {
-    return {};
+QStringList PhotographedPrompts::chooseFiles(const FileQuestion& question) {
+    if (question.kind != FileQuestion::Kind::Save) return {};
+    return {camera_.folder() + u'/' + question.suggestedName};
 }
 
 void PhotographedPrompts::showText(const QString& path) {

@@ -5,7 +5,7 @@
 
 namespace kurbo {
 
-// The real boxes, each photographed when it is up and then answered.
+// The real boxes, each photographed when it is up and then answered. Files are saved beside the pictures.
 class PhotographedPrompts final : public Prompts {
   public:
     explicit PhotographedPrompts(Camera& camera) : camera_(camera) {}

@@ -5,6 +5,7 @@
 #include "screen/data_combo.h"
 #include "screen/data_list.h"
 #include "screen/frmAbout.h"
+#include "screen/frmPreview.h"
 #include "screen/grid.h"
 #include "screen/masked_box.h"
 #include "shell/frmParm.h"
@@ -125,6 +126,17 @@ QWidget* WorkingDay::screen(const char* name) {
     return nullptr;
 }
 
+void WorkingDay::print(const QWidget& form, const QString& title) {
+    form.findChild<QPushButton*>(QStringLiteral("cmdPrint"))->click();
+    settle();
+    auto* const preview = form.findChild<frmPreview*>();
+    if (!preview) return;
+    camera_.shoot(*preview, title);
+    preview->findChild<QPushButton*>(QStringLiteral("cmdPdf"))->click();
+    preview->close();
+    settle();
+}
+
 // The superior sees the own month and corrects a day of somebody else's.
 void WorkingDay::card() {
     logIn(QStringLiteral("総務部"), QStringLiteral("和田　学"), QStringLiteral("kurbo1001"));
@@ -152,7 +164,11 @@ void WorkingDay::card() {
     camera_.shoot(*form, QStringLiteral("保存した月"));
     form->findChild<QAction*>(QStringLiteral("mnuDetail"))->trigger();
     settle();
-    if (QWidget* const outings = screen("frmGoOut")) camera_.shoot(*outings, QStringLiteral("外出明細"));
+    if (QWidget* const outings = screen("frmGoOut")) {
+        camera_.shoot(*outings, QStringLiteral("外出明細"));
+        print(*outings, QStringLiteral("外出明細の印刷"));
+    }
+    print(*form, QStringLiteral("タイムカードの印刷"));
     form->close();
     settle();
 }
@@ -171,6 +187,7 @@ void WorkingDay::totals() {
     form->findChild<QRadioButton*>(QStringLiteral("optMethod_1"))->click();
     settle();
     camera_.shoot(*form, QStringLiteral("月次集計 年月別"));
+    print(*form, QStringLiteral("月次集計の印刷"));
     form->close();
     settle();
 }

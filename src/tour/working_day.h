@@ -27,6 +27,8 @@ class WorkingDay final {
     void end();
 
     void logIn(const QString& section, const QString& staff, const QString& password);
+    // What a screen prints, looked at and saved.
+    void print(const QWidget& form, const QString& title);
     void shoot(const QString& title) { camera_.shoot(window_, title); }
     [[nodiscard]] QWidget* control(const char* name) const;
     // A screen that is open beside the main window.

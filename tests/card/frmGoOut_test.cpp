@@ -4,6 +4,7 @@
 #include "card/card_office.h"
 #include "card/frmKurbo.h"
 #include "screen/data_combo.h"
+#include "screen/frmPreview.h"
 #include "screen/grid.h"
 #include "screen/masked_box.h"
 
@@ -55,6 +56,13 @@ class FrmGoOut : public CardOffice {
     template <typename Part>
     [[nodiscard]] static Part& of(const QWidget& window, const char* name) {
         return *window.findChild<Part*>(QString::fromLatin1(name));
+    }
+    // Of the preview over a window; it is closed.
+    [[nodiscard]] static QString previewOf(const QWidget& window) {
+        auto* const preview = window.findChild<frmPreview*>();
+        const QString title = preview ? preview->windowTitle() : QString();
+        delete preview;
+        return title;
     }
     [[nodiscard]] static Grid& grid() { return of<Grid>(*form(), "vfgGoOut"); }
     [[nodiscard]] static QString total() { return grid().grid()->TextMatrix(1, 5) + grid().grid()->TextMatrix(1, 6); }
@@ -166,8 +174,9 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     QPointer<frmGoOut> first = form();
     of<QAction>(*card, "mnuDetail").trigger();
     EXPECT_EQ(form(), first) << "brought to the front";
-    desk.prompts.expect(u"「印刷」"_q).expect(u"開始日付が終了日付以降に設定されています。"_q);
     of<QPushButton>(*form(), "cmdPrint").click();
+    EXPECT_EQ(previewOf(*form()), u"Kurbo－外出出張明細"_q);
+    desk.prompts.expect(u"開始日付が終了日付以降に設定されています。"_q);
     QTest::keyClick(&of<QWidget>(*form(), "mskStart"), Qt::Key_Up);
     of<MaskedBox>(*form(), "mskEnd").setText(u"2026/04/01"_q);
     of<QAction>(*form(), "mnuPrint").trigger();
@@ -185,8 +194,10 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     of<QAction>(*card, "mnuDetail").trigger();
     of<QAction>(*card, "mnuList").trigger();
     of<MaskedBox>(*card, "mskEnd").setText(u"2026/04/30"_q);
-    desk.prompts.expect(u"「一覧印刷」"_q);
     of<QAction>(*card, "mnuList").trigger();
+    EXPECT_EQ(previewOf(*card), u"Kurbo－外出出張明細"_q);
+    of<QPushButton>(*card, "cmdPrint").click();
+    EXPECT_EQ(previewOf(*card), u"Kurbo－タイムカード"_q);
 }
 
 } // namespace

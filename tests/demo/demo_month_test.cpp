@@ -9,7 +9,7 @@ constexpr int clock(int hour, int minute, int second = 0) {
     return (hour * 60 + minute) * 60 + second;
 }
 
-MonthFigures ofDay(const DayFacts& facts, bool flexible = false, Shift shift = Shift::Days) {
+MonthFigures ofDay(const DemoFacts& facts, bool flexible = false, Shift shift = Shift::Days) {
     MonthFigures month;
     addDay(month, flexible, shift, facts);
     return month;
@@ -24,16 +24,16 @@ std::array<int, 6> figuresOf(const MonthFigures& month) {
 using Figures = std::array<int, 6>;
 
 TEST(DemoMonth, SplitsAFixedDayIntoItsBands) {
-    const DayFacts longDay{DayCode::Work, DayKind::Weekday, clock(7, 50, 10), clock(23, 59)};
+    const DemoFacts longDay{DemoDay::Work, DayKind::Weekday, clock(7, 50, 10), clock(23, 59)};
     EXPECT_EQ(figuresOf(ofDay(longDay)), (Figures{450, 30, 240, 105, 60, 0}));
-    const DayFacts allNight{DayCode::Work, DayKind::Holiday, clock(8, 59), clock(24 + 6, 10)};
+    const DemoFacts allNight{DemoDay::Work, DayKind::Holiday, clock(8, 59), clock(24 + 6, 10)};
     EXPECT_EQ(figuresOf(ofDay(allNight)), (Figures{450, 30, 240 + 60, 420, 0, 0}));
-    const DayFacts night{DayCode::Work, DayKind::Weekday, clock(14, 52), clock(24, 40)};
+    const DemoFacts night{DemoDay::Work, DayKind::Weekday, clock(14, 52), clock(24, 40)};
     EXPECT_EQ(figuresOf(ofDay(night, false, Shift::Nights)), (Figures{480, 0, 0, 150, 0, 0}));
 }
 
 TEST(DemoMonth, CountsLatenessByTheRealTimesAndAbsenceByTheRounded) {
-    const MonthFigures late = ofDay({DayCode::Work, DayKind::Weekday, clock(9, 0, 1), clock(17, 29, 59)});
+    const MonthFigures late = ofDay({DemoDay::Work, DayKind::Weekday, clock(9, 0, 1), clock(17, 29, 59)});
     EXPECT_EQ(late.lateEnters, 1);
     EXPECT_EQ(late.earlyLeaves, 1);
     EXPECT_EQ(late.of(Figure::Absent), 30);
@@ -41,26 +41,26 @@ TEST(DemoMonth, CountsLatenessByTheRealTimesAndAbsenceByTheRounded) {
 }
 
 TEST(DemoMonth, TakesHalfAndWholeLeaveByTheirOwnBands) {
-    const DayFacts afternoon{DayCode::MorningLeave, DayKind::Weekday, clock(12, 50), clock(18, 0)};
+    const DemoFacts afternoon{DemoDay::MorningLeave, DayKind::Weekday, clock(12, 50), clock(18, 0)};
     EXPECT_EQ(figuresOf(ofDay(afternoon)), (Figures{270, 30, 0, 0, 0, 0}));
-    const DayFacts morning{DayCode::AfternoonLeave, DayKind::Weekday, clock(8, 0), clock(14, 0)};
+    const DemoFacts morning{DemoDay::AfternoonLeave, DayKind::Weekday, clock(8, 0), clock(14, 0)};
     EXPECT_EQ(figuresOf(ofDay(morning)), (Figures{180, 0, 0, 0, 60, 0}));
-    const DayFacts cleaning{DayCode::AfternoonOff, DayKind::Holiday, clock(8, 50), clock(14, 0)};
+    const DemoFacts cleaning{DemoDay::AfternoonOff, DayKind::Holiday, clock(8, 50), clock(14, 0)};
     EXPECT_EQ(figuresOf(ofDay(cleaning)), (Figures{180, 60, 0, 0, 0, 0}));
-    const DayFacts leave{DayCode::WholeLeave, DayKind::Weekday, {}, {}};
+    const DemoFacts leave{DemoDay::WholeLeave, DayKind::Weekday, {}, {}};
     EXPECT_EQ(ofDay(leave).absentDays, 0);
 }
 
 TEST(DemoMonth, TellsAbsenceFromAForgottenPunch) {
-    const MonthFigures absent = ofDay({DayCode::Work, DayKind::Weekday, {}, {}});
+    const MonthFigures absent = ofDay({DemoDay::Work, DayKind::Weekday, {}, {}});
     EXPECT_EQ(absent.absentDays, 1);
     EXPECT_EQ(absent.of(Figure::Absent), 450);
-    const MonthFigures forgotten = ofDay({DayCode::Work, DayKind::Weekday, clock(9, 0), {}});
+    const MonthFigures forgotten = ofDay({DemoDay::Work, DayKind::Weekday, clock(9, 0), {}});
     EXPECT_EQ(forgotten.absentDays + forgotten.workDays + forgotten.of(Figure::Absent), 0);
 }
 
 TEST(DemoMonth, KeepsHolidayWorkApart) {
-    const MonthFigures sunday = ofDay({DayCode::LegalHoliday, DayKind::Weekday, clock(8, 0), clock(23, 0)});
+    const MonthFigures sunday = ofDay({DemoDay::LegalHoliday, DayKind::Weekday, clock(8, 0), clock(23, 0)});
     EXPECT_EQ(sunday.of(Figure::LegalHoliday), 60 + 180 + 540);
     EXPECT_EQ(sunday.of(Figure::LegalLate), 60);
     EXPECT_EQ(sunday.of(Figure::Holiday) + sunday.of(Figure::Work), 0);
@@ -70,7 +70,7 @@ TEST(DemoMonth, KeepsHolidayWorkApart) {
 TEST(DemoMonth, RoundsAndCutsTheSumsAtTheEnd) {
     MonthFigures month;
     for (int day = 0; day < 2; ++day)
-        addDay(month, true, Shift::Days, {DayCode::Work, DayKind::Weekday, clock(7, 53), clock(17, 0)});
+        addDay(month, true, Shift::Days, {DemoDay::Work, DayKind::Weekday, clock(7, 53), clock(17, 0)});
     EXPECT_EQ(month.of(Figure::Work), 2 * 487);
     month.of(Figure::Over) = 2701;
     const MonthFigures final = finalFigures(month, true, Adjust::Agreement);

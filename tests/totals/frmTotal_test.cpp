@@ -2,6 +2,7 @@
 
 #include "card/card_office.h"
 #include "screen/data_combo.h"
+#include "screen/frmPreview.h"
 #include "screen/grid.h"
 #include "screen/masked_box.h"
 #include "totals/csv_file.h"
@@ -96,6 +97,18 @@ TEST_F(FrmTotal, MonthsOutOfAFileAreLookedAtAndEntered) {
     find<QAction>("mnuLoadCsv")->trigger();
     EXPECT_EQ(seen, u"months.csv 佐藤次郎 総務部 2026年 04月 10:30 済 "_q);
     EXPECT_EQ(asked(u"SELECT F_Work FROM T05_Approved WHERE (F_Staff = '1003')"_q), u"630"_q);
+}
+
+TEST_F(FrmTotal, PrintsWhatItShows) {
+    find<QPushButton>("cmdPrint")->click();
+    auto* const preview = form->findChild<frmPreview*>();
+    ASSERT_TRUE(preview);
+    EXPECT_EQ(preview->windowTitle(), u"Kurbo－集計"_q);
+    delete preview;
+    find<MaskedBox>("mskEnd")->setText(u"2026/03"_q);
+    desk.prompts.expect(u"開始年月が終了年月以降に設定されています。"_q);
+    find<QAction>("mnuPrint")->trigger();
+    EXPECT_FALSE(form->findChild<frmPreview*>());
 }
 
 } // namespace

@@ -1,0 +1,121 @@
+#include "card/rptGoOut.h"
+
+#include "base/product.h"
+#include "card/go_out_sheet.h"
+#include "screen/grid_format.h"
+#include "store/rows.h"
+
+#include <array>
+
+namespace kurbo {
+namespace {
+
+constexpr std::array columns{
+    ReportColumn{u"F_Date", 14, -1, 1900, GridAlign::Centre},
+    ReportColumn{u"F_Out", 5, -1, 1300, GridAlign::Centre},
+    ReportColumn{u"F_In", 5, -1, 1300, GridAlign::Centre},
+    ReportColumn{u"F_DestName", 30, -1, 4472, GridAlign::Left},
+    ReportColumn{u"F_Expense", 20, -1, 1800, GridAlign::Right},
+};
+constexpr int lineHeight = 300;
+constexpr int fontSize = 190;
+
+QString longDate(Day day) {
+    return slashDate(day).replace(4, 1, QStringLiteral("年 ")).replace(8, 1, QStringLiteral("月 ")) +
+           QStringLiteral("日");
+}
+
+QString money(const QString& amount) {
+    return formatted(amount, QStringLiteral("$#,###"));
+}
+
+QStringList recordOf(const Rows& row) {
+    const auto day = row.moment(0);
+    const auto time = [&row](int column) {
+        const auto moment = row.moment(column);
+        return moment ? hourMinute(*moment) : QString();
+    };
+    return {day ? formatted(slashMoment(*day), QStringLiteral("yyyy/mm/dd(aaa)")) : QString(), time(1), time(2),
+            row.text(3), money(row.text(4))};
+}
+
+struct Outings {
+    ReportRecords records{fieldsOf(columns)};
+    std::int64_t expense = 0;
+};
+
+Outings readAll(Connection& connection, const QString& staff, Period period) {
+    Outings outings;
+    Rows rows = connection.rows(
+        QStringLiteral("SELECT CDate(Left(T02_Kurbo.F_DateID, 4) & '/' & Mid(T02_Kurbo.F_DateID,5, 2) & '/' & "
+                       "Right(T02_Kurbo.F_DateID, 2)) AS F_Date, T03_GoOut.F_Out, T03_GoOut.F_In, "
+                       "T04_Destination.F_DestName, T03_GoOut.F_Expense "
+                       "FROM T04_Destination INNER JOIN (T02_Kurbo INNER JOIN T03_GoOut ON T02_Kurbo.F_KurboID = "
+                       "T03_GoOut.F_KurboID) ON T04_Destination.F_DestCode = T03_GoOut.F_Destination "
+                       "WHERE (T02_Kurbo.F_DateID BETWEEN ? AND ?) AND (T02_Kurbo.F_User = ?) "
+                       "ORDER BY T02_Kurbo.F_DateID, T03_GoOut.F_Order;"),
+        {dateId(period.from), dateId(period.to), staff});
+    while (rows.next()) {
+        outings.records.AddNew(recordOf(rows));
+        outings.expense += moneyOf(rows.text(4)).value_or(0);
+    }
+    return outings;
+}
+
+ReportSection pageHeader(const QString& heading, Period period) {
+    ReportSection header;
+    addTitle(header, QStringLiteral("外出出張明細"), heading.trimmed(), widthOf(columns));
+    header.controls.push_back(label(QStringLiteral("lblPeriod"), longDate(period.from) + u'～' + longDate(period.to), 0,
+                                    widthOf(columns),
+                                    {.top = titleHeight, .height = 290, .fontSize = 200, .edges = NoEdge}));
+    const RowLook look{.top = titleHeight + 340, .height = lineHeight, .fontSize = fontSize, .fill = headingPaper};
+    addCaptions(header, columns, look, u"lbl",
+                {QStringLiteral("日付"), QStringLiteral("外出時刻"), QStringLiteral("帰社時刻"),
+                 QStringLiteral("外出先"), QStringLiteral("交通費")});
+    for (ReportControl& control : header.controls)
+        if (control.top == look.top) control.align = GridAlign::Centre;
+    header.height = look.top + look.height;
+    return header;
+}
+
+ReportSection reportFooter(const QString& sum) {
+    const RowLook look{.height = lineHeight, .fontSize = fontSize, .bold = true, .fill = sumPaper};
+    ReportSection footer{.height = lineHeight};
+    addCaptions(footer, columns, look, u"sum", {{}, {}, {}, QStringLiteral("合計"), sum});
+    return footer;
+}
+
+} // namespace
+
+rptGoOut::rptGoOut(Connection& connection, const CodeName& section, const CodeName& staff, Period period,
+                   Day printedOn) {
+    ActiveReport_ReportStart(connection, reportHeading({}, section, staff), staff.code, period, printedOn);
+}
+
+void rptGoOut::ActiveReport_ReportStart(Connection& connection, const QString& heading, const QString& staff,
+                                        Period period, Day printedOn) {
+    Outings outings = readAll(connection, staff, period);
+    ReportSection detail{.height = lineHeight};
+    addFields(detail, columns, {.height = lineHeight, .fontSize = fontSize});
+    run({.caption = productName() + QStringLiteral("－外出出張明細"),
+         .documentName = reportDocumentName(),
+         .printedOn = slashDate(printedOn),
+         .paper = a4Portrait,
+         .PageHeader = pageHeader(heading, period),
+         .Detail = std::move(detail),
+         .ReportFooter = reportFooter(money(moneyText(outings.expense)))},
+        std::move(outings.records));
+}
+
+void rptGoOut::Detail_Format(ReportSection& section, int record) const {
+    for (ReportControl& control : section.controls) control.fill = zebra(record);
+}
+
+std::unique_ptr<rptGoOut> makeGoOutReport(const Context& context, Connection& connection, const CodeName& section,
+                                          const CodeName& staff, Period period) {
+    return guarded(context, u"rptGoOut", u"ActiveReport_ReportStart", std::unique_ptr<rptGoOut>(), [&] {
+        return std::make_unique<rptGoOut>(connection, section, staff, period, context.clock.today());
+    });
+}
+
+} // namespace kurbo

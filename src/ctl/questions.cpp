@@ -1,0 +1,54 @@
+#include "ctl/questions.h"
+
+#include "engine/loaders.h"
+
+namespace kurbo {
+namespace {
+
+bool isByStaff(const QString& order) {
+    if (order.isEmpty() || order == u"staff") return true;
+    if (order == u"month") return false;
+    throw WrongUse{QStringLiteral("--by takes staff or month")};
+}
+
+} // namespace
+
+Period askedPeriod(const Options& options, int closeDay) {
+    const auto from = options.day(QStringLiteral("from"));
+    const auto to = options.day(QStringLiteral("to"));
+    if (from && to && *from <= *to) return {*from, *to};
+    const auto month = parseSlashDate(options.value(QStringLiteral("month")) + QStringLiteral("/01"));
+    const auto period =
+        month ? periodOfMonth(yearOf(*month), static_cast<int>(static_cast<unsigned>(civil(*month).month())), closeDay)
+              : std::nullopt;
+    if (!period) throw WrongUse{QStringLiteral("it takes --month yyyy/mm, or --from and --to")};
+    return *period;
+}
+
+std::optional<AskedCard> askedCard(const Context& context, Connection& connection, const Options& options) {
+    const QString staff = options.needed(QStringLiteral("staff"));
+    clsWorkTime rules;
+    if (!GetWorkStyle(context, connection, rules) || !GetStaffInfo(context, connection, rules, staff) ||
+        !GetWorkTime(context, connection, rules, staff))
+        return {};
+    const Period span = askedPeriod(options, rules.plngCloseDay());
+    auto card = makeCard(context, connection, rules, staff, span);
+    if (!card) return {};
+    return AskedCard{staff, span, std::move(*card)};
+}
+
+TotalsQuestion askedTotals(const Options& options) {
+    const bool section = options.has(QStringLiteral("section"));
+    if (section == options.has(QStringLiteral("staff")))
+        throw WrongUse{QStringLiteral("totals takes either --section or --staff")};
+    TotalsQuestion question;
+    question.section = options.value(QStringLiteral("section"));
+    question.staff = options.value(QStringLiteral("staff"));
+    question.from = options.month(QStringLiteral("from"));
+    question.to = options.month(QStringLiteral("to"));
+    question.byStaff = isByStaff(options.value(QStringLiteral("by")));
+    if (question.to < question.from) throw WrongUse{QStringLiteral("--to lies before --from")};
+    return question;
+}
+
+} // namespace kurbo

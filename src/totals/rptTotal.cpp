@@ -1,0 +1,174 @@
+#include "totals/rptTotal.h"
+
+#include "base/product.h"
+#include "totals/totals.h"
+
+#include <array>
+
+namespace kurbo {
+namespace {
+
+constexpr int at(TotalColumn column) {
+    return static_cast<int>(column);
+}
+
+constexpr int quantity = 775;
+// The detail's name or month stands in front of the figures; of the two fields the group shows the other.
+constexpr int labelWidth = 1760;
+constexpr std::size_t firstColumn = 2;
+constexpr std::array columns{
+    ReportColumn{u"F_YearMonth", 11, -1, 0},
+    ReportColumn{u"F_StaffName", 20, -1, 0},
+    ReportColumn{u"F_WorkDay", 4, at(TotalColumn::WorkDay), 740},
+    ReportColumn{u"F_Work", 8, at(TotalColumn::Work), 840},
+    ReportColumn{u"F_PaidTotal", 6, at(TotalColumn::PaidTotal), 739},
+    ReportColumn{u"F_LegalOver", 8, at(TotalColumn::LegalOver), quantity},
+    ReportColumn{u"F_Over", 8, at(TotalColumn::Over), quantity},
+    ReportColumn{u"F_Late", 8, at(TotalColumn::Late), quantity},
+    ReportColumn{u"F_Early", 8, at(TotalColumn::Early), quantity},
+    ReportColumn{u"F_Holiday", 8, at(TotalColumn::Holiday), quantity},
+    ReportColumn{u"F_HolidayLate", 8, at(TotalColumn::HolidayLate), quantity},
+    ReportColumn{u"F_LegalHoliday", 8, at(TotalColumn::LegalHoliday), quantity},
+    ReportColumn{u"F_LegalLate", 8, at(TotalColumn::LegalLate), quantity},
+    ReportColumn{u"F_Absent", 8, at(TotalColumn::Absent), quantity},
+    ReportColumn{u"F_Paid", 6, at(TotalColumn::Paid), quantity},
+    ReportColumn{u"F_Special", 6, at(TotalColumn::Special), quantity},
+    ReportColumn{u"F_Compens", 6, at(TotalColumn::Compens), quantity},
+    ReportColumn{u"F_AbsentDay", 4, at(TotalColumn::AbsentDay), quantity},
+    ReportColumn{u"F_LateEnter", 4, at(TotalColumn::LateEnter), quantity},
+    ReportColumn{u"F_EarlyLeave", 4, at(TotalColumn::EarlyLeave), quantity},
+};
+constexpr std::span figures = std::span(columns).subspan(firstColumn);
+constexpr int lineHeight = 250;
+constexpr int fontSize = 165;
+
+bool isByMonth(const GridModel& grid) {
+    return grid.TextMatrix(0, at(TotalColumn::First)) == u"年月";
+}
+
+// Sums have no person.
+bool isSum(const GridModel& grid, int row) {
+    return grid.TextMatrix(row, at(TotalColumn::Staff)).isEmpty();
+}
+
+// The group and the line's own words. A sub-total belongs to the group above it.
+std::pair<QString, QString> wordsOf(const GridModel& grid, int row) {
+    static const QString subTotal = QStringLiteral("小計");
+    QString first = grid.TextMatrix(row, at(TotalColumn::First));
+    if (!isSum(grid, row) || !first.endsWith(subTotal)) return {first, grid.TextMatrix(row, at(TotalColumn::Second))};
+    first.chop(subTotal.size() + 1);
+    return {first, subTotal};
+}
+
+// A bracket that would be cut open says nothing.
+QString withoutOpenBracket(const QString& cell, int bytes) {
+    const qsizetype bracket = cell.indexOf(u'(');
+    return bracket >= 0 && cell.size() > bytes ? cell.left(bracket) : cell;
+}
+
+QStringList recordOf(const GridModel& grid, int row, bool byMonth) {
+    const auto [group, line] = wordsOf(grid, row);
+    QStringList cells;
+    cells.reserve(std::ssize(columns));
+    cells << (byMonth ? group : line) << (byMonth ? line : group);
+    for (const ReportColumn& column : figures)
+        cells.append(withoutOpenBracket(grid.TextMatrix(row, column.column), column.bytes));
+    return cells;
+}
+
+void moveRight(ReportSection& section, int by) {
+    for (ReportControl& control : section.controls)
+        if (control.column >= 0) control.left += by;
+}
+
+ReportSection pageHeader(const GridModel& grid, const TotalHeading& heading) {
+    ReportSection header;
+    addTitle(header, QStringLiteral("月次集計"),
+             reportHeading(heading.start + u'～' + heading.end, heading.section, heading.staff),
+             labelWidth + widthOf(figures));
+    const RowLook look{.top = titleHeight, .height = 280, .fontSize = 155, .fill = headingPaper};
+    addCaptions(header, figures, look, u"lbl", cellsOf(grid, 0, figures));
+    moveRight(header, labelWidth);
+    header.controls.push_back(label(QStringLiteral("lblDetail"),
+                                    isByMonth(grid) ? QStringLiteral("氏名") : QStringLiteral("年月"), 0, labelWidth,
+                                    look));
+    for (ReportControl& control : header.controls)
+        if (control.top == look.top) control.align = GridAlign::Centre;
+    header.height = titleHeight + look.height;
+    return header;
+}
+
+ReportSection groupHeader(const QString& field) {
+    constexpr RowLook look{.height = 270, .fontSize = 175, .bold = true, .fill = sumPaper};
+    ReportSection section{.height = look.height};
+    section.controls.push_back(label(QStringLiteral("txtGroup"), {}, 0, labelWidth + widthOf(figures), look));
+    section.controls.back().dataField = field;
+    return section;
+}
+
+ReportSection detail(const QString& field) {
+    constexpr RowLook look{.height = lineHeight, .fontSize = fontSize};
+    ReportSection section{.height = lineHeight};
+    addFields(section, figures, look);
+    moveRight(section, labelWidth);
+    section.controls.push_back(label(QStringLiteral("txtDetail"), {}, 0, labelWidth, look));
+    section.controls.back().dataField = field;
+    return section;
+}
+
+ReportSection reportFooter() {
+    ReportSection section{.height = 60};
+    section.controls.push_back(label(QStringLiteral("linEnd"), {}, 0, labelWidth + widthOf(figures),
+                                     {.height = section.height, .edges = BottomEdge}));
+    return section;
+}
+
+} // namespace
+
+rptTotal::rptTotal(const GridModel& vfgKurbo, const TotalHeading& heading, Day printedOn)
+    : ColHidden_(hiddenColumns(vfgKurbo, at(TotalColumn::LegalOver), at(TotalColumn::EarlyLeave))) {
+    ActiveReport_ReportStart(vfgKurbo, heading, printedOn);
+}
+
+void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeading& heading, Day printedOn) {
+    const bool byMonth = isByMonth(grid);
+    ReportRecords records(fieldsOf(columns));
+    for (int row = 1; row < grid.Rows(); ++row) {
+        records.AddNew(recordOf(grid, row, byMonth));
+        sums_.push_back(isSum(grid, row));
+    }
+    const QString month = QStringLiteral("F_YearMonth");
+    const QString name = QStringLiteral("F_StaffName");
+    run({.caption = productName() + QStringLiteral("－集計"),
+         .documentName = reportDocumentName(),
+         .printedOn = slashDate(printedOn),
+         .PageHeader = pageHeader(grid, heading),
+         .GroupHeader = groupHeader(byMonth ? month : name),
+         .groupField = byMonth ? month : name,
+         .Detail = detail(byMonth ? name : month),
+         .ReportFooter = reportFooter()},
+        std::move(records));
+}
+
+void rptTotal::PageHeader_Format(ReportSection& section, int /*record*/) const {
+    closeGaps(section, ColHidden_);
+}
+
+void rptTotal::GroupHeader_Format(ReportSection& section, int /*record*/) const {
+    section.control(u"txtGroup").width -= hiddenWidth(figures, ColHidden_);
+}
+
+void rptTotal::Detail_Format(ReportSection& section, int record) const {
+    closeGaps(section, ColHidden_);
+    if (!sums_[static_cast<std::size_t>(record)]) return;
+    for (ReportControl& control : section.controls) {
+        control.bold = true;
+        control.fill = sumPaper;
+    }
+}
+
+void rptTotal::ReportFooter_Format(ReportSection& section, int /*record*/) const {
+    section.control(u"linEnd").width -= hiddenWidth(figures, ColHidden_);
+}
+
+} // namespace kurbo

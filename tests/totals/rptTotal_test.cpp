@@ -1,0 +1,116 @@
+#include "totals/rptTotal.h"
+
+#include "screen/paper_texts.h"
+#include "totals/total_grid.h"
+
+namespace kurbo::test {
+namespace {
+
+Totals totalsOf(const QStringList& names, unsigned months, bool byStaff) {
+    Totals totals;
+    totals.byStaff = byStaff;
+    const auto add = [&](int person, unsigned month) {
+        TotalRow row;
+        row.staff = QString::number(1001 + person);
+        row.name = names[person];
+        row.month = std::chrono::year(2026) / std::chrono::month(month);
+        row.figures.fill(60);
+        row.figures[2] = static_cast<int>(month) * 100;
+        totals.rows.push_back(row);
+    };
+    if (byStaff)
+        for (int person = 0; person < names.size(); ++person)
+            for (unsigned month = 1; month <= months; ++month) add(person, month);
+    else
+        for (unsigned month = 1; month <= months; ++month)
+            for (int person = 0; person < names.size(); ++person) add(person, month);
+    return totals;
+}
+
+class RptTotal : public ::testing::Test {
+  protected:
+    void fill(const QStringList& names, unsigned months, bool byStaff) {
+        fillTotalGrid(grid, totalsOf(names, months, byStaff));
+    }
+    [[nodiscard]] rptTotal report(const CodeName& staff = {}) const {
+        return {grid, {u"2026/01"_q, u"2026/12"_q, {u"S01"_q, u"総務部"_q}, staff}, *makeDay(2026, 5, 7)};
+    }
+    // Of each line between headings and footer the first four texts.
+    static QStringList begins(const rptTotal& report, int page) {
+        QStringList lines = linesOf(report.page(page)).mid(3);
+        lines.removeLast();
+        for (QString& line : lines) line = line.section(u'|', 0, 3);
+        return lines;
+    }
+
+    GridModel grid;
+};
+
+TEST_F(RptTotal, GroupsAreMonthsOrPeople) {
+    const QString month = u"|60|1:00|1.0"_q;
+    fill({u"佐藤"_q, u"鈴木"_q}, 1, true);
+    EXPECT_EQ(begins(report(), 0),
+              QStringList({u"佐藤"_q, u"2026年 01月"_q + month, u"小計"_q + month, u"鈴木"_q, u"2026年 01月"_q + month,
+                           u"小計"_q + month, u"合計"_q, u"120|2:00|2.0|2:00"_q}));
+    EXPECT_EQ(linesOf(report().page(0)).value(2).left(12), u"年月|出勤日数|実働時間"_q.left(12));
+    fill({u"佐藤"_q, u"鈴木"_q}, 1, false);
+    EXPECT_EQ(begins(report(), 0), QStringList({u"2026年 01月"_q, u"佐藤"_q + month, u"鈴木"_q + month,
+                                                u"小計|120|2:00|2.0"_q, u"合計"_q, u"120|2:00|2.0|2:00"_q}));
+    const PaperPage page = report({u"1001"_q, u"佐藤"_q}).page(0);
+    EXPECT_EQ(linesOf(page).mid(0, 2), QStringList({u"月次集計"_q, u"2026/01～2026/12    部課：総務部 (S01)"
+                                                                   "    氏名：佐藤 (1001)"_q}));
+    EXPECT_TRUE(itemOf(page, u"小計"_q).bold);
+    EXPECT_EQ(itemOf(page, u"氏名"_q).left, paperMargin);
+    EXPECT_EQ(report().Caption(), u"Kurbo－集計"_q);
+}
+
+TEST_F(RptTotal, CellsAreCutToTheirFields) {
+    fill({u"一二三四五六七八九xyz"_q, u"一二三四五六七八九xy"_q}, 1, true);
+    grid.TextMatrix(1, 4, u"123456:789"_q);
+    grid.TextMatrix(2, 4, u"1000:00(+12:00)"_q);
+    grid.TextMatrix(1, 3, u"12345"_q);
+    const PaperPage page = report().page(0);
+    EXPECT_FALSE(linesOf(page).join(u'|').contains(u'z')) << "21 bytes";
+    itemOf(page, u"一二三四五六七八九xy"_q);
+    itemOf(page, u"123456:7"_q);
+    itemOf(page, u"1000:00"_q);
+    itemOf(page, u"1234"_q);
+}
+
+TEST_F(RptTotal, OnlyColumnsThatAreShownTakeRoom) {
+    fill({u"佐藤"_q}, 2, true);
+    for (int column = 6; column <= 20; ++column) grid.ColHidden(column, column != 19);
+    const rptTotal narrow = report();
+    const PaperPage page = narrow.page(0);
+    EXPECT_EQ(itemOf(page, u"遅刻"_q).left, itemOf(page, u"有給残数"_q).right());
+    EXPECT_FALSE(linesOf(page).join(u'|').contains(u"普通残業"_q));
+    const int right = itemOf(page, u"遅刻"_q).right();
+    EXPECT_EQ(itemOf(page, u"佐藤"_q).right(), right);
+    EXPECT_TRUE(std::ranges::any_of(
+        page, [right](const PaperItem& item) { return item.edges == BottomEdge && item.right() == right; }));
+    expectClean(narrow);
+}
+
+TEST_F(RptTotal, AYearOfASectionGoesOverPages) {
+    QStringList names;
+    for (int i = 0; i < 20; ++i) names.append(u"社員%1"_q.arg(i));
+    for (const bool byStaff : {true, false}) {
+        fill(names, 12, byStaff);
+        const rptTotal year = report();
+        EXPECT_GT(year.pageCount(), 6);
+        for (int page = 0; page < year.pageCount(); ++page) {
+            const QStringList lines = begins(year, page);
+            EXPECT_FALSE(lines.first().contains(u'|')) << "under a group's heading: " << lines.first();
+            EXPECT_TRUE(lines.last().contains(u'|')) << "no heading alone: " << lines.last();
+        }
+        EXPECT_EQ(begins(year, year.pageCount() - 1).last(), u"1440|240:00|1560.0|240:00"_q);
+        expectClean(year);
+    }
+    grid.Rows(1);
+    const rptTotal none = report();
+    EXPECT_EQ(none.pageCount(), 1);
+    EXPECT_EQ(begins(none, 0), QStringList());
+}
+
+} // namespace
+} // namespace kurbo::test
