@@ -63,8 +63,12 @@ void writeCopy(Connection& from, const QString& target, const WorkNotice& notice
 void requireWhole(const QString& path, const QString& password) {
     Connection connection;
     connection.openAlone(path, password);
+    requireWhole(connection);
+}
+
+void requireWhole(Connection& connection) {
     const auto verdict = connection.firstValue(QStringLiteral("SELECT quick_check FROM pragma_quick_check"));
-    if (!verdict || verdict->text() != u"ok") throw storeFault(StoreError::Damaged, path);
+    if (!verdict || verdict->text() != u"ok") throw storeFault(StoreError::Damaged, connection.path());
 }
 
 void putInPlace(const QString& copy, const QString& target, const QString& password) {

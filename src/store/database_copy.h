@@ -12,6 +12,8 @@ void writeCopy(Connection& from, const QString& target, const WorkNotice& notice
 
 // Throws a Fault when the file is damaged or no database of this system.
 void requireWhole(const QString& path, const QString& password);
+// The same for an open file.
+void requireWhole(Connection& connection);
 
 // Puts a finished copy, which nobody has open, in the place of a database, with nothing left of what stood there
 // before. Throws a Fault and leaves the old file.
