@@ -1,6 +1,6 @@
-#include "screen/pdf_letters.h"
+#include "paper/pdf_letters.h"
 
-#include "screen/paper_painter.h"
+#include "paper/paper_painter.h"
 
 #include <QHash>
 #include <QRawFont>

@@ -1,4 +1,4 @@
-#include "screen/paper.h"
+#include "paper/paper.h"
 
 #include "base/product.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/report.h"
+#include "paper/report.h"
 #include "store/readers.h"
 
 #include <span>

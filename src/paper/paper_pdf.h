@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/progress.h"
-#include "screen/paper.h"
+#include "paper/paper.h"
 
 class QPagedPaintDevice;
 

@@ -1,4 +1,4 @@
-#include "screen/report.h"
+#include "paper/report.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screen/paper.h"
-#include "screen/report_records.h"
+#include "paper/paper.h"
+#include "paper/report_records.h"
 
 namespace kurbo {
 

@@ -1,10 +1,10 @@
-#include "screen/paper_pdf.h"
+#include "paper/paper_pdf.h"
 
 #include "base/failure.h"
 #include "base/files.h"
 #include "base/product.h"
-#include "screen/paper_painter.h"
-#include "screen/pdf_letters.h"
+#include "paper/paper_painter.h"
+#include "paper/pdf_letters.h"
 
 #include <QBuffer>
 #include <QPagedPaintDevice>

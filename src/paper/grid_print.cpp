@@ -1,7 +1,7 @@
-#include "screen/grid_print.h"
+#include "paper/grid_print.h"
 
-#include "screen/frmPreview.h"
-#include "screen/grid_pages.h"
+#include "paper/frmPreview.h"
+#include "paper/grid_pages.h"
 
 namespace kurbo {
 

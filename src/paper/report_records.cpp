@@ -1,4 +1,4 @@
-#include "screen/report_records.h"
+#include "paper/report_records.h"
 
 #include <algorithm>
 

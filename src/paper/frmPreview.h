@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/guard.h"
-#include "screen/paper_pdf.h"
+#include "paper/paper_pdf.h"
 
 #include <QWidget>
 

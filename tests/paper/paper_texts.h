@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/paper.h"
+#include "paper/paper.h"
 #include "support/desk.h"
 
 #include <QStringList>

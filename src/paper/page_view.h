@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/paper.h"
+#include "paper/paper.h"
 
 #include <QPixmap>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "screen/report_design.h"
+#include "paper/report_design.h"
 
 #include "base/product.h"
 

@@ -1,6 +1,6 @@
-#include "screen/grid_pages.h"
+#include "paper/grid_pages.h"
 
-#include "screen/paper_texts.h"
+#include "paper/paper_texts.h"
 
 namespace kurbo::test {
 namespace {

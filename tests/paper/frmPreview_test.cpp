@@ -1,6 +1,6 @@
-#include "screen/frmPreview.h"
+#include "paper/frmPreview.h"
 
-#include "screen/grid_print.h"
+#include "paper/grid_print.h"
 #include "support/desk.h"
 
 #include <QComboBox>

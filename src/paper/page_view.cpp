@@ -1,6 +1,6 @@
-#include "screen/page_view.h"
+#include "paper/page_view.h"
 
-#include "screen/paper_painter.h"
+#include "paper/paper_painter.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
-#include "screen/report_design.h"
+#include "paper/report_design.h"
 
 #include "base/code_page.h"
-#include "screen/paper_texts.h"
+#include "paper/paper_texts.h"
 
 namespace kurbo::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "screen/paper_painter.h"
+#include "paper/paper_painter.h"
 
 #include <QPainter>
 

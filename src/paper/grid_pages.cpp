@@ -1,4 +1,4 @@
-#include "screen/grid_pages.h"
+#include "paper/grid_pages.h"
 
 #include <algorithm>
 

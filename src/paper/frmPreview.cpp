@@ -1,10 +1,10 @@
-#include "screen/frmPreview.h"
+#include "paper/frmPreview.h"
 
 #include "base/files.h"
 #include "base/product.h"
+#include "paper/page_view.h"
+#include "paper/paper_pdf.h"
 #include "screen/hourglass.h"
-#include "screen/page_view.h"
-#include "screen/paper_pdf.h"
 #include "screen/show_now.h"
 #include "ui_frmPreview.h"
 
