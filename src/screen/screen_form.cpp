@@ -6,8 +6,9 @@
 #include "screen/help.h"
 #include "screen/hourglass.h"
 
-#include <QAbstractButton>
+#include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStatusBar>
@@ -23,7 +24,20 @@ ScreenForm::ScreenForm(Client& client, QWidget* parent) : QMainWindow(parent), c
 void ScreenForm::dress(const QString& title) {
     setWindowTitle(productName() + u'－' + title);
     menuBar()->setNativeMenuBar(false);
+    dressKeys();
+    dressMenus();
+    for (Grid* const grid : findChildren<Grid*>()) {
+        connect(grid, &Grid::ChangeEdit, this, [this] { openUpdate(); });
+        connect(grid, &Grid::AfterEdit, this, [this] { showCommands(); });
+    }
+}
+
+void ScreenForm::dressKeys() {
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
+}
+
+void ScreenForm::dressMenus() {
     const auto onAction = [this](const QString& name, const Command& body) {
         if (auto* const action = findChild<QAction*>(name)) connect(action, &QAction::triggered, this, body);
     };
@@ -35,6 +49,11 @@ void ScreenForm::dress(const QString& title) {
     else
         connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, help);
     onAction(QStringLiteral("mnuVersion"), [this] { frmAbout(client_.helpPath(), this).exec(); });
+}
+
+void ScreenForm::openUpdate() {
+    if (auto* const cmdUpdate = findChild<QPushButton*>(QStringLiteral("cmdUpdate"))) cmdUpdate->setEnabled(true);
+    if (auto* const mnuUpdate = findChild<QAction*>(QStringLiteral("mnuUpdate"))) mnuUpdate->setEnabled(true);
 }
 
 void ScreenForm::onCommand(QAbstractButton* button, QAction* action, const Command& command) {
@@ -58,9 +77,11 @@ bool ScreenForm::finishEdits() const {
 }
 
 void ScreenForm::tellTips(Grid& grid) {
-    connect(&grid, &Grid::AfterRowColChange, this, [this, &grid](int, int, int row, int column) {
+    auto* const tip = new QLabel(this);
+    statusBar()->addWidget(tip, 1);
+    connect(&grid, &Grid::AfterRowColChange, tip, [tip, &grid](int, int, int row, int column) {
         const GridRules* const rules = grid.grid()->rules();
-        statusBar()->showMessage(rules && row >= 0 ? rules->tip(row, column) : QString());
+        tip->setText(rules && row >= 0 ? rules->tip(row, column) : QString());
     });
 }
 
