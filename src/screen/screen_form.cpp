@@ -1,7 +1,6 @@
 #include "screen/screen_form.h"
 
 #include "base/product.h"
-#include "screen/frmAbout.h"
 #include "screen/grid.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
@@ -24,17 +23,9 @@ void ScreenForm::dress(const QString& title) {
     setWindowTitle(productName() + u'－' + title);
     menuBar()->setNativeMenuBar(false);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    const auto onAction = [this](const QString& name, const Command& body) {
-        if (auto* const action = findChild<QAction*>(name)) connect(action, &QAction::triggered, this, body);
-    };
-    onAction(QStringLiteral("mnuClose"), [this] { close(); });
-    const auto help = [this] { openHelp(client_.context.prompts, client_.helpPath()); };
-    onAction(QStringLiteral("mnuTopic"), help);
-    if (auto* const mnuTopic = findChild<QAction*>(QStringLiteral("mnuTopic")))
-        mnuTopic->setShortcut(Qt::Key_F1);
-    else
-        connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, help);
-    onAction(QStringLiteral("mnuVersion"), [this] { frmAbout(client_.helpPath(), this).exec(); });
+    if (auto* const mnuClose = findChild<QAction*>(QStringLiteral("mnuClose")))
+        connect(mnuClose, &QAction::triggered, this, &QWidget::close);
+    wireHelp(*this, client_);
 }
 
 void ScreenForm::onCommand(QAbstractButton* button, QAction* action, const Command& command) {
