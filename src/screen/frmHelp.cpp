@@ -55,7 +55,9 @@ void frmHelp::connectCommands() {
 void frmHelp::showTopic(const QStringList& places) {
     QFile file(path_);
     const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    const auto known = [&text](const QString& place) { return text.contains(QStringLiteral("name=\"%1\"").arg(place)); };
+    const auto known = [&text](const QString& place) {
+        return text.contains(QStringLiteral("name=\"%1\"").arg(place));
+    };
     const auto found = std::ranges::find_if(places, known);
     goTo(found == places.end() ? QString() : *found);
 }

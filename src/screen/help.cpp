@@ -14,7 +14,8 @@ namespace {
 QStringList placesOf(const QWidget& window) {
     const QString form = window.objectName();
     QStringList places;
-    for (const QWidget* control = window.focusWidget(); control && control != &window; control = control->parentWidget())
+    for (const QWidget* control = window.focusWidget(); control && control != &window;
+         control = control->parentWidget())
         for (const QString& name : {control->objectName(), control->objectName().section(u'_', 0, 0)})
             places.append(form + u'.' + name);
     return places << form;
