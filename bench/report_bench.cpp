@@ -4,8 +4,8 @@
 
 #include "bench_company.h"
 
-#include "screen/paper_painter.h"
-#include "screen/paper_pdf.h"
+#include "paper/paper_painter.h"
+#include "paper/paper_pdf.h"
 #include "totals/rptTotal.h"
 #include "totals/total_grid.h"
 

@@ -102,6 +102,11 @@ void replaceFile(const QString& path, const QByteArray& bytes) {
     }
 }
 
+void syncFile(const QString& path) {
+    const Descriptor file{::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)};
+    if (file.get() < 0 || ::fsync(file.get()) != 0) throw fileFault(errno, path);
+}
+
 void renameOver(const QString& from, const QString& to) {
     if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         throw fileFault(errno, to);

@@ -31,6 +31,9 @@ namespace kurbo {
 // Fault and leaves the old file.
 void replaceFile(const QString& path, const QByteArray& bytes);
 
+// Returns when the file's bytes are on the disk to stay. Throws a Fault.
+void syncFile(const QString& path);
+
 // Puts `from` in the place of `to` and makes the change last through a power cut. Throws a Fault.
 void renameOver(const QString& from, const QString& to);
 

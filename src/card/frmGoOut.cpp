@@ -3,7 +3,7 @@
 #include "base/product.h"
 #include "card/card_checks.h"
 #include "card/rptGoOut.h"
-#include "screen/frmPreview.h"
+#include "paper/frmPreview.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/show_now.h"

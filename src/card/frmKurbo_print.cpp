@@ -4,7 +4,7 @@
 #include "card/frmKurbo.h"
 #include "card/rptGoOut.h"
 #include "card/rptKurbo.h"
-#include "screen/frmPreview.h"
+#include "paper/frmPreview.h"
 #include "ui_frmKurbo.h"
 
 namespace kurbo {

@@ -2,7 +2,7 @@
 
 #include "base/guard.h"
 #include "engine/hours.h"
-#include "screen/report_design.h"
+#include "paper/report_design.h"
 
 namespace kurbo {
 

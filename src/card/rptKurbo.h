@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/day.h"
-#include "screen/report_design.h"
+#include "paper/report_design.h"
 
 namespace kurbo {
 

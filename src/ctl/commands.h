@@ -13,6 +13,7 @@ namespace kurbo {
 [[nodiscard]] Exit runTotals(const QStringList& arguments);
 [[nodiscard]] Exit runExport(const QStringList& arguments);
 [[nodiscard]] Exit runImport(const QStringList& arguments);
+[[nodiscard]] Exit runMove(const QStringList& arguments);
 [[nodiscard]] Exit runReport(const QStringList& arguments);
 [[nodiscard]] Exit runSql(const QStringList& arguments);
 [[nodiscard]] Exit runPunch(const QStringList& arguments);

@@ -31,6 +31,8 @@ constexpr std::array commands{
             u"[--format ...]"},
     Command{u"export", runExport, u"export FILE --section CODE [--staff CODE] --from yyyy/mm --to yyyy/mm --out X.csv"},
     Command{u"import", runImport, u"import FILE X.csv... [--overwrite]"},
+    Command{u"move", runMove,
+            u"move FILE --dest DEST.mdb --from yyyy/mm/dd --to yyyy/mm/dd [--month-from yyyy/mm --month-to yyyy/mm]"},
     Command{u"report", runReport,
             u"report FILE card|totals|goout (options as card and totals have them; goout as card) --out X.pdf"},
     Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},

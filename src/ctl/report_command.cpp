@@ -5,7 +5,7 @@
 #include "ctl/commands.h"
 #include "ctl/questions.h"
 #include "engine/loaders.h"
-#include "screen/paper_pdf.h"
+#include "paper/paper_pdf.h"
 #include "store/database_file.h"
 #include "totals/rptTotal.h"
 #include "totals/total_grid.h"

@@ -4,7 +4,7 @@
 
 namespace kurbo {
 
-// The screens that a later version brings; their commands lead here. `screen` is the form's name.
+// Tells of what a later version brings; its commands lead here.
 void showComingScreen(const Context& context, const QString& screen);
 
 } // namespace kurbo

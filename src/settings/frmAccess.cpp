@@ -2,8 +2,8 @@
 
 #include "base/product.h"
 #include "engine/loaders.h"
+#include "paper/grid_print.h"
 #include "screen/fields.h"
-#include "screen/grid_print.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
 #include "ui_frmAccess.h"

@@ -1,8 +1,8 @@
 #include "settings/frmCalendar.h"
 
 #include "base/product.h"
+#include "paper/grid_print.h"
 #include "screen/fields.h"
-#include "screen/grid_print.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
 #include "settings/calendar_store.h"

@@ -2,10 +2,10 @@
 
 #include "base/product.h"
 #include "engine/loaders.h"
+#include "paper/grid_print.h"
 #include "screen/data_list.h"
 #include "screen/fields.h"
 #include "screen/grid.h"
-#include "screen/grid_print.h"
 #include "screen/open_forms.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"

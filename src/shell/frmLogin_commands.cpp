@@ -64,7 +64,9 @@ void frmLogin::openSetting(Setting setting, const QString& screen) {
 void frmLogin::openMove() {
     const QString screen = QStringLiteral("frmMaintainance");
     if (!ReConnect() || activateForm(screen)) return;
-    if (moveAllowed(client_.context, client_.HomeConnection)) openScreen(screen);
+    if (!moveAllowed(client_.context, client_.HomeConnection)) return;
+    // An open card knows its rows by numbers that will belong to others.
+    if (closeScreens()) openScreen(screen);
 }
 
 void frmLogin::openScreen(const QString& screen) {

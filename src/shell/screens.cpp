@@ -1,6 +1,8 @@
 #include "shell/screens.h"
 
 #include "card/frmKurbo.h"
+#include "maintenance/frmDeleteDest.h"
+#include "maintenance/frmMaintainance.h"
 #include "settings/frmAccess.h"
 #include "settings/frmAsign.h"
 #include "settings/frmCalendar.h"
@@ -50,6 +52,8 @@ constexpr std::array screens{
     Screen{u"frmAsign", &made<frmAsign>},
     Screen{u"frmCalendar", &made<frmCalendar>},
     Screen{u"frmPassword", &madeModal<frmPassword>},
+    Screen{u"frmMaintainance", &madeModal<frmMaintainance>},
+    Screen{u"frmDeleteDest", &made<frmDeleteDest>},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "store/connection.h"
+#include "store/database_copy.h"
 #include "store/engine_fault.h"
 #include "store/schema.h"
 
@@ -65,15 +66,6 @@ void claimName(const QString& path) {
     if (file.get() < 0) throw fileFault(errno, path);
 }
 
-void backUp(sqlite3* from, const QString& target) {
-    const Engine copy = openEngine(target, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    sqlite3_backup* backup = sqlite3_backup_init(copy.get(), "main", from, "main");
-    if (!backup) throw engineFault(copy.get(), sqlite3_errcode(copy.get()), target);
-    const int result = sqlite3_backup_step(backup, -1);
-    sqlite3_backup_finish(backup);
-    if (result != SQLITE_DONE) throw engineFault(copy.get(), result, target);
-}
-
 QStringList answers(sqlite3* database, const char* sql) {
     sqlite3_stmt* statement = nullptr;
     int result = sqlite3_prepare_v2(database, sql, -1, &statement, nullptr);
@@ -108,9 +100,9 @@ void copyDatabase(const QString& path, const QString& target) {
     try {
         Connection source;
         source.open(path, databasePassword());
-        backUp(source.handle(), fresh);
+        writeCopy(source, fresh);
         (void)shareLike(path, fresh);
-        renameOver(fresh, target);
+        putInPlace(fresh, target, databasePassword());
     } catch (...) {
         QFile::remove(fresh);
         throw;

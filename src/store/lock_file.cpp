@@ -127,6 +127,11 @@ bool LockFile::claim(const QString& databasePath) {
     return true;
 }
 
+bool LockFile::isHeld(const QString& databasePath) {
+    const Descriptor file{::open(QFile::encodeName(nameFor(realPath(databasePath))).constData(), O_RDWR | O_CLOEXEC)};
+    return file.get() >= 0 && !tryLock(file.get(), presenceByte, LockKind::Exclusive);
+}
+
 void LockFile::removeStale(const QString& databasePath) {
     const QByteArray name = QFile::encodeName(nameFor(realPath(databasePath)));
     const Descriptor file{::open(name.constData(), O_RDWR | O_CLOEXEC)};

@@ -40,6 +40,9 @@ class LockFile final {
     // Takes the database for this client alone: false when a lock file is there or somebody connects at this moment.
     [[nodiscard]] bool claim(const QString& databasePath);
 
+    // Whether a client is connected at this moment; a lock file that a crash has left doesn't count.
+    [[nodiscard]] static bool isHeld(const QString& databasePath);
+
     // Deletes a lock file that nobody holds; does nothing in any other case.
     static void removeStale(const QString& databasePath);
 

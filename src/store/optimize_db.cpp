@@ -1,19 +1,15 @@
 #include "store/optimize_db.h"
 
 #include "base/files.h"
-#include "store/connection.h"
+#include "store/database_copy.h"
 #include "store/engine_fault.h"
-
-#include <sqlite3.h>
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <array>
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace kurbo {
 namespace {
@@ -33,38 +29,16 @@ QString wordOf(const Fault& fault) {
     return {};
 }
 
-// Keeps out programs that know nothing of the lock file. The mode holds the engine's own lock until closing.
-void lockEngine(Connection& source) {
-    source.setTimeout(std::chrono::milliseconds{0});
-    try {
-        source.engine("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT");
-    } catch (const Fault& fault) {
-        if (fault.number() == static_cast<std::int64_t>(StoreError::Busy)) throw storeFault(StoreError::Opened);
-        throw;
-    }
-}
-
-void sync(const QString& path) {
-    const Descriptor file{::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)};
-    if (file.get() < 0 || ::fsync(file.get()) != 0) throw fileFault(errno, path);
-}
-
-void check(const QString& path, const QString& password) {
-    Connection copy;
-    copy.openAlone(path, password);
-    const auto verdict = copy.firstValue(QStringLiteral("SELECT quick_check FROM pragma_quick_check"));
-    if (!verdict || verdict->text() != u"ok") throw storeFault(StoreError::Damaged, path);
-}
-
-void compact(const QString& path, const QString& copy, const QString& password) {
+void compact(const QString& path, const QString& copy, const QString& password, const WorkNotice& notice) {
     Connection source;
     source.openAlone(path, password);
-    lockEngine(source);
+    shutOthersOut(source);
+    const Noticed noticed(source, notice);
     source.engine("VACUUM INTO '" + QFile::encodeName(copy).replace('\'', "''") + '\'');
-    check(copy, password);
+    requireWhole(copy, password);
     // A copy that others may not open would shut them out: then the file stays as it is.
     if (!shareLike(path, copy)) throw storeFault(StoreError::Opened);
-    sync(copy);
+    syncFile(copy);
     renameOver(copy, path);
 }
 
@@ -75,21 +49,21 @@ void checkPlace(const QString& path) {
     if (file.st_nlink > 1) throw storeFault(StoreError::Opened);
 }
 
-QString optimized(const QString& given, const QString& password) {
+QString optimized(const QString& given, const QString& password, LockFile& lock, const WorkNotice& notice) {
     if (!given.contains(QStringLiteral(".mdb"), Qt::CaseInsensitive))
         throw Fault(static_cast<std::int64_t>(StoreError::NotMdb), QStringLiteral("Kurbo.Store"),
                     QStringLiteral("mdbファイル以外のファイルは最適化できません。"));
     const QString path = realPath(given);
     if (QFileInfo::exists(LockFile::nameFor(path))) return QStringLiteral("ExistLdb");
     checkPlace(path);
-    LockFile lock;
     if (!lock.claim(path)) return QStringLiteral("ExistLdb");
     const QString copy = LockFile::copyNameFor(path);
     QFile::remove(copy);
     try {
-        compact(path, copy, password);
+        compact(path, copy, password, notice);
     } catch (...) {
         QFile::remove(copy);
+        lock.leave();
         throw;
     }
     return QStringLiteral("OK");
@@ -98,9 +72,15 @@ QString optimized(const QString& given, const QString& password) {
 } // namespace
 
 QString OptimizeDB(const Context& context, const QString& path, const QString& password) {
+    LockFile lock;
+    return OptimizeDB(context, path, password, lock, {});
+}
+
+QString OptimizeDB(const Context& context, const QString& path, const QString& password, LockFile& lock,
+                   const WorkNotice& notice) {
     return guarded(context, u"basDAO", u"OptimizeDB", QStringLiteral("Error"), [&] {
         try {
-            return optimized(path, password);
+            return optimized(path, password, lock, notice);
         } catch (const Fault& fault) {
             const QString word = wordOf(fault);
             if (word.isEmpty()) throw;

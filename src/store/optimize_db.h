@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/guard.h"
+#include "store/exclusive.h"
 
 #include <QString>
 
@@ -14,5 +15,10 @@ namespace kurbo {
 // connected, or has left its lock file), or "Error" after the standard box and log line. On all but "OK" the database
 // is as it was.
 [[nodiscard]] QString OptimizeDB(const Context& context, const QString& path, const QString& password);
+
+// The same for a caller who goes on with the database: after "OK" it is his alone until he leaves `lock`, which is
+// given free. `notice` runs now and then meanwhile.
+[[nodiscard]] QString OptimizeDB(const Context& context, const QString& path, const QString& password, LockFile& lock,
+                                 const WorkNotice& notice);
 
 } // namespace kurbo

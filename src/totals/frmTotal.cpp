@@ -1,7 +1,7 @@
 #include "totals/frmTotal.h"
 
+#include "paper/frmPreview.h"
 #include "screen/fields.h"
-#include "screen/frmPreview.h"
 #include "screen/leave_check.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"

@@ -2,10 +2,10 @@
 
 #include "card/card_cells.h"
 #include "card/card_grid.h"
+#include "paper/frmPreview.h"
 #include "screen/data_combo.h"
 #include "screen/data_list.h"
 #include "screen/frmAbout.h"
-#include "screen/frmPreview.h"
 #include "screen/grid.h"
 #include "screen/masked_box.h"
 #include "shell/frmParm.h"

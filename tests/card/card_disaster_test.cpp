@@ -2,9 +2,8 @@
 #include "card/monthly.h"
 #include "card/sheet.h"
 #include "store/database_file.h"
-#include "support/child.h"
+#include "support/disaster.h"
 #include "support/sample_company.h"
-#include "support/told_prompts.h"
 
 namespace kurbo::test {
 namespace {
@@ -42,15 +41,6 @@ class CardDisaster : public SampleCompany {
         EXPECT_EQ(file.write(before), before.size());
     }
     using Write = std::function<bool(const Context&, Connection&)>;
-    // 0 written, 1 refused for want of room, 2 refused for something else.
-    int write(const Write& body, DiskFailure failure, int call) {
-        failAtCall(failure, call);
-        Connection own;
-        own.open(path, databasePassword());
-        ToldPrompts prompts;
-        if (body({prompts, desk.clock, desk.paths, desk.progress}, own)) return 0;
-        return prompts.messages.last().text.contains(u"ディスクの空き容量が不足しているため"_q) ? 1 : 2;
-    }
     int countedAfterwards(const QStringList& counts) {
         EXPECT_TRUE(checkDatabase(path).isEmpty());
         connection.open(path, databasePassword());
@@ -59,26 +49,19 @@ class CardDisaster : public SampleCompany {
         connection.close();
         return sum;
     }
-    // Fails at every call of the disk in turn; what is counted is 0 before the writing and `all` after it.
-    void failEverywhere(const Write& body, const QStringList& counts, int all, int fewestCalls) {
-        for (const auto failure : {DiskFailure::Killed, DiskFailure::KilledHalfway, DiskFailure::Full}) {
-            int end = -1;
-            int call = 0;
-            bool committed = false;
-            while (end != 0) {
-                restore();
-                ++call;
-                end = endOf(startChild([&] { return write(body, failure, call); }));
-                const int changed = countedAfterwards(counts);
-                ASSERT_TRUE(changed == 0 || changed == all) << "call " << call;
-                ASSERT_TRUE(changed > 0 || !committed) << "call " << call;
-                committed = changed > 0;
-                ASSERT_TRUE(end == 0 ? committed : end == (failure == DiskFailure::Full ? 1 : -1)) << "call " << call;
-                ASSERT_TRUE(!committed || end == 0 || failure != DiskFailure::Full) << "call " << call;
-            }
-            RecordProperty("calls", call);
-            EXPECT_GT(call, fewestCalls) << "it writes to many places";
-        }
+    // What is counted is 0 before the writing and `all` after it.
+    void failAll(const Write& body, const QStringList& counts, int all, int fewestCalls) {
+        const auto write = [&](const Context& context) {
+            Connection own;
+            own.open(path, databasePassword());
+            return body(context, own);
+        };
+        const auto isWritten = [&] {
+            const int changed = countedAfterwards(counts);
+            EXPECT_TRUE(changed == 0 || changed == all);
+            return changed > 0;
+        };
+        failEverywhere(desk, {[this] { restore(); }, write, isWritten}, fewestCalls);
     }
 
     CardSheet sheet;
@@ -88,18 +71,16 @@ class CardDisaster : public SampleCompany {
 } // namespace
 
 TEST_F(CardDisaster, AtEachCallAllDaysOrNone) {
-    failEverywhere(
-        [this](const Context& context, Connection& own) { return UpdateDayly(context, own, sheet, u"1001"_q); },
-        {u"SELECT Count(*) FROM T02_Kurbo WHERE F_Plan = '変更'"_q}, changedDays, changedDays);
+    failAll([this](const Context& context, Connection& own) { return UpdateDayly(context, own, sheet, u"1001"_q); },
+            {u"SELECT Count(*) FROM T02_Kurbo WHERE F_Plan = '変更'"_q}, changedDays, changedDays);
 }
 
 TEST_F(CardDisaster, AtEachCallTheMonthAndTheBalanceOrNeither) {
     sheet.grid.TextMatrix(finalSumRow, static_cast<int>(CardColumn::Leave), u"12.5"_q);
     const MonthOwner owner{u"1001"_q, u"S01"_q, {*makeDay(2026, 5, 1), *makeDay(2026, 5, 31)}};
-    failEverywhere(
-        [&](const Context& context, Connection& own) { return UpdateMonthly(context, own, sheet, {}, owner); },
-        {u"SELECT Count(*) FROM T05_Approved"_q, u"SELECT Count(*) FROM M02_StaffInfo WHERE F_PaidTotal = 12.5"_q}, 2,
-        3);
+    failAll([&](const Context& context, Connection& own) { return UpdateMonthly(context, own, sheet, {}, owner); },
+            {u"SELECT Count(*) FROM T05_Approved"_q, u"SELECT Count(*) FROM M02_StaffInfo WHERE F_PaidTotal = 12.5"_q},
+            2, 3);
 }
 
 TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {

@@ -3,8 +3,8 @@
 #include "card/card_grid.h"
 #include "card/card_office.h"
 #include "card/frmKurbo.h"
+#include "paper/frmPreview.h"
 #include "screen/data_combo.h"
-#include "screen/frmPreview.h"
 #include "screen/grid.h"
 #include "screen/masked_box.h"
 

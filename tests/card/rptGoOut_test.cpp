@@ -1,6 +1,6 @@
 #include "card/rptGoOut.h"
 
-#include "screen/paper_texts.h"
+#include "paper/paper_texts.h"
 #include "support/sample_company.h"
 
 namespace kurbo::test {

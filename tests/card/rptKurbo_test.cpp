@@ -1,7 +1,7 @@
 #include "card/rptKurbo.h"
 
 #include "card/sheet.h"
-#include "screen/paper_texts.h"
+#include "paper/paper_texts.h"
 
 namespace kurbo::test {
 namespace {

@@ -211,6 +211,28 @@ TEST_F(Kurboctl, PunchTellsHowItWent) {
     EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"ADMIN"_q, u"--password"_q, u"ADMIN"_q, u"enter"_q}).exit, 1);
 }
 
+TEST_F(Kurboctl, MovesOldDays) {
+    const auto move = [this](const QStringList& more) {
+        return kurboctl(QStringList{u"move"_q, path, u"--dest"_q, desk.file(u"old.mdb"_q), u"--from"_q, u"2026/01/01"_q,
+                                    u"--to"_q, u"2026/02/28"_q, u"--today"_q, u"2026/04/15"_q} +
+                        more);
+    };
+    EXPECT_EQ(move({u"--month-from"_q, u"2026/01"_q}).exit, 2);
+    const Outcome early = move({u"--today"_q, u"2026/02/27"_q});
+    EXPECT_EQ(early.exit, 1);
+    EXPECT_EQ(early.err, u"明日以降のデータ、すなわち未到来のデータを移動する事はできません。\n"_q);
+    replaceFile(desk.file(u"store.ldb"_q), {});
+    EXPECT_EQ(move({}).err, u"ExistLdb\n"_q);
+    QFile::remove(desk.file(u"store.ldb"_q));
+    EXPECT_EQ(move({u"--month-from"_q, u"2026/01"_q, u"--month-to"_q, u"2026/02"_q}).out,
+              u"データ移動が完了しました。\n"_q);
+    EXPECT_EQ(sql(u"SELECT Min(F_DateID) AS D FROM T01_Calendar"_q), u"D\n20260301\n"_q);
+    EXPECT_EQ(kurboctl({u"move"_q, desk.file(u"none.mdb"_q), u"--dest"_q, desk.file(u"old.mdb"_q), u"--from"_q,
+                        u"2026/01/01"_q, u"--to"_q, u"2026/02/28"_q})
+                  .exit,
+              1);
+}
+
 TEST_F(Kurboctl, AFullDiskLosesNothingAndSaysSo) {
     const auto full = [size = QFileInfo(path).size()] {
         ::signal(SIGXFSZ, SIG_IGN);

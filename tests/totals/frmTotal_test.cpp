@@ -1,8 +1,8 @@
 #include "totals/frmTotal.h"
 
 #include "card/card_office.h"
+#include "paper/frmPreview.h"
 #include "screen/data_combo.h"
-#include "screen/frmPreview.h"
 #include "screen/grid.h"
 #include "screen/masked_box.h"
 #include "totals/csv_file.h"

@@ -1,6 +1,6 @@
 #include "totals/rptTotal.h"
 
-#include "screen/paper_texts.h"
+#include "paper/paper_texts.h"
 #include "totals/total_grid.h"
 
 namespace kurbo::test {

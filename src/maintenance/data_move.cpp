@@ -1,0 +1,162 @@
+#include "maintenance/data_move.h"
+
+#include "base/files.h"
+#include "maintenance/days_moved.h"
+#include "maintenance/move_bar.h"
+#include "store/database_copy.h"
+#include "store/database_file.h"
+#include "store/optimize_db.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace kurbo {
+namespace {
+
+// A connection that is closed for a time.
+class ClosedMeanwhile final {
+  public:
+    explicit ClosedMeanwhile(Connection& connection)
+        : connection_(connection), path_(connection.isOpen() ? connection.path() : QString()) {
+        connection_.close();
+    }
+    // Where it can't be opened again, the next command tries, and says why not.
+    ~ClosedMeanwhile() {
+        if (path_.isEmpty()) return;
+        try {
+            connection_.open(path_, databasePassword());
+        } catch (const Fault&) {
+            connection_.close();
+        }
+    }
+    ClosedMeanwhile(const ClosedMeanwhile&) = delete;
+    ClosedMeanwhile& operator=(const ClosedMeanwhile&) = delete;
+
+  private:
+    Connection& connection_;
+    const QString path_;
+};
+
+[[nodiscard]] Complaint inUse() {
+    return Complaint(lines(QStringLiteral("他のユーザーがデータベースに接続しています。"),
+                           QStringLiteral("ユーザーが接続していない時に再度実行して下さい。")));
+}
+
+[[nodiscard]] Complaint unreachable(const QString& database, const char16_t* problem, const char16_t* advice) {
+    return Complaint(lines(QStringLiteral("データベースファイル ") + database + QString::fromUtf16(problem),
+                           QString::fromUtf16(advice)));
+}
+
+// Throws where the compaction's word has a message.
+void explain(const QString& word, const QString& database) {
+    // The lock file of a client that is there tells of a user; one that a crash has left tells of nobody.
+    if (word == u"Opened" || (word == u"ExistLdb" && LockFile::isHeld(database))) throw inUse();
+    if (word == u"NoFile" || word == u"NoPath")
+        throw unreachable(database, u" が見つかりません。", u"データベースファイルの保存場所を確認して下さい。");
+    if (word == u"NoDrive")
+        throw unreachable(database, u" が置かれたドライブの準備ができていません。",
+                          u"データベースファイルが置かれたドライブの状態を確認して下さい。");
+}
+
+// The destination while it is made: a file of its own beside its place, gone again unless it is finished.
+class Destination final {
+  public:
+    explicit Destination(const QString& path) : path_(realPath(path)), fresh_(path_ + QStringLiteral(".new")) {
+        LockFile::removeStale(path_);
+        if (!lock_.claim(path_))
+            throw Complaint(lines(QStringLiteral("移動先DBに他のユーザーが接続しています。"),
+                                  QStringLiteral("ユーザーが接続していない時に再度実行して下さい。")));
+        discard();
+    }
+    ~Destination() { discard(); }
+    Destination(const Destination&) = delete;
+    Destination& operator=(const Destination&) = delete;
+
+    void fill(Connection& source, const WorkNotice& notice) { writeCopy(source, fresh_, notice); }
+    // Deletes what stays in the database, and looks the file over.
+    void trim(const MoveOrder& order, const WorkNotice& notice) {
+        Connection copy;
+        copy.openAlone(fresh_, databasePassword());
+        // Nobody needs a file that isn't finished.
+        copy.engine("PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;");
+        const Noticed noticed(copy, notice);
+        BulkChange change(copy, movedTables());
+        DeleteCalendarRange(change, *order.startDay, *order.endDay, true);
+        DeleteApprovedRange(change, order.withMonths ? *order.startMonth : *order.startDay,
+                            order.withMonths ? *order.endMonth : *order.endDay, true);
+        change.commit();
+        // The compaction has looked at the values a moment ago; the pages are new.
+        copy.engine("PRAGMA ignore_check_constraints=ON");
+        requireWhole(copy);
+    }
+    // `model` gives it its group and permissions.
+    void finish(const QString& model) {
+        (void)shareLike(model, fresh_);
+        syncFile(fresh_);
+        putInPlace(fresh_, path_, databasePassword());
+    }
+
+  private:
+    void discard() {
+        QFile::remove(fresh_);
+        QFile::remove(fresh_ + QStringLiteral("-journal"));
+    }
+
+    const QString path_;
+    const QString fresh_;
+    LockFile lock_;
+};
+
+void removeMoved(Connection& database, const MoveOrder& order, const WorkNotice& notice) {
+    const Noticed noticed(database, notice);
+    BulkChange change(database, movedTables());
+    DeleteCalendarRange(change, *order.startDay, *order.endDay, false);
+    if (order.withMonths) DeleteApprovedRange(change, *order.startMonth, *order.endMonth, false);
+    RenumberKurbo(change);
+    change.commit();
+}
+
+bool confirmed(Prompts& prompts) {
+    const QString question = lines(QStringLiteral("データの移動を行います。移動したデータは元に戻せません。"),
+                                   QString(), QStringLiteral("よろしいですか？"));
+    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) == Answer::Ok;
+}
+
+} // namespace
+
+QString carryOut(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
+    MoveBar bar(context.progress, QFileInfo(database).size());
+    const auto notice = [&bar] { bar.creep(); };
+    bar.reach(10, 40);
+    Destination destination(order.destination.trimmed());
+    const ClosedMeanwhile closed(shared);
+    LockFile lock;
+    const QString word = OptimizeDB(context, database, databasePassword(), lock, notice);
+    if (word != u"OK") {
+        explain(word, database);
+        return word;
+    }
+    Connection source;
+    source.openAlone(database, databasePassword());
+    shutOthersOut(source);
+    bar.reach(40, 60);
+    destination.fill(source, notice);
+    bar.reach(60, 80);
+    destination.trim(order, notice);
+    destination.finish(database);
+    bar.reach(80, 100);
+    removeMoved(source, order, notice);
+    bar.reach(100, 100);
+    return word;
+}
+
+bool moveData(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
+    return guarded(context, u"frmMaintainance", u"cmdExec_Click", false, [&] {
+        checkMove(context, database, order);
+        if (!confirmed(context.prompts) || carryOut(context, shared, database, order) != u"OK") return false;
+        context.prompts.inform(QStringLiteral("データ移動が完了しました。"));
+        return true;
+    });
+}
+
+} // namespace kurbo

@@ -1,0 +1,240 @@
+#include "paper/frmPreview.h"
+
+#include "base/files.h"
+#include "base/product.h"
+#include "paper/page_view.h"
+#include "paper/paper_pdf.h"
+#include "screen/help.h"
+#include "screen/hourglass.h"
+#include "screen/show_now.h"
+#include "ui_frmPreview.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QShortcut>
+
+#include <algorithm>
+#include <array>
+
+namespace kurbo {
+namespace {
+
+constexpr int wholePage = 0;
+constexpr int wholeWidth = -1;
+// Percent, in the order of the list.
+constexpr std::array zooms{wholePage, wholeWidth, 50, 75, 100, 125, 150, 200, 300};
+// The screen's inch: what 100 percent means.
+constexpr int screenDots = 96;
+
+QString zoomName(int zoom) {
+    if (zoom == wholePage) return QStringLiteral("ページ全体");
+    if (zoom == wholeWidth) return QStringLiteral("ページ幅");
+    return QString::number(zoom) + u'%';
+}
+
+// Slashes part folders.
+QString fileName(QString name) {
+    for (const QChar sign : QStringLiteral("/\\:*?\"<>|")) name.replace(sign, u'-');
+    return name;
+}
+
+QPageLayout layoutOf(PaperSize paper) {
+    const bool lying = paper.width > paper.height;
+    return {QPageSize(QPageSize::A4), lying ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
+
+} // namespace
+
+frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      ui_(std::make_unique<Ui::frmPreview>()),
+      document_(std::move(document)),
+      context_(context),
+      view_(new PageView(*document_)) {
+    ui_->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(document_->Caption());
+    ui_->scrPage->setWidget(view_);
+    ui_->scrPage->viewport()->installEventFilter(this);
+    ui_->scrPage->installEventFilter(this);
+    ui_->txtPage->setMaximum(document_->pageCount());
+    ui_->lblPages->setText(QStringLiteral("/ %1").arg(document_->pageCount()));
+    fillZooms();
+    connectCommands();
+    showPage(0);
+    ui_->scrPage->setFocus();
+    fillScreen(this, {1360, 990});
+}
+
+frmPreview::~frmPreview() = default;
+
+void frmPreview::fillZooms() {
+    for (const int zoom : zooms) ui_->cboZoom->addItem(zoomName(zoom), zoom);
+}
+
+void frmPreview::connectCommands() {
+    connect(ui_->cmdPrint, &QPushButton::clicked, this, &frmPreview::print);
+    connect(ui_->cmdPdf, &QPushButton::clicked, this, &frmPreview::savePdf);
+    connect(ui_->cmdClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(ui_->cmdFirst, &QPushButton::clicked, this, [this] { showPage(0); });
+    connect(ui_->cmdBack, &QPushButton::clicked, this, [this] { showPage(page_ - 1); });
+    connect(ui_->cmdNext, &QPushButton::clicked, this, [this] { showPage(page_ + 1); });
+    connect(ui_->cmdLast, &QPushButton::clicked, this, [this] { showPage(document_->pageCount() - 1); });
+    connect(ui_->txtPage, &QSpinBox::valueChanged, this, [this](int page) { showPage(page - 1); });
+    connect(ui_->cboZoom, &QComboBox::currentIndexChanged, this, &frmPreview::applyZoom);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { openHelp(context_.prompts, context_.paths.helpPath, *this); });
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &frmPreview::print);
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, &frmPreview::savePdf);
+}
+
+void frmPreview::showPage(int index) {
+    page_ = std::clamp(index, 0, document_->pageCount() - 1);
+    ui_->txtPage->setValue(page_ + 1);
+    const bool hasBefore = page_ > 0;
+    const bool hasMore = page_ < document_->pageCount() - 1;
+    ui_->cmdFirst->setEnabled(hasBefore);
+    ui_->cmdBack->setEnabled(hasBefore);
+    ui_->cmdNext->setEnabled(hasMore);
+    ui_->cmdLast->setEnabled(hasMore);
+    applyZoom();
+}
+
+void frmPreview::applyZoom() {
+    const int zoom = ui_->cboZoom->currentData().toInt();
+    // With its scroll bars away, so that a page that fits doesn't get any.
+    const QSize room = ui_->scrPage->maximumViewportSize();
+    const int bar = ui_->scrPage->verticalScrollBar()->sizeHint().width();
+    const int dots = zoom == wholePage    ? view_->fitting(room, true)
+                     : zoom == wholeWidth ? view_->fitting(room - QSize(bar, 0), false)
+                                          : zoom * screenDots / 100;
+    view_->show(page_, dots);
+}
+
+// From what fits, to the next size of the list.
+void frmPreview::zoomBy(int steps) {
+    const int now = view_->dotsPerInch() * 100 / screenDots;
+    const auto* const larger = std::ranges::find_if(zooms, [now](int zoom) { return zoom > now; });
+    auto index = static_cast<int>(larger - zooms.begin());
+    if (steps < 0) {
+        --index;
+        if (index > 1 && zooms[static_cast<std::size_t>(index)] == now) --index;
+    }
+    ui_->cboZoom->setCurrentIndex(std::clamp(index, 2, static_cast<int>(zooms.size()) - 1));
+}
+
+// The wheel turns the page where it can't be scrolled any further.
+bool frmPreview::turnedAtEdge(int delta) {
+    QScrollBar& bar = *ui_->scrPage->verticalScrollBar();
+    if (delta > 0 && bar.value() == bar.maximum() && page_ + 1 < document_->pageCount()) {
+        showPage(page_ + 1);
+        bar.setValue(0);
+        return true;
+    }
+    if (delta < 0 && bar.value() == 0 && page_ > 0) {
+        showPage(page_ - 1);
+        bar.setValue(bar.maximum());
+        return true;
+    }
+    return false;
+}
+
+bool frmPreview::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::Wheel) {
+        const auto* const wheel = static_cast<QWheelEvent*>(event);
+        const int delta = -wheel->angleDelta().y();
+        if (!wheel->modifiers().testFlag(Qt::ControlModifier)) return turnedAtEdge(delta);
+        zoomBy(delta < 0 ? 1 : -1);
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress) return false;
+    keyPressEvent(static_cast<QKeyEvent*>(event));
+    return event->isAccepted();
+}
+
+void frmPreview::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        return showPage(page_ + 1);
+    case Qt::Key_PageUp:
+        return showPage(page_ - 1);
+    case Qt::Key_Home:
+        return showPage(0);
+    case Qt::Key_End:
+        return showPage(document_->pageCount() - 1);
+    case Qt::Key_Plus:
+    case Qt::Key_Semicolon:
+        return zoomBy(1);
+    case Qt::Key_Minus:
+        return zoomBy(-1);
+    default:
+        event->ignore();
+    }
+}
+
+void frmPreview::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    applyZoom();
+}
+
+// Not while it is printed.
+void frmPreview::closeEvent(QCloseEvent* event) {
+    event->setAccepted(!busy_);
+}
+
+void frmPreview::print() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(document_->DocumentName());
+    printer.setCreator(productName());
+    printer.setPageLayout(layoutOf(document_->paper()));
+    QPrintDialog dialog(&printer, this);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    dialog.setMinMax(1, document_->pageCount());
+    if (dialog.exec() == QDialog::Accepted) printOn(printer);
+}
+
+PageRange frmPreview::rangeOf(const QPrinter& printer) const {
+    const int last = document_->pageCount() - 1;
+    if (printer.printRange() == QPrinter::CurrentPage) return {page_, page_};
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() < 1) return {0, last};
+    const int first = std::clamp(printer.fromPage() - 1, 0, last);
+    return {first, std::clamp(printer.toPage() - 1, first, last)};
+}
+
+void frmPreview::printOn(QPrinter& printer) {
+    if (busy_) return;
+    const QScopedValueRollback busy(busy_, true);
+    printer.setFullPage(true);
+    guarded(context_, u"frmPreview", u"cmdPrint_Click", [&] {
+        const Hourglass hourglass;
+        if (!paintPages(printer, *document_, rangeOf(printer), context_.progress)) printer.abort();
+    });
+}
+
+void frmPreview::savePdf() {
+    if (busy_) return;
+    const QScopedValueRollback busy(busy_, true);
+    guarded(context_, u"frmPreview", u"cmdPdf_Click", [&] {
+        const auto path = context_.prompts.saveFile(QStringLiteral("PDFﾌｧｲﾙ(*.pdf)|*.pdf"), QStringLiteral("pdf"),
+                                                    fileName(document_->Caption()) + QStringLiteral(".pdf"));
+        if (!path) return;
+        const Hourglass hourglass;
+        (void)writePdf(*document_, *path, context_.progress);
+    });
+}
+
+void showPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent) {
+    for (frmPreview* const old : parent->findChildren<frmPreview*>(Qt::FindDirectChildrenOnly)) old->close();
+    auto* const preview = new frmPreview(std::move(document), context, parent);
+    preview->show();
+    preview->activateWindow();
+}
+
+} // namespace kurbo

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "base/guard.h"
+#include "paper/paper_pdf.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QPrinter;
+
+namespace kurbo {
+
+namespace Ui {
+class frmPreview;
+}
+class PageView;
+
+// A document page by page before it is printed or saved as a PDF. Only the page that is looked at is drawn.
+class frmPreview final : public QWidget {
+    Q_OBJECT
+
+  public:
+    frmPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent);
+    ~frmPreview() override;
+    frmPreview(const frmPreview&) = delete;
+    frmPreview& operator=(const frmPreview&) = delete;
+
+    // Counted from 0; a page before the first or behind the last is that one.
+    [[nodiscard]] int Page() const { return page_; }
+    void showPage(int index);
+
+    // Prints on a printer that the person has set up. Failures are reported.
+    void printOn(QPrinter& printer);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void fillZooms();
+    void connectCommands();
+    void print();
+    [[nodiscard]] PageRange rangeOf(const QPrinter& printer) const;
+    void savePdf();
+    void zoomBy(int steps);
+    void applyZoom();
+    [[nodiscard]] bool turnedAtEdge(int delta);
+
+    const std::unique_ptr<Ui::frmPreview> ui_;
+    const std::unique_ptr<PaperDocument> document_;
+    Context context_;
+    PageView* view_;
+    int page_ = 0;
+    bool busy_ = false;
+};
+
+// Opens the window over its parent, in the place of the one that the parent had open.
+void showPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent);
+
+} // namespace kurbo

@@ -1,0 +1,257 @@
+#include "maintenance/data_move.h"
+
+#include "base/files.h"
+#include "maintenance/old_days.h"
+#include "store/engine_fault.h"
+#include "support/disaster.h"
+
+#include <sqlite3.h>
+
+#include <QDir>
+
+#include <set>
+
+namespace kurbo::test {
+namespace {
+
+// Does something at every step of the bar.
+class AtSteps final : public Progress {
+  public:
+    void begin(const QString& text, int maximum) override { shown = text + QString::number(maximum); }
+    void step(int value) override {
+        if (!steps.empty() && value < steps.last()) ADD_FAILURE() << "the bar goes back";
+        steps.append(value);
+        if (act) act(value);
+    }
+    void end() override { ended = true; }
+
+    std::function<void(int)> act;
+    QList<int> steps;
+    QString shown;
+    bool ended = false;
+};
+
+class DataMove : public OldDays {
+  protected:
+    QString run(const MoveOrder& given) {
+        bar = {};
+        bar.act = act;
+        return carryOut({desk.prompts, desk.clock, desk.paths, bar}, connection, path, given);
+    }
+    // What the refusal of a move says; nothing has changed then, and the connection is open as it was.
+    QString refusal(const MoveOrder& given) {
+        const Contents before = contentsOf(path);
+        const bool open = connection.isOpen();
+        QString said;
+        try {
+            said = run(given);
+        } catch (const Complaint& complaint) {
+            said = complaint.description();
+        } catch (const Fault& fault) {
+            said = fault.description();
+        }
+        EXPECT_EQ(connection.isOpen(), open);
+        EXPECT_TRUE(bar.ended);
+        EXPECT_TRUE(contentsOf(path) == before);
+        return said;
+    }
+    [[nodiscard]] QStringList files() const { return QDir(desk.folder.path()).entryList(QDir::Files, QDir::Name); }
+
+    std::function<void(int)> act;
+    AtSteps bar;
+};
+
+// A program that knows nothing of lock files adds a card for a day of the range; whether it got in.
+bool addedByTool(const QString& path, int id) {
+    sqlite3* tool = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &tool);
+    const QByteArray sql = "INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (" + QByteArray::number(id) +
+                           ", '20260110', '1003')";
+    const bool done = sqlite3_exec(tool, sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    sqlite3_close(tool);
+    return done;
+}
+
+const QString otherUserText = QStringLiteral("他のユーザーがデータベースに接続しています。\r\n"
+                                             "ユーザーが接続していない時に再度実行して下さい。");
+
+} // namespace
+
+TEST_F(DataMove, MovesEachRowOfTheRangeAndRenumbersTheOthers) {
+    connection.close();
+    const QByteArray whole = readFile(path);
+    const Contents before = contentsOf(path);
+    for (const bool withMonths : {false, true}) {
+        replaceFile(path, whole);
+        replaceFile(destination, "replaced without a question");
+        connection.open(path, databasePassword());
+        EXPECT_EQ(run(order(withMonths)), u"OK"_q);
+        EXPECT_EQ(asked(u"SELECT Min(F_KurboID) FROM T02_Kurbo"_q), u"1"_q) << "the connection is open again";
+        connection.close();
+        EXPECT_TRUE(contentsOf(destination) == moved(before, order(withMonths)));
+        EXPECT_TRUE(contentsOf(path) == left(before, order(withMonths)));
+        EXPECT_EQ(files(), QStringList({u"old.mdb"_q, u"store.mdb"_q}));
+    }
+    connection.open(destination, databasePassword());
+    EXPECT_EQ(count(u"M02_StaffInfo"_q), 5) << "the destination is a whole database";
+    EXPECT_EQ(asked(u"SELECT Count(*) FROM sqlite_master WHERE (type = 'index') AND (sql Is Not Null)"_q), u"13"_q);
+}
+
+TEST_F(DataMove, AnEmptiedCardTableIsNotRenumbered) {
+    MoveOrder given = order(false);
+    given.startDay = makeDay(2026, 1, 1);
+    given.endDay = today;
+    EXPECT_EQ(run(given), u"OK"_q);
+    EXPECT_EQ(count(u"T02_Kurbo"_q) + count(u"T03_GoOut"_q), 0);
+    EXPECT_EQ(contentsOf(destination).cards.first()[0], u"51"_q) << "the copy keeps its numbers";
+}
+
+TEST_F(DataMove, TheBarStopsAtItsMarks) {
+    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_EQ(bar.shown, u"処理中です・・・100"_q);
+    for (const int mark : {10, 40, 60, 80, 100}) EXPECT_TRUE(bar.steps.contains(mark)) << mark;
+    EXPECT_TRUE(bar.ended);
+}
+
+TEST_F(DataMove, EveryWordOfTheCompactionHasItsEnd) {
+    EXPECT_EQ(run(order(false)), u"OK"_q);
+    {
+        Connection other;
+        other.open(path, databasePassword());
+        EXPECT_EQ(refusal(order(false)), otherUserText);
+    }
+    sqlite3* tool = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &tool);
+    sqlite3_exec(tool, "BEGIN; SELECT * FROM C01_Corp", nullptr, nullptr, nullptr);
+    EXPECT_EQ(refusal(order(false)), otherUserText);
+    sqlite3_close(tool);
+    connection.close();
+    replaceFile(desk.file(u"store.ldb"_q), {});
+    EXPECT_EQ(run(order(false)), u"ExistLdb"_q) << "left by a crash: without a word";
+    QFile::remove(desk.file(u"store.ldb"_q));
+    ASSERT_TRUE(QFile::rename(path, desk.file(u"away.mdb"_q)));
+    try {
+        (void)run(order(false));
+        ADD_FAILURE() << "no database";
+    } catch (const Complaint& complaint) {
+        EXPECT_EQ(complaint.description(), u"データベースファイル %1 が見つかりません。\r\n"
+                                           "データベースファイルの保存場所を確認して下さい。"_q.arg(path));
+    }
+}
+
+TEST_F(DataMove, ADestinationInUseIsLeftAlone) {
+    EXPECT_EQ(run(order(false)), u"OK"_q);
+    const Contents old = contentsOf(destination);
+    Connection reader;
+    reader.open(destination, databasePassword());
+    EXPECT_TRUE(refusal(order(true)).startsWith(u"移動先DBに他のユーザーが接続しています。"_q));
+    reader.close();
+    EXPECT_TRUE(contentsOf(destination) == old);
+}
+
+// What a crash has left of an older destination must not be played back into the new one.
+TEST_F(DataMove, LeavingsOfAnOldDestinationGo) {
+    const Contents before = contentsOf(path);
+    makeSampleCompany(destination);
+    ASSERT_EQ(endOf(startChild([&] {
+                  failAtCall(DiskFailure::Killed, 4);
+                  Connection old;
+                  old.open(destination, databasePassword());
+                  old.execute(u"UPDATE T01_Calendar SET F_Holiday = '半分'"_q);
+                  return 0;
+              })),
+              Died);
+    ASSERT_TRUE(files().contains(u"old.mdb-journal"_q));
+    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_TRUE(contentsOf(destination) == moved(before, order(false)));
+}
+
+TEST_F(DataMove, NoOtherClientGetsInBetween) {
+    std::set<int> seen;
+    QStringList cards;
+    int inside = 0;
+    act = [&](int step) {
+        if (!seen.insert(step).second) return;
+        Connection other;
+        other.setTimeout(std::chrono::milliseconds(20));
+        const int id = 1000 + step;
+        try {
+            other.open(path, databasePassword());
+            other.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (?, '20260110', '1003')"_q,
+                          {id});
+            cards.append(QString::number(id));
+        } catch (const Fault& fault) {
+            EXPECT_EQ(fault.number(), static_cast<std::int64_t>(StoreError::Busy));
+            ++inside;
+        }
+        other.close();
+        if (addedByTool(path, id + 1000)) cards.append(QString::number(id + 1000));
+    };
+    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_GE(inside, 4) << "at every mark but the first";
+    EXPECT_EQ(cards, QStringList({u"1010"_q, u"2010"_q})) << "before the database was taken";
+    QStringList found;
+    for (const QStringList& card : contentsOf(destination).cards)
+        if (card[2] == u"1003") found.append(card[0]);
+    EXPECT_EQ(found, cards);
+}
+
+TEST_F(DataMove, AClientThatStaysStopsIt) {
+    const auto other = std::make_unique<Connection>();
+    act = [&](int step) {
+        if (step == 10) other->open(path, databasePassword());
+    };
+    EXPECT_EQ(refusal(order(false)), otherUserText);
+    EXPECT_FALSE(QFile::exists(destination));
+}
+
+TEST_F(DataMove, AtEachCallOfTheDiskEveryDayIsInOneOfBothFiles) {
+    connection.close();
+    makeSampleCompany(destination);
+    const QByteArray whole = readFile(path);
+    const QByteArray wholeOld = readFile(destination);
+    const Contents before = contentsOf(path);
+    const Contents old = contentsOf(destination);
+    const MoveOrder given = order(true);
+    const Contents staying = left(before, given);
+    const Contents going = moved(before, given);
+    const auto restore = [&] {
+        for (const QString& name : files())
+            if (!name.endsWith(u".log")) QFile::remove(desk.file(name));
+        replaceFile(path, whole);
+        replaceFile(destination, wholeOld);
+    };
+    const auto write = [&](const Context& context) {
+        return guarded(context, u"frmMaintainance", u"cmdExec_Click", false, [&] {
+            Connection own;
+            return carryOut(context, own, path, given) == u"OK";
+        });
+    };
+    const auto isWritten = [&] {
+        const Contents now = contentsOf(path);
+        const Contents there = contentsOf(destination);
+        const bool written = now == staying;
+        EXPECT_TRUE(written || now == before);
+        EXPECT_TRUE(there == going || (!written && there == old));
+        return written;
+    };
+    failEverywhere(desk, {restore, write, isWritten}, 200);
+    EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"old.mdb"_q, u"store.mdb"_q}));
+}
+
+TEST_F(DataMove, TheWholeCommandAsksAndTells) {
+    desk.prompts.expect(u"データの移動を行います。移動したデータは元に戻せません。\r\n\r\nよろしいですか？"_q,
+                        Answer::Cancel);
+    EXPECT_FALSE(moveData(desk.context, connection, path, order(false)));
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    EXPECT_FALSE(QFile::exists(destination));
+    desk.prompts.expect(u"データの移動を行います。"_q).expect(u"データ移動が完了しました。"_q);
+    EXPECT_TRUE(moveData(desk.context, connection, path, order(false)));
+    EXPECT_EQ(desk.prompts.last().icon, Icon::Information);
+    MoveOrder none = order(false);
+    none.endDay = {};
+    desk.prompts.expect(u"移動するデータの期間に年月日が設定されていません。"_q);
+    EXPECT_FALSE(moveData(desk.context, connection, path, none));
+}
+
+} // namespace kurbo::test
