@@ -1,7 +1,6 @@
 #include "screen/screen_form.h"
 
 #include "base/product.h"
-#include "screen/frmAbout.h"
 #include "screen/grid.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
@@ -25,7 +24,6 @@ void ScreenForm::dress(const QString& title) {
     setWindowTitle(productName() + u'－' + title);
     menuBar()->setNativeMenuBar(false);
     dressKeys();
-    dressMenus();
     for (Grid* const grid : findChildren<Grid*>()) {
         connect(grid, &Grid::ChangeEdit, this, [this] { openUpdate(); });
         connect(grid, &Grid::AfterEdit, this, [this] { showCommands(); });
@@ -35,20 +33,9 @@ void ScreenForm::dress(const QString& title) {
 void ScreenForm::dressKeys() {
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
-}
-
-void ScreenForm::dressMenus() {
-    const auto onAction = [this](const QString& name, const Command& body) {
-        if (auto* const action = findChild<QAction*>(name)) connect(action, &QAction::triggered, this, body);
-    };
-    onAction(QStringLiteral("mnuClose"), [this] { close(); });
-    const auto help = [this] { openHelp(client_.context.prompts, client_.helpPath()); };
-    onAction(QStringLiteral("mnuTopic"), help);
-    if (auto* const mnuTopic = findChild<QAction*>(QStringLiteral("mnuTopic")))
-        mnuTopic->setShortcut(Qt::Key_F1);
-    else
-        connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, help);
-    onAction(QStringLiteral("mnuVersion"), [this] { frmAbout(client_.helpPath(), this).exec(); });
+    if (auto* const mnuClose = findChild<QAction*>(QStringLiteral("mnuClose")))
+        connect(mnuClose, &QAction::triggered, this, &QWidget::close);
+    wireHelp(*this, client_);
 }
 
 void ScreenForm::openUpdate() {

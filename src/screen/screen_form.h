@@ -53,7 +53,6 @@ class ScreenForm : public QMainWindow {
 
   private:
     void dressKeys();
-    void dressMenus();
 };
 
 } // namespace kurbo

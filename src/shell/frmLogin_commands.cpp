@@ -106,7 +106,7 @@ void frmLogin::showVersion() {
 }
 
 void frmLogin::showTopics() {
-    if (ReConnect()) openHelp(client_.context.prompts, client_.helpPath());
+    if (ReConnect()) openHelp(client_.context.prompts, client_.helpPath(), *this);
 }
 
 } // namespace kurbo
