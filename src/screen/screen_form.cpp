@@ -64,9 +64,11 @@ bool ScreenForm::finishEdits() const {
 }
 
 void ScreenForm::tellTips(Grid& grid) {
-    auto* const tip = new QLabel(this);
-    statusBar()->addWidget(tip, 1);
-    connect(&grid, &Grid::AfterRowColChange, tip, [tip, &grid](int, int, int row, int column) {
+    if (!lblTip_) {
+        lblTip_ = new QLabel(this);
+        statusBar()->addWidget(lblTip_, 1);
+    }
+    connect(&grid, &Grid::AfterRowColChange, lblTip_, [tip = lblTip_, &grid](int, int, int row, int column) {
         const GridRules* const rules = grid.grid()->rules();
         tip->setText(rules && row >= 0 ? rules->tip(row, column) : QString());
     });

@@ -8,6 +8,7 @@
 
 class QAbstractButton;
 class QAction;
+class QLabel;
 
 namespace kurbo {
 
@@ -53,6 +54,8 @@ class ScreenForm : public QMainWindow {
 
   private:
     void dressKeys();
+
+    QLabel* lblTip_ = nullptr;
 };
 
 } // namespace kurbo
