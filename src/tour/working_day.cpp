@@ -227,7 +227,8 @@ void WorkingDay::showSetting(const char* menu, const char* name) {
     settle();
     QWidget* const form = screen(name);
     if (!form) return;
-    if (auto* const list = form->findChild<DataList*>()) press(list, Qt::Key_Down);
+    for (DataList* const list : form->findChildren<DataList*>())
+        if (list->isVisible()) press(list, Qt::Key_Down);
     camera_.shoot(*form, form->windowTitle().section(u'－', 1));
     form->close();
     settle();
