@@ -176,6 +176,11 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     EXPECT_EQ(form(), first) << "brought to the front";
     of<QPushButton>(*form(), "cmdPrint").click();
     EXPECT_EQ(previewOf(*form()), u"Kurbo－外出出張明細"_q);
+    of<QPushButton>(*form(), "cmdPrint").click();
+    const QPointer<frmPreview> preview = form()->findChild<frmPreview*>();
+    form()->close();
+    EXPECT_FALSE(preview && preview->isVisible()) << "it goes with its form, not when that is opened anew";
+    of<QAction>(*card, "mnuDetail").trigger();
     desk.prompts.expect(u"開始日付が終了日付以降に設定されています。"_q);
     QTest::keyClick(&of<QWidget>(*form(), "mskStart"), Qt::Key_Up);
     of<MaskedBox>(*form(), "mskEnd").setText(u"2026/04/01"_q);
