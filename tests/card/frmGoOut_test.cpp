@@ -176,11 +176,6 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     EXPECT_EQ(form(), first) << "brought to the front";
     of<QPushButton>(*form(), "cmdPrint").click();
     EXPECT_EQ(previewOf(*form()), u"Kurbo－外出出張明細"_q);
-    of<QPushButton>(*form(), "cmdPrint").click();
-    const QPointer<frmPreview> preview = form()->findChild<frmPreview*>();
-    form()->close();
-    EXPECT_FALSE(preview && preview->isVisible()) << "it goes with its form, not when that is opened anew";
-    of<QAction>(*card, "mnuDetail").trigger();
     desk.prompts.expect(u"開始日付が終了日付以降に設定されています。"_q);
     QTest::keyClick(&of<QWidget>(*form(), "mskStart"), Qt::Key_Up);
     of<MaskedBox>(*form(), "mskEnd").setText(u"2026/04/01"_q);
@@ -203,6 +198,16 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     EXPECT_EQ(previewOf(*card), u"Kurbo－外出出張明細"_q);
     of<QPushButton>(*card, "cmdPrint").click();
     EXPECT_EQ(previewOf(*card), u"Kurbo－タイムカード"_q);
+}
+
+// Not only when the form is opened anew.
+TEST_F(FrmGoOut, ItsPreviewGoesWithIt) {
+    open();
+    of<QPushButton>(*form(), "cmdPrint").click();
+    const QPointer<frmPreview> preview = form()->findChild<frmPreview*>();
+    ASSERT_TRUE(preview && preview->isVisible());
+    EXPECT_TRUE(form()->close());
+    EXPECT_FALSE(preview && preview->isVisible());
 }
 
 } // namespace
