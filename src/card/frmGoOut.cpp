@@ -125,6 +125,7 @@ void frmGoOut::showCommands() {
 
 void frmGoOut::closeEvent(QCloseEvent* event) {
     event->setAccepted(ui_->vfgGoOut->finishEdit() && goOut_.mayClose());
+    if (event->isAccepted()) closePreview(this);
 }
 
 } // namespace kurbo

@@ -100,6 +100,8 @@ void rptGoOut::ActiveReport_ReportStart(Connection& connection, const QString& h
     run({.caption = productName() + QStringLiteral("－外出出張明細"),
          .documentName = reportDocumentName(),
          .printedOn = slashDate(printedOn),
+         .fileName =
+             reportFileName(QStringLiteral("外出出張明細"), staff, slashDate(period.from), slashDate(period.to)),
          .paper = a4Portrait,
          .PageHeader = pageHeader(heading, period),
          .Detail = std::move(detail),

@@ -105,6 +105,7 @@ void rptKurbo::ActiveReport_ReportStart(const GridModel& grid, const CardHeading
     run({.caption = productName() + QStringLiteral("－タイムカード"),
          .documentName = reportDocumentName(),
          .printedOn = slashDate(printedOn),
+         .fileName = reportFileName(QStringLiteral("タイムカード"), heading.staff.code, heading.start, heading.end),
          .PageHeader = pageHeader(grid, heading),
          .Detail = detail(),
          .ReportFooter = reportFooter(grid)},

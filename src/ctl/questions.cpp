@@ -11,17 +11,24 @@ bool isByStaff(const QString& order) {
     throw WrongUse{QStringLiteral("--by takes staff or month")};
 }
 
+QString toBeforeFrom() {
+    return QStringLiteral("--to lies before --from");
+}
+
 } // namespace
 
 Period askedPeriod(const Options& options, int closeDay) {
+    const WrongUse unclear{QStringLiteral("it takes --month yyyy/mm, or --from and --to")};
     const auto from = options.day(QStringLiteral("from"));
     const auto to = options.day(QStringLiteral("to"));
-    if (from && to && *from <= *to) return {*from, *to};
+    if (options.has(QStringLiteral("month")) && (from || to)) throw unclear;
+    if (from && to && *to < *from) throw WrongUse{toBeforeFrom()};
+    if (from && to) return {*from, *to};
     const auto month = parseSlashDate(options.value(QStringLiteral("month")) + QStringLiteral("/01"));
     const auto period =
         month ? periodOfMonth(yearOf(*month), static_cast<int>(static_cast<unsigned>(civil(*month).month())), closeDay)
               : std::nullopt;
-    if (!period) throw WrongUse{QStringLiteral("it takes --month yyyy/mm, or --from and --to")};
+    if (!period) throw unclear;
     return *period;
 }
 
@@ -47,7 +54,7 @@ TotalsQuestion askedTotals(const Options& options) {
     question.from = options.month(QStringLiteral("from"));
     question.to = options.month(QStringLiteral("to"));
     question.byStaff = isByStaff(options.value(QStringLiteral("by")));
-    if (question.to < question.from) throw WrongUse{QStringLiteral("--to lies before --from")};
+    if (question.to < question.from) throw WrongUse{toBeforeFrom()};
     return question;
 }
 

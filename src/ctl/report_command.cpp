@@ -18,11 +18,17 @@ namespace {
 
 using Document = std::unique_ptr<PaperDocument>;
 
-CodeName section(Connection& connection, const QString& code) {
+// Nobody for a code that isn't known.
+CodeName knownSection(Connection& connection, const QString& code) {
     const auto name = connection.firstValue(
         QStringLiteral("SELECT F_SectionName FROM C02_Section WHERE (F_SectionCode = ?);"), {code});
-    if (!name) throw Complaint(QStringLiteral("部課コード「%1」は登録されていません。").arg(code));
-    return {code, name->text()};
+    return name ? CodeName{code, name->text()} : CodeName{};
+}
+
+CodeName section(Connection& connection, const QString& code) {
+    const CodeName known = knownSection(connection, code);
+    if (known.code.isEmpty()) throw Complaint(QStringLiteral("部課コード「%1」は登録されていません。").arg(code));
+    return known;
 }
 
 struct Person {
@@ -36,7 +42,7 @@ Person person(Connection& connection, const QString& code) {
     if (!rows.next()) throw Complaint(QStringLiteral("社員コード「%1」は登録されていません。").arg(code));
     const CodeName staff{code, rows.text(0)};
     const QString home = rows.text(1);
-    return {section(connection, home), staff};
+    return {knownSection(connection, home), staff};
 }
 
 Document cardReport(const Context& context, Connection& connection, const Options& options) {
@@ -50,6 +56,8 @@ Document cardReport(const Context& context, Connection& connection, const Option
 }
 
 Document totalsReport(const Context& context, Connection& connection, const Options& options) {
+    if (options.has(QStringLiteral("month")))
+        throw WrongUse{QStringLiteral("totals takes --from and --to, no --month")};
     TotalsQuestion question = askedTotals(options);
     const Person who = question.staff.isEmpty() ? Person{section(connection, question.section), {}}
                                                 : person(connection, question.staff);
@@ -89,6 +97,7 @@ Exit runReport(const QStringList& arguments) {
     options.read(arguments, 2);
     const Kind& kind = kindNamed(options.place(1));
     const QString out = options.needed(QStringLiteral("out"));
+    if (out.isEmpty()) throw WrongUse{QStringLiteral("--out takes the name of a file")};
     if (isSameFile(out, options.place(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
     const Console console(options);
     Connection connection;

@@ -19,6 +19,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <span>
 
 namespace kurbo {
 namespace {
@@ -42,9 +44,8 @@ QString fileName(QString name) {
     return name;
 }
 
-QPageLayout layoutOf(PaperSize paper) {
-    const bool lying = paper.width > paper.height;
-    return {QPageSize(QPageSize::A4), lying ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+bool turnsPages(const QKeyEvent& event) {
+    return event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp;
 }
 
 } // namespace
@@ -60,7 +61,9 @@ frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, const Context& c
     setWindowTitle(document_->Caption());
     ui_->scrPage->setWidget(view_);
     ui_->scrPage->viewport()->installEventFilter(this);
-    ui_->scrPage->installEventFilter(this);
+    for (QWidget* const field : {static_cast<QWidget*>(ui_->scrPage), static_cast<QWidget*>(ui_->txtPage),
+                                 static_cast<QWidget*>(ui_->cboZoom)})
+        field->installEventFilter(this);
     ui_->txtPage->setMaximum(document_->pageCount());
     ui_->lblPages->setText(QStringLiteral("/ %1").arg(document_->pageCount()));
     fillZooms();
@@ -116,44 +119,68 @@ void frmPreview::applyZoom() {
     view_->show(page_, dots);
 }
 
-// From what fits, to the next size of the list.
+// From what fits, to the next size of the list; at the small end to the whole page, if that is smaller still.
 void frmPreview::zoomBy(int steps) {
     const int now = view_->dotsPerInch() * 100 / screenDots;
-    const auto* const larger = std::ranges::find_if(zooms, [now](int zoom) { return zoom > now; });
-    auto index = static_cast<int>(larger - zooms.begin());
-    if (steps < 0) {
-        --index;
-        if (index > 1 && zooms[static_cast<std::size_t>(index)] == now) --index;
-    }
-    ui_->cboZoom->setCurrentIndex(std::clamp(index, 2, static_cast<int>(zooms.size()) - 1));
+    const auto sizes = std::span(zooms).subspan(2);
+    const auto larger = std::ranges::upper_bound(sizes, now) - sizes.begin();
+    const auto smaller = std::ranges::lower_bound(sizes, now) - sizes.begin() - 1;
+    if (steps > 0 && larger < std::ssize(sizes)) ui_->cboZoom->setCurrentIndex(static_cast<int>(larger) + 2);
+    if (steps > 0) return;
+    const bool wholeIsSmaller = view_->fitting(ui_->scrPage->maximumViewportSize(), true) < view_->dotsPerInch();
+    if (smaller >= 0)
+        ui_->cboZoom->setCurrentIndex(static_cast<int>(smaller) + 2);
+    else if (wholeIsSmaller)
+        ui_->cboZoom->setCurrentIndex(0);
 }
 
-// The wheel turns the page where it can't be scrolled any further.
-bool frmPreview::turnedAtEdge(int delta) {
+bool frmPreview::isAtEdge(int direction) const {
+    const QScrollBar& bar = *ui_->scrPage->verticalScrollBar();
+    return bar.value() == (direction > 0 ? bar.maximum() : bar.minimum());
+}
+
+// A page is entered where the last one was left.
+void frmPreview::turnAtEdge(int direction) {
+    const int before = page_;
+    showPage(page_ + direction);
+    if (page_ == before) return;
     QScrollBar& bar = *ui_->scrPage->verticalScrollBar();
-    if (delta > 0 && bar.value() == bar.maximum() && page_ + 1 < document_->pageCount()) {
-        showPage(page_ + 1);
-        bar.setValue(0);
-        return true;
-    }
-    if (delta < 0 && bar.value() == 0 && page_ > 0) {
-        showPage(page_ - 1);
-        bar.setValue(bar.maximum());
-        return true;
-    }
-    return false;
+    bar.setValue(direction > 0 ? bar.minimum() : bar.maximum());
 }
 
-bool frmPreview::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (event->type() == QEvent::Wheel) {
-        const auto* const wheel = static_cast<QWheelEvent*>(event);
-        const int delta = -wheel->angleDelta().y();
-        if (!wheel->modifiers().testFlag(Qt::ControlModifier)) return turnedAtEdge(delta);
-        zoomBy(delta < 0 ? 1 : -1);
-        return true;
+void frmPreview::movePage(int direction) {
+    using Bar = QAbstractSlider;
+    if (isAtEdge(direction)) return turnAtEdge(direction);
+    ui_->scrPage->verticalScrollBar()->triggerAction(direction > 0 ? Bar::SliderPageStepAdd : Bar::SliderPageStepSub);
+}
+
+// The wheel turns the page where it can't be scrolled any further. A touchpad sends notches in small pieces.
+bool frmPreview::takeWheel(const QWheelEvent& wheel) {
+    const bool zooms = wheel.modifiers().testFlag(Qt::ControlModifier);
+    const int delta = -wheel.angleDelta().y();
+    if (delta == 0 || (!zooms && !isAtEdge(delta))) {
+        wheel_ = 0;
+        return false;
     }
+    if ((wheel_ < 0) != (delta < 0)) wheel_ = 0;
+    wheel_ += delta;
+    if (std::abs(wheel_) < QWheelEvent::DefaultDeltasPerStep) return true;
+    wheel_ = 0;
+    if (zooms)
+        zoomBy(-delta);
+    else
+        turnAtEdge(delta > 0 ? 1 : -1);
+    return true;
+}
+
+bool frmPreview::eventFilter(QObject* watched, QEvent* event) {
+    const bool onPaper = watched == ui_->scrPage || watched == ui_->scrPage->viewport();
+    if (onPaper && event->type() == QEvent::Wheel) return takeWheel(*static_cast<QWheelEvent*>(event));
     if (event->type() != QEvent::KeyPress) return false;
-    keyPressEvent(static_cast<QKeyEvent*>(event));
+    auto* const key = static_cast<QKeyEvent*>(event);
+    // There the other keys belong to what is typed.
+    if (watched == ui_->txtPage && !turnsPages(*key)) return false;
+    keyPressEvent(key);
     return event->isAccepted();
 }
 
@@ -161,9 +188,9 @@ void frmPreview::keyPressEvent(QKeyEvent* event) {
     event->accept();
     switch (event->key()) {
     case Qt::Key_PageDown:
-        return showPage(page_ + 1);
+        return movePage(1);
     case Qt::Key_PageUp:
-        return showPage(page_ - 1);
+        return movePage(-1);
     case Qt::Key_Home:
         return showPage(0);
     case Qt::Key_End:
@@ -214,7 +241,13 @@ void frmPreview::printOn(QPrinter& printer) {
     printer.setFullPage(true);
     guarded(context_, u"frmPreview", u"cmdPrint_Click", [&] {
         const Hourglass hourglass;
-        if (!paintPages(printer, *document_, rangeOf(printer), context_.progress)) printer.abort();
+        const PageRange range = rangeOf(printer);
+        const QString file = printer.outputFileName();
+        // A printer doesn't tell when the disk under its file is full.
+        if (!file.isEmpty())
+            (void)writePdf(*document_, range, printer.pageLayout(), file, context_.progress);
+        else if (!paintPages(printer, *document_, range, context_.progress))
+            printer.abort();
     });
 }
 
@@ -223,15 +256,19 @@ void frmPreview::savePdf() {
     const QScopedValueRollback busy(busy_, true);
     guarded(context_, u"frmPreview", u"cmdPdf_Click", [&] {
         const auto path = context_.prompts.saveFile(QStringLiteral("PDFﾌｧｲﾙ(*.pdf)|*.pdf"), QStringLiteral("pdf"),
-                                                    fileName(document_->Caption()) + QStringLiteral(".pdf"));
+                                                    fileName(document_->FileName()) + QStringLiteral(".pdf"));
         if (!path) return;
         const Hourglass hourglass;
         (void)writePdf(*document_, *path, context_.progress);
     });
 }
 
+void closePreview(const QWidget* parent) {
+    for (frmPreview* const open : parent->findChildren<frmPreview*>(Qt::FindDirectChildrenOnly)) open->close();
+}
+
 void showPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent) {
-    for (frmPreview* const old : parent->findChildren<frmPreview*>(Qt::FindDirectChildrenOnly)) old->close();
+    closePreview(parent);
     auto* const preview = new frmPreview(std::move(document), context, parent);
     preview->show();
     preview->activateWindow();

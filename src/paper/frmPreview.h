@@ -47,7 +47,11 @@ class frmPreview final : public QWidget {
     void savePdf();
     void zoomBy(int steps);
     void applyZoom();
-    [[nodiscard]] bool turnedAtEdge(int delta);
+    // By the key for the next (1) or the last (-1) page.
+    void movePage(int direction);
+    [[nodiscard]] bool isAtEdge(int direction) const;
+    void turnAtEdge(int direction);
+    [[nodiscard]] bool takeWheel(const QWheelEvent& wheel);
 
     const std::unique_ptr<Ui::frmPreview> ui_;
     const std::unique_ptr<PaperDocument> document_;
@@ -55,8 +59,12 @@ class frmPreview final : public QWidget {
     PageView* view_;
     int page_ = 0;
     bool busy_ = false;
+    // What the wheel has moved since the last step.
+    int wheel_ = 0;
 };
 
+// Closes the one that the parent has open.
+void closePreview(const QWidget* parent);
 // Opens the window over its parent, in the place of the one that the parent had open.
 void showPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent);
 

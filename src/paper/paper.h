@@ -55,6 +55,8 @@ class PaperDocument {
     // The title of its window, and its name among the printer's jobs.
     [[nodiscard]] virtual QString Caption() const = 0;
     [[nodiscard]] virtual QString DocumentName() const = 0;
+    // What it is saved as when nobody says otherwise, without a suffix.
+    [[nodiscard]] virtual QString FileName() const { return Caption(); }
     [[nodiscard]] virtual PaperSize paper() const = 0;
     // At least one.
     [[nodiscard]] virtual int pageCount() const = 0;

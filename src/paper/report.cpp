@@ -58,12 +58,18 @@ bool Report::beginsGroup(int record) const {
     return record == 0 || records_.text(record, field) != records_.text(record - 1, field);
 }
 
+bool Report::isClosedByNext(int record) const {
+    const auto next = static_cast<std::size_t>(record) + 1;
+    return next < design_.closing.size() && design_.closing[next] && !(hasGroups() && beginsGroup(record + 1));
+}
+
 void Report::breakPages() {
     pages_.assign(1, {});
     top_ = firstTop();
     for (int record = 0; record < records_.count(); ++record) {
-        if (hasGroups() && beginsGroup(record)) place(Part::Group, record, design_.Detail.height);
-        place(Part::Detail, record);
+        const int closing = isClosedByNext(record) ? design_.Detail.height : 0;
+        if (hasGroups() && beginsGroup(record)) place(Part::Group, record, design_.Detail.height + closing);
+        place(Part::Detail, record, closing);
     }
     place(Part::Footer, records_.count() - 1);
 }

@@ -33,6 +33,7 @@ class Report : public PaperDocument {
   public:
     [[nodiscard]] QString Caption() const final { return design_.caption; }
     [[nodiscard]] QString DocumentName() const final { return design_.documentName; }
+    [[nodiscard]] QString FileName() const final { return design_.fileName; }
     [[nodiscard]] PaperSize paper() const final { return design_.paper; }
     [[nodiscard]] int pageCount() const final { return static_cast<int>(pages_.size()); }
     [[nodiscard]] PaperPage page(int index) const final;
@@ -42,6 +43,8 @@ class Report : public PaperDocument {
         QString caption;
         QString documentName;
         QString printedOn;
+        // What it is saved as, without a suffix.
+        QString fileName{};
         PaperSize paper = a4Landscape;
         ReportSection PageHeader{};
         // Printed whenever the text of its field changes, and once more where a group goes on on another page. It never
@@ -49,6 +52,8 @@ class Report : public PaperDocument {
         ReportSection GroupHeader{};
         QString groupField{};
         ReportSection Detail{};
+        // By record, whether it closes its group: it then stays on the page of the record before it. Empty for none.
+        std::vector<bool> closing{};
         ReportSection ReportFooter{};
     };
 
@@ -76,6 +81,7 @@ class Report : public PaperDocument {
     void place(Part part, int record, int together = 0);
     [[nodiscard]] bool hasGroups() const { return !design_.groupField.isEmpty(); }
     [[nodiscard]] bool beginsGroup(int record) const;
+    [[nodiscard]] bool isClosedByNext(int record) const;
     [[nodiscard]] int firstTop() const { return paperMargin + design_.PageHeader.height; }
     [[nodiscard]] const ReportSection& sectionOf(Part part) const;
     [[nodiscard]] static Event eventOf(Part part);

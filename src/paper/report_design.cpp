@@ -1,5 +1,6 @@
 #include "paper/report_design.h"
 
+#include "base/day.h"
 #include "base/product.h"
 
 #include <algorithm>
@@ -96,6 +97,16 @@ QString reportHeading(const QString& period, const CodeName& section, const Code
 
 QString reportDocumentName() {
     return productName() + QStringLiteral("ﾄﾞｷｭﾒﾝﾄ");
+}
+
+QString reportFileName(const QString& title, const QString& code, const QString& start, const QString& end) {
+    const auto from = parseSlashDate(start);
+    const auto to = parseSlashDate(end);
+    const bool isMonth = from && to && addMonths(*from, 1) == *to + std::chrono::days(1);
+    QStringList parts{title};
+    if (!code.isEmpty()) parts.append(code);
+    parts.append(isMonth ? end.left(7) : start == end ? end : start + u'-' + end);
+    return parts.join(u'_').remove(u'/');
 }
 
 std::vector<bool> hiddenColumns(const GridModel& grid, int first, int last) {

@@ -56,6 +56,11 @@ inline constexpr GridColour sumPaper{236, 241, 247};
 // Product and "ﾄﾞｷｭﾒﾝﾄ", the document name of all reports.
 [[nodiscard]] QString reportDocumentName();
 
+// The name of a report's file: title, whose, and the period without its slashes. A period from the first to the last
+// day of one month of work, or of one month, is called by the month in which it ends.
+[[nodiscard]] QString reportFileName(const QString& title, const QString& code, const QString& start,
+                                     const QString& end);
+
 // By column, whether it is hidden; only those from `first` to `last` can be.
 [[nodiscard]] std::vector<bool> hiddenColumns(const GridModel& grid, int first, int last);
 // The cells of a grid's row that the columns are filled from.

@@ -24,9 +24,9 @@ QString cutToBytes(const QString& text, int bytes) {
     return text;
 }
 
-void ReportRecords::AddNew(QStringList cells) {
+void ReportRecords::AddNew(QStringList cells, std::size_t cut) {
     cells.resize(static_cast<qsizetype>(fields_.size()));
-    for (std::size_t i = 0; i < fields_.size(); ++i) {
+    for (std::size_t i = 0; i < std::min(cut, fields_.size()); ++i) {
         QString& cell = cells[static_cast<qsizetype>(i)];
         cell = cutToBytes(cell, fields_[i].bytes);
     }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <vector>
 
 namespace kurbo {
@@ -20,8 +21,8 @@ class ReportRecords final {
     };
     explicit ReportRecords(std::vector<Field> fields) : fields_(std::move(fields)) {}
 
-    // Adds a record of one text a field, each cut to its field's width.
-    void AddNew(QStringList cells);
+    // Adds a record of one text a field, each of the first `cut` fields cut to its width.
+    void AddNew(QStringList cells, std::size_t cut = SIZE_MAX);
     [[nodiscard]] int count() const { return static_cast<int>(records_.size()); }
     // Empty for a field that there isn't, and behind the last record.
     [[nodiscard]] QString text(int record, QStringView field) const;

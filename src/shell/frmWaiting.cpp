@@ -5,6 +5,7 @@
 #include "ui_frmWaiting.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QWindow>
 
 namespace kurbo {
@@ -27,6 +28,7 @@ bool isInput(QEvent::Type type) {
     case QEvent::Shortcut:
     case QEvent::ContextMenu:
     case QEvent::TouchBegin:
+    case QEvent::Close:
         return true;
     default:
         return false;
@@ -40,7 +42,10 @@ class InputOf final : public QObject {
     bool eventFilter(QObject* receiver, QEvent* event) override {
         const auto* const widget = qobject_cast<QWidget*>(receiver);
         const bool own = widget ? widget->window() == &window_ : receiver == window_.windowHandle();
-        return isInput(event->type()) && !own;
+        if (own || !isInput(event->type())) return false;
+        // A window that is told to close takes an event that nobody refused for a yes.
+        if (event->type() == QEvent::Close) event->ignore();
+        return true;
     }
 
   private:
@@ -94,8 +99,12 @@ bool frmWaiting::stopped() {
 }
 
 void frmWaiting::mousePressEvent(QMouseEvent* /*event*/) {
+    close();
+}
+
+void frmWaiting::closeEvent(QCloseEvent* event) {
     closed_ = true;
-    hide();
+    event->accept();
 }
 
 } // namespace kurbo

@@ -13,7 +13,8 @@ namespace Ui {
 class frmWaiting;
 }
 
-// What a long step shows; a click takes it away. A step that doesn't ask whether it was stopped goes on.
+// What a long step shows; a click, or its title's cross, takes it away. A step that doesn't ask whether it was stopped
+// goes on.
 class frmWaiting final : public QWidget, public Progress {
     Q_OBJECT
 
@@ -26,11 +27,12 @@ class frmWaiting final : public QWidget, public Progress {
     void begin(const QString& text, int maximum) override;
     void step(int value) override;
     void end() override;
-    // Looks for the click now and then; what people do meanwhile in other windows is dropped.
+    // Looks for the click now and then; what people do meanwhile in other windows is dropped, and none of them closes.
     [[nodiscard]] bool stopped() override;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     const std::unique_ptr<Ui::frmWaiting> ui_;

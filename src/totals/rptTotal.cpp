@@ -66,13 +66,17 @@ QString withoutOpenBracket(const QString& cell, int bytes) {
     return bracket >= 0 && cell.size() > bytes ? cell.left(bracket) : cell;
 }
 
+// Figures of a person's month are as long as their fields; sums may be longer.
 QStringList recordOf(const GridModel& grid, int row, bool byMonth) {
+    const bool whole = isSum(grid, row);
     const auto [group, line] = wordsOf(grid, row);
     QStringList cells;
     cells.reserve(std::ssize(columns));
     cells << (byMonth ? group : line) << (byMonth ? line : group);
-    for (const ReportColumn& column : figures)
-        cells.append(withoutOpenBracket(grid.TextMatrix(row, column.column), column.bytes));
+    for (const ReportColumn& column : figures) {
+        const QString cell = grid.TextMatrix(row, column.column);
+        cells.append(whole ? cell : withoutOpenBracket(cell, column.bytes));
+    }
     return cells;
 }
 
@@ -134,18 +138,22 @@ void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeadin
     const bool byMonth = isByMonth(grid);
     ReportRecords records(fieldsOf(columns));
     for (int row = 1; row < grid.Rows(); ++row) {
-        records.AddNew(recordOf(grid, row, byMonth));
         sums_.push_back(isSum(grid, row));
+        records.AddNew(recordOf(grid, row, byMonth), sums_.back() ? firstColumn : columns.size());
     }
     const QString month = QStringLiteral("F_YearMonth");
     const QString name = QStringLiteral("F_StaffName");
     run({.caption = productName() + QStringLiteral("－集計"),
          .documentName = reportDocumentName(),
          .printedOn = slashDate(printedOn),
+         .fileName = reportFileName(QStringLiteral("月次集計"),
+                                    heading.staff.code.isEmpty() ? heading.section.code : heading.staff.code,
+                                    heading.start, heading.end),
          .PageHeader = pageHeader(grid, heading),
          .GroupHeader = groupHeader(byMonth ? month : name),
          .groupField = byMonth ? month : name,
          .Detail = detail(byMonth ? name : month),
+         .closing = sums_,
          .ReportFooter = reportFooter()},
         std::move(records));
 }

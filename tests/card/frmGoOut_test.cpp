@@ -200,5 +200,15 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     EXPECT_EQ(previewOf(*card), u"Kurbo－タイムカード"_q);
 }
 
+// Not only when the form is opened anew.
+TEST_F(FrmGoOut, ItsPreviewGoesWithIt) {
+    open();
+    of<QPushButton>(*form(), "cmdPrint").click();
+    const QPointer<frmPreview> preview = form()->findChild<frmPreview*>();
+    ASSERT_TRUE(preview && preview->isVisible());
+    EXPECT_TRUE(form()->close());
+    EXPECT_FALSE(preview && preview->isVisible());
+}
+
 } // namespace
 } // namespace kurbo::test

@@ -1,3 +1,4 @@
+#include "store/database_file.h"
 #include "support/kurboctl.h"
 #include "support/sample_company.h"
 
@@ -62,21 +63,42 @@ TEST_F(ReportCommand, RefusesAndFailsByItsExit) {
         QString arguments;
         QString pdf;
         int exit;
+        QString told{};
     };
-    const std::vector cases{Case{u"card --staff 9999 --month 2026/04"_q, u"r.pdf"_q, 1},
-                            Case{u"totals --section S99 --from 2026/04 --to 2026/04"_q, u"r.pdf"_q, 1},
-                            Case{u"goout --staff 1001"_q, u"r.pdf"_q, 2},
-                            Case{u"card --month 2026/04"_q, u"r.pdf"_q, 2},
-                            Case{u"novel --staff 1001"_q, u"r.pdf"_q, 2},
-                            Case{u"card --staff 1001 --month 2026/04"_q, u"store.mdb"_q, 2},
-                            Case{u"card --staff 1001 --month 2026/04"_q, u"no/r.pdf"_q, 3}};
+    const std::vector cases{
+        Case{u"card --staff 9999 --month 2026/04"_q, u"r.pdf"_q, 1},
+        Case{u"totals --section S99 --from 2026/04 --to 2026/04"_q, u"r.pdf"_q, 1},
+        Case{u"goout --staff 1001"_q, u"r.pdf"_q, 2},
+        Case{u"card --month 2026/04"_q, u"r.pdf"_q, 2},
+        Case{u"novel --staff 1001"_q, u"r.pdf"_q, 2},
+        Case{u"card --staff 1001 --month 2026/04"_q, u"store.mdb"_q, 2},
+        Case{u"card --staff 1001 --month 2026/04"_q, u"no/r.pdf"_q, 3, u"/no\n"_q},
+        Case{u"goout --staff 1001 --from 2026/04/30 --to 2026/04/01"_q, u"r.pdf"_q, 2, u"--to lies before --from"_q},
+        Case{u"card --staff 1001 --month 2026/04 --from 2026/04/01 --to 2026/04/30"_q, u"r.pdf"_q, 2},
+        Case{u"totals --staff 1001 --from 2026/04 --to 2026/04 --month 2026/04"_q, u"r.pdf"_q, 2},
+        Case{u"card --staff 1001 --month 2026/04"_q, {}, 1, u"ファイルではないため"_q}};
     for (const Case& c : cases) {
         const Outcome outcome = report(c.arguments, c.pdf);
         EXPECT_EQ(outcome.exit, c.exit) << c.arguments;
-        EXPECT_FALSE(outcome.err.isEmpty()) << c.arguments;
+        EXPECT_TRUE(!outcome.err.isEmpty() && outcome.err.contains(c.told)) << c.arguments << outcome.err;
         EXPECT_FALSE(QFile::exists(desk.file(u"r.pdf"_q))) << c.arguments;
     }
-    EXPECT_EQ(kurboctl({u"report"_q, path, u"card"_q, u"--staff"_q, u"1001"_q, u"--month"_q, u"2026/04"_q}).exit, 2);
+    const QStringList april{u"report"_q, path, u"card"_q, u"--staff"_q, u"1001"_q, u"--month"_q, u"2026/04"_q};
+    EXPECT_EQ(kurboctl(april).exit, 2);
+    EXPECT_EQ(kurboctl(april + QStringList{u"--out"_q, {}}).exit, 2);
+}
+
+TEST_F(ReportCommand, APersonWithoutASectionHasNoneInTheHeading) {
+    connection.open(path, databasePassword());
+    connection.execute(u"UPDATE C03_Staff SET F_Section = NULL WHERE (F_StaffCode = '1001')"_q);
+    connection.close();
+    for (const QString& kind : {u"goout --staff 1001 --month 2026/04"_q, u"card --staff 1001 --month 2026/04"_q,
+                                u"totals --staff 1001 --from 2026/04 --to 2026/04"_q}) {
+        const Outcome outcome = report(kind);
+        EXPECT_EQ(outcome.exit, 0) << kind << outcome.err;
+        const QString text = outputOf(u"pdftotext"_q, {u"-raw"_q, desk.file(u"r.pdf"_q), u"-"_q});
+        EXPECT_TRUE(text.contains(u"氏名：金子"_q) && !text.contains(u"部課"_q)) << text;
+    }
 }
 
 } // namespace

@@ -1,16 +1,26 @@
 #include "paper/frmPreview.h"
 
+#include "base/files.h"
 #include "paper/grid_print.h"
 #include "support/desk.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QPointer>
 #include <QPrinter>
+#include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSpinBox>
 #include <QTest>
+#include <QWheelEvent>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace kurbo::test {
 namespace {
@@ -20,6 +30,7 @@ class Counted final : public PaperDocument {
   public:
     explicit Counted(QList<int>& asked) : asked_(asked) {}
     QString Caption() const override { return u"Kurbo－見本/2026"_q; }
+    QString FileName() const override { return u"見本/2026"_q; }
     QString DocumentName() const override { return u"Kurboﾄﾞｷｭﾒﾝﾄ"_q; }
     PaperSize paper() const override { return a4Landscape; }
     int pageCount() const override { return 100; }
@@ -64,6 +75,13 @@ class FrmPreview : public ::testing::Test {
     }
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
         QTest::keyClick(&of<QWidget>("scrPage"), Qt::Key(key), modifiers);
+    }
+    // At the middle of the paper.
+    void wheel(int delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+        QWidget* const paper = of<QScrollArea>("scrPage").viewport();
+        QWheelEvent event(QPointF(50, 50), paper->mapToGlobal(QPointF(50, 50)), {}, {0, delta}, Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(paper, &event);
     }
     [[nodiscard]] int pagesIn(const QString& file) const {
         QFile pdf(file);
@@ -119,12 +137,66 @@ TEST_F(FrmPreview, SizesGoUpAndDown) {
     EXPECT_EQ(zoom.currentText(), u"50%"_q);
 }
 
+TEST_F(FrmPreview, ASheetSmallerThanTheSmallestSizeStaysSoByMinus) {
+    form()->resize(360, 300);
+    QTest::qWait(1);
+    auto& zoom = of<QComboBox>("cboZoom");
+    for (const auto& [key, size] :
+         {std::pair{Qt::Key_Minus, u"ページ全体"_q}, {Qt::Key_Plus, u"50%"_q}, {Qt::Key_Minus, u"ページ全体"_q}}) {
+        press(key);
+        EXPECT_EQ(zoom.currentText(), size);
+    }
+}
+
+TEST_F(FrmPreview, AnEnlargedPageIsScrolledBeforeItIsTurned) {
+    of<QComboBox>("cboZoom").setCurrentText(u"200%"_q);
+    QScrollBar& bar = *of<QScrollArea>("scrPage").verticalScrollBar();
+    int presses = 0;
+    for (; form()->Page() == 0 && presses < 99; ++presses) press(Qt::Key_PageDown);
+    EXPECT_GT(presses, 2);
+    EXPECT_EQ(bar.value(), 0);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(form()->Page(), 0);
+    EXPECT_EQ(bar.value(), bar.maximum());
+}
+
+TEST_F(FrmPreview, AWheelTurnsAPageANotch) {
+    for (const auto& [delta, page] : {std::pair{-120, 1}, {-60, 1}, {-59, 1}, {-1, 2}, {-100, 2}, {100, 2}, {20, 1}}) {
+        wheel(delta);
+        EXPECT_EQ(form()->Page(), page) << delta;
+    }
+    const int whole = of<QScrollArea>("scrPage").widget()->width();
+    wheel(60, Qt::ControlModifier);
+    EXPECT_EQ(of<QScrollArea>("scrPage").widget()->width(), whole);
+    wheel(60, Qt::ControlModifier);
+    EXPECT_GT(of<QScrollArea>("scrPage").widget()->width(), whole);
+}
+
+TEST_F(FrmPreview, ItsFieldsLeaveThePageKeysToThePage) {
+    struct Case {
+        const char* field;
+        int key;
+        int page;
+    };
+    for (const Case& c : {Case{"txtPage", Qt::Key_PageDown, 1},
+                          {"txtPage", Qt::Key_Home, 1},
+                          {"cboZoom", Qt::Key_End, 99},
+                          {"cboZoom", Qt::Key_PageUp, 98},
+                          {"cboZoom", Qt::Key_Home, 0}}) {
+        QTest::keyClick(&of<QWidget>(c.field), Qt::Key(c.key));
+        EXPECT_EQ(form()->Page(), c.page) << c.field << c.key;
+    }
+    const QString zoom = of<QComboBox>("cboZoom").currentText();
+    QTest::keyClick(&of<QWidget>("cboZoom"), Qt::Key_Plus);
+    EXPECT_NE(of<QComboBox>("cboZoom").currentText(), zoom);
+}
+
 TEST_F(FrmPreview, SavesAPdfWholeOrNotAtAll) {
     const QString file = desk.file(u"a.pdf"_q);
     desk.prompts.expectFile({});
     press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(QFile::exists(file)) << "the dialog was cancelled";
-    EXPECT_EQ(desk.prompts.lastFileQuestion().suggestedName, u"Kurbo－見本-2026.pdf"_q);
+    EXPECT_EQ(desk.prompts.lastFileQuestion().suggestedName, u"見本-2026.pdf"_q);
     progress.patience_ = 3;
     desk.prompts.expectFile(file);
     of<QPushButton>("cmdPdf").click();
@@ -161,7 +233,83 @@ TEST_F(FrmPreview, PrintsTheChosenPages) {
         form()->printOn(printer);
         EXPECT_EQ(asked.size(), c.pages);
         EXPECT_EQ(asked.first(), c.range == QPrinter::CurrentPage ? 1 : std::max(0, c.from - 1));
+        EXPECT_EQ(pagesIn(desk.file(u"p.pdf"_q)), c.pages);
     }
+}
+
+// What can't be written is told, and the file that was there stays.
+TEST_F(FrmPreview, PrintsToAFileWholeOrNotAtAll) {
+    const QString file = desk.file(u"p.pdf"_q);
+    replaceFile(file, "old");
+    rlimit unlimited{};
+    ::getrlimit(RLIMIT_FSIZE, &unlimited);
+    ::signal(SIGXFSZ, SIG_IGN);
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFileName(file);
+    desk.prompts.expect(u"ディスクの空き容量が不足しています"_q);
+    const rlimit small{20000, unlimited.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    form()->printOn(printer);
+    ::setrlimit(RLIMIT_FSIZE, &unlimited);
+    EXPECT_TRUE(desk.prompts.allShown());
+    EXPECT_EQ(readFile(file), "old");
+    EXPECT_EQ(QDir(desk.folder.path()).entryList({u"p.pdf*"_q}), QStringList(u"p.pdf"_q));
+}
+
+// Where the last letter of the second page ends, in points.
+QPoint endOfText(const QString& file) {
+    QProcess process;
+    process.start(u"pdftotext"_q, {u"-bbox"_q, u"-f"_q, u"2"_q, u"-l"_q, u"2"_q, file, u"-"_q});
+    EXPECT_TRUE(process.waitForFinished()) << "pdftotext is part of poppler-utils";
+    static const QRegularExpression word(u"xMax=\"(\\d+)[^>]*yMax=\"(\\d+)"_q);
+    QPoint end;
+    const QString text = QString::fromUtf8(process.readAllStandardOutput());
+    for (const auto& match : word.globalMatch(text))
+        end = {std::max(end.x(), match.captured(1).toInt()), std::max(end.y(), match.captured(2).toInt())};
+    return end;
+}
+
+// The printer's own paper: a landscape sheet is 842 by 595 points, its footer ends at 811.
+TEST_F(FrmPreview, ASmallerSheetGetsASmallerPage) {
+    struct Case {
+        QPageSize::PageSizeId size;
+        QPageLayout::Orientation orientation;
+        int right;
+    };
+    for (const Case& c : {Case{QPageSize::A4, QPageLayout::Landscape, 811},
+                          {QPageSize::A4, QPageLayout::Portrait, 565},
+                          {QPageSize::A5, QPageLayout::Portrait, 390},
+                          {QPageSize::A3, QPageLayout::Landscape, 811}}) {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(desk.file(u"p.pdf"_q));
+        printer.setPageLayout({QPageSize(c.size), c.orientation, QMarginsF(10, 10, 10, 10)});
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(1, 2);
+        form()->printOn(printer);
+        EXPECT_NEAR(endOfText(desk.file(u"p.pdf"_q)).x(), c.right, 2) << c.size;
+        EXPECT_LT(endOfText(desk.file(u"p.pdf"_q)).y(), 570);
+    }
+}
+
+TEST_F(FrmPreview, ALinkLeadsToTheFileAndNoFileIsRefused) {
+    const auto save = [this](const QString& name) {
+        desk.prompts.expectFile(desk.file(name));
+        of<QPushButton>("cmdPdf").click();
+    };
+    QFile::link(desk.file(u"real.pdf"_q), desk.file(u"link.pdf"_q));
+    replaceFile(desk.file(u"real.pdf"_q), "old");
+    save(u"link.pdf"_q);
+    EXPECT_TRUE(QFileInfo(desk.file(u"link.pdf"_q)).isSymLink());
+    EXPECT_EQ(pagesIn(desk.file(u"real.pdf"_q)), 100);
+    QFile::remove(desk.file(u"real.pdf"_q));
+    QDir(desk.folder.path()).mkdir(u"folder.pdf"_q);
+    ::mkfifo(QFile::encodeName(desk.file(u"fifo.pdf"_q)).constData(), 0666);
+    for (const QString& name : {u"link.pdf"_q, u"folder.pdf"_q, u"fifo.pdf"_q}) {
+        desk.prompts.expect(u"ファイルではないため、保存できません。"_q);
+        save(name);
+        EXPECT_FALSE(QFileInfo(desk.file(name)).isFile()) << name;
+    }
+    EXPECT_TRUE(desk.prompts.allShown());
 }
 
 TEST_F(FrmPreview, OneStandsOverItsParentAndEscClosesIt) {

@@ -46,10 +46,14 @@ TEST(ReportSection, HiddenColumnsLeaveNoGapInAnyOfItsLines) {
 // Groups of so many records each; a page holds nine lines.
 class Groups final : public Report {
   public:
-    explicit Groups(const std::vector<int>& sizes) {
+    explicit Groups(const std::vector<int>& sizes, bool closed = false) {
         ReportRecords records(fieldsOf(columns));
+        std::vector<bool> closing;
         for (std::size_t group = 0; group < sizes.size(); ++group)
-            for (int i = 0; i < sizes[group]; ++i) records.AddNew({u"G%1"_q.arg(group), u"%1.%2"_q.arg(group).arg(i)});
+            for (int i = 0; i < sizes[group]; ++i) {
+                records.AddNew({u"G%1"_q.arg(group), u"%1.%2"_q.arg(group).arg(i)});
+                closing.push_back(closed && i + 1 == sizes[group]);
+            }
         const int line = (footerTop(a4Landscape) - paperMargin) / 10;
         Design design{.caption = u"c"_q, .documentName = u"d"_q, .printedOn = u"2026/04/15"_q};
         design.groupField = u"F_Group"_q;
@@ -58,6 +62,7 @@ class Groups final : public Report {
         design.GroupHeader.controls[0].dataField = u"F_Group"_q;
         design.Detail.height = line;
         addFields(design.Detail, columns, {.height = line});
+        design.closing = std::move(closing);
         design.ReportFooter = {line, {label(u"end"_q, u"end"_q, 0, 1000, {.height = line})}};
         run(std::move(design), std::move(records));
     }
@@ -97,9 +102,28 @@ TEST(Report, GroupsStartCleanlyAndGoOnUnderTheirHeading) {
         EXPECT_EQ(pageTexts(report), c.pages) << c.pages.join(u'/');
         expectClean(report);
     }
+    EXPECT_EQ(pageTexts(Groups({9}, true)), QStringList({u"G0 0.0 0.1 0.2 0.3 0.4 0.5 0.6"_q, u"G0 0.7 0.8 end"_q}));
+    EXPECT_EQ(pageTexts(Groups({6, 2}, true)), QStringList({u"G0 0.0 0.1 0.2 0.3 0.4 0.5"_q, u"G1 1.0 1.1 end"_q}));
+    EXPECT_EQ(pageTexts(Groups({7, 1}, true)).value(1), u"G1 1.0 end"_q);
     const PaperPage page = Groups({3}).page(0);
     EXPECT_TRUE(itemOf(page, u"0.1"_q).bold);
     EXPECT_FALSE(itemOf(page, u"0.2"_q).bold) << "each record is formatted afresh";
+}
+
+TEST(Report, ItsFileIsNamedByWhomAndWhen) {
+    struct Case {
+        QString start;
+        QString end;
+        QString name;
+    };
+    for (const Case& c : {Case{u"2026/05/01"_q, u"2026/05/31"_q, u"t_1001_202605"_q},
+                          {u"2026/04/21"_q, u"2026/05/20"_q, u"t_1001_202605"_q},
+                          {u"2026/05/01"_q, u"2026/05/30"_q, u"t_1001_20260501-20260530"_q},
+                          {u"2026/05/01"_q, u"2026/05/01"_q, u"t_1001_20260501"_q},
+                          {u"2026/05"_q, u"2026/05"_q, u"t_1001_202605"_q},
+                          {u"2026/05"_q, u"2026/06"_q, u"t_1001_202605-202606"_q}})
+        EXPECT_EQ(reportFileName(u"t"_q, u"1001"_q, c.start, c.end), c.name);
+    EXPECT_EQ(reportFileName(u"t"_q, {}, u"2026/05"_q, u"2026/05"_q), u"t_202605"_q);
 }
 
 } // namespace

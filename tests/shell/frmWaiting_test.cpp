@@ -4,11 +4,14 @@
 #include "shell/wait_box.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 
 namespace kurbo {
 namespace {
@@ -52,6 +55,29 @@ TEST(FrmWaiting, AStepThatAsksIsStoppedByAClickOnTheBoxAlone) {
     EXPECT_FALSE(window.isVisible());
     window.begin(QString(), 3);
     EXPECT_FALSE(window.stopped());
+}
+
+// Whoever works behind the box would lose its ground.
+TEST(FrmWaiting, NoOtherWindowClosesAndTheOwnCrossStops) {
+    frmWaiting window;
+    const QPointer<QWidget> other = new QWidget;
+    other->setAttribute(Qt::WA_DeleteOnClose);
+    other->show();
+    window.begin(QString(), 3);
+    const auto closed = [&](QWidget* widget) {
+        QTest::qSleep(120);
+        QCoreApplication::postEvent(widget->windowHandle(), new QCloseEvent);
+        QMetaObject::invokeMethod(widget, &QWidget::close, Qt::QueuedConnection);
+        return window.stopped();
+    };
+    EXPECT_FALSE(closed(other));
+    EXPECT_TRUE(other && other->isVisible());
+    EXPECT_TRUE(closed(&window));
+    EXPECT_TRUE(window.stopped());
+    window.end();
+    other->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(other);
 }
 
 TEST_F(Office, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {

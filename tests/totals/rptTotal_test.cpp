@@ -67,14 +67,17 @@ TEST_F(RptTotal, GroupsAreMonthsOrPeople) {
 TEST_F(RptTotal, CellsAreCutToTheirFields) {
     fill({u"一二三四五六七八九xyz"_q, u"一二三四五六七八九xy"_q}, 1, true);
     grid.TextMatrix(1, 4, u"123456:789"_q);
-    grid.TextMatrix(2, 4, u"1000:00(+12:00)"_q);
+    grid.TextMatrix(3, 4, u"1000:00(+12:00)"_q);
     grid.TextMatrix(1, 3, u"12345"_q);
+    grid.TextMatrix(4, 3, u"21860"_q);
+    grid.TextMatrix(2, 4, u"21860:00(+2:00)"_q);
     const PaperPage page = report().page(0);
     EXPECT_FALSE(linesOf(page).join(u'|').contains(u'z')) << "21 bytes";
     itemOf(page, u"一二三四五六七八九xy"_q);
     itemOf(page, u"123456:7"_q);
     itemOf(page, u"1000:00"_q);
     itemOf(page, u"1234"_q);
+    for (const QString& sum : {u"21860"_q, u"21860:00(+2:00)"_q}) EXPECT_TRUE(itemOf(page, sum).bold) << "whole";
 }
 
 TEST_F(RptTotal, OnlyColumnsThatAreShownTakeRoom) {
@@ -102,8 +105,9 @@ TEST_F(RptTotal, AYearOfASectionGoesOverPages) {
             const QStringList lines = begins(year, page);
             EXPECT_FALSE(lines.first().contains(u'|')) << "under a group's heading: " << lines.first();
             EXPECT_TRUE(lines.last().contains(u'|')) << "no heading alone: " << lines.last();
+            EXPECT_FALSE(lines.value(1).startsWith(u"小計"_q)) << "no sum alone";
         }
-        EXPECT_EQ(begins(year, year.pageCount() - 1).last(), u"1440|240:00|1560.0|240:00"_q);
+        EXPECT_EQ(begins(year, year.pageCount() - 1).last(), u"14400|240:00|1560.0|240:00"_q);
         expectClean(year);
     }
     grid.Rows(1);
