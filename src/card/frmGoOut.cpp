@@ -50,6 +50,13 @@ void frmGoOut::dressFields() {
 }
 
 void frmGoOut::connectCommands() {
+    // While a cell is typed into, the update is open: it takes the cell first.
+    connect(ui_->vfgGoOut, &Grid::ChangeEdit, this, [this] {
+        ui_->cmdUpdate->setEnabled(true);
+        ui_->mnuUpdate->setEnabled(true);
+    });
+    connect(ui_->vfgGoOut, &Grid::AfterEdit, this, &frmGoOut::showCommands);
+    for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
     connect(ui_->cmdUpdate, &QPushButton::clicked, this, &frmGoOut::update);
     connect(ui_->mnuUpdate, &QAction::triggered, this, &frmGoOut::update);
     connect(ui_->cmdPrint, &QPushButton::clicked, this, &frmGoOut::print);
