@@ -61,12 +61,11 @@ void explain(const QString& word, const QString& database) {
 // The destination while it is made: a file of its own beside its place, gone again unless it is finished.
 class Destination final {
   public:
-    explicit Destination(const QString& path) : path_(realPath(path)), fresh_(path_ + QStringLiteral(".new")) {
+    explicit Destination(const QString& path) : path_(realPath(path)), fresh_(freshNameBeside(path_)) {
         LockFile::removeStale(path_);
         if (!lock_.claim(path_))
             throw Complaint(lines(QStringLiteral("移動先DBに他のユーザーが接続しています。"),
                                   QStringLiteral("ユーザーが接続していない時に再度実行して下さい。")));
-        discard();
     }
     ~Destination() { discard(); }
     Destination(const Destination&) = delete;
@@ -93,7 +92,8 @@ class Destination final {
     void finish(const QString& model) {
         (void)shareLike(model, fresh_);
         syncFile(fresh_);
-        putInPlace(fresh_, path_, databasePassword());
+        // What stood there may hold days that are nowhere else.
+        putInPlace(fresh_, path_, databasePassword(), path_ + QStringLiteral(".old"));
     }
 
   private:
@@ -114,6 +114,22 @@ void removeMoved(Connection& database, const MoveOrder& order, const WorkNotice&
     if (order.withMonths) DeleteApprovedRange(change, *order.startMonth, *order.endMonth, false);
     RenumberKurbo(change);
     change.commit();
+}
+
+// A second move of the same days would put an empty file in the place of the first one's.
+void requireSomething(Connection& database, const MoveOrder& order) {
+    const auto inRange = [&](const QString& statement, Day start, Day end, int length) {
+        return database.hasRow(statement, {dateId(start).left(length), dateId(end).left(length)});
+    };
+    constexpr int day = 8;
+    constexpr int month = 6;
+    if (inRange(QStringLiteral("SELECT F_DateID FROM T01_Calendar WHERE (F_DateID BETWEEN ? AND ?);"), *order.startDay,
+                *order.endDay, day) ||
+        (order.withMonths &&
+         inRange(QStringLiteral("SELECT F_Year FROM T05_Approved WHERE (F_Year & F_Month BETWEEN ? AND ?);"),
+                 *order.startMonth, *order.endMonth, month)))
+        return;
+    throw Complaint(QStringLiteral("移動するデータがありません。"));
 }
 
 bool confirmed(Prompts& prompts) {
@@ -139,6 +155,7 @@ QString carryOut(const Context& context, Connection& shared, const QString& data
     Connection source;
     source.openAlone(database, databasePassword());
     shutOthersOut(source);
+    requireSomething(source, order);
     bar.reach(40, 60);
     destination.fill(source, notice);
     bar.reach(60, 80);

@@ -84,14 +84,17 @@ std::optional<RowSpan> DestinationList::chosenRows(RowSpan selected) const {
     return selected.first < all.first || selected.last < all.first ? all : selected;
 }
 
-void DestinationList::remove(RowSpan rows) {
+bool DestinationList::remove(RowSpan rows) {
     Prompts& prompts = client_.context.prompts;
     const QString question = lines(QStringLiteral("選択した外出先を削除します。削除した外出先は復活できません。"),
                                    QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return;
-    if (!DeleteDestination(client_.context, client_.HomeConnection, grid, rows))
-        return prompts.exclaim(QStringLiteral("外出先の削除に失敗しました。"));
-    (void)show();
+    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return false;
+    const bool gone = DeleteDestination(client_.context, client_.HomeConnection, grid, rows);
+    if (gone)
+        (void)show();
+    else
+        prompts.exclaim(QStringLiteral("外出先の削除に失敗しました。"));
+    return gone;
 }
 
 } // namespace kurbo

@@ -30,7 +30,8 @@ class DestinationList final {
     // The rows that a selection means: all of them where it begins or ends at the headings. Nothing after a refusal.
     [[nodiscard]] std::optional<RowSpan> chosenRows(RowSpan selected) const;
     // Asks, deletes, and shows what is left.
-    void remove(RowSpan rows);
+    // True once they are gone.
+    bool remove(RowSpan rows);
 
   private:
     Client& client_;

@@ -29,12 +29,9 @@ bool frmDeleteDest::hasConnection() {
 
 void frmDeleteDest::load() {
     run([this] { ui_->cmdExec->setEnabled(list_.show()); });
+    ui_->vfgDestination->clearSelection();
     ui_->vfgDestination->setStretchColumn(list_.grid.Cols() - 1);
     ui_->vfgDestination->setFocus();
-}
-
-void frmDeleteDest::showState() {
-    ui_->vfgDestination->clearSelection();
 }
 
 RowSpan frmDeleteDest::selectedRows() const {
@@ -50,10 +47,11 @@ void frmDeleteDest::select(RowSpan rows) {
 }
 
 void frmDeleteDest::deleteChosen() {
+    const bool chosen = ui_->vfgDestination->selectionModel()->hasSelection();
     const auto rows = list_.chosenRows(selectedRows());
     if (!rows) return;
     select(*rows);
-    list_.remove(*rows);
+    if (list_.remove(*rows) || !chosen) ui_->vfgDestination->clearSelection();
 }
 
 } // namespace kurbo

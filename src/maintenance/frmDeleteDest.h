@@ -24,7 +24,7 @@ class frmDeleteDest final : public ScreenForm {
   protected:
     [[nodiscard]] bool hasConnection() override;
     // No row is selected until the person selects one.
-    void showState() override;
+    void showState() override {}
 
   private:
     [[nodiscard]] RowSpan selectedRows() const;

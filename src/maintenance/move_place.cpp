@@ -35,6 +35,8 @@ bool isReserved(const Context& context, const QString& database, const QString& 
     const QStringList reserved{LockFile::nameFor(own),           LockFile::copyNameFor(own),
                                own + QStringLiteral("-journal"), own + QStringLiteral("-wal"),
                                own + QStringLiteral("-shm"),     context.paths.BackupPath};
+    for (const auto* const ending : {u"-journal", u"-wal", u"-shm", u".old"})
+        if (plainName(destination) + QString::fromUtf16(ending) == own) return true;
     return std::ranges::any_of(reserved, [&](const QString& path) {
         return isSameFile(path, destination) || plainName(path) == plainName(destination);
     });
@@ -68,6 +70,8 @@ void checkPlace(const Context& context, const QString& database, const QString& 
     if (isSameFile(database, destination)) refuse(u"移動先DBにカレントDBと同じファイルは指定できません。", otherFile);
     if (isReserved(context, database, destination))
         refuse(u"移動先DBに指定したファイル名は、システムが他の用途で使用します。", otherFile);
+    if (!info.fileName().endsWith(QStringLiteral(".mdb"), Qt::CaseInsensitive))
+        refuse(u"移動先DBのファイル名が不正です。", u"ファイル名は「.mdb」で終わるように指定して下さい。");
     if (!mayWrite(folder) || (info.exists() && !mayWrite(destination)))
         refuse(u"移動先DBに書き込む事ができません。",
                u"フォルダとファイルの書き込みの許可を確認するか、別のフォルダを指定して下さい。");

@@ -1,5 +1,7 @@
 #include "store/bulk_change.h"
 
+#include "base/failure.h"
+
 namespace kurbo {
 
 // The engine takes the word about relations between transactions only.
@@ -11,7 +13,12 @@ BulkChange::BulkChange(Connection& connection, const QStringList& tables) : conn
 
 BulkChange::~BulkChange() {
     transaction_.reset();
-    if (connection_.isOpen()) connection_.engine("PRAGMA foreign_keys=ON; PRAGMA ignore_check_constraints=OFF");
+    if (!connection_.isOpen()) return;
+    try {
+        connection_.engine("PRAGMA foreign_keys=ON; PRAGMA ignore_check_constraints=OFF");
+    } catch (const Fault&) {
+        connection_.close();
+    }
 }
 
 void BulkChange::dropIndexes(const QString& table) {

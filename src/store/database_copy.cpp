@@ -71,10 +71,17 @@ void requireWhole(Connection& connection) {
     if (!verdict || verdict->text() != u"ok") throw storeFault(StoreError::Damaged, connection.path());
 }
 
-void putInPlace(const QString& copy, const QString& target, const QString& password) {
+void putInPlace(const QString& copy, const QString& target, const QString& password, const QString& keptAs) {
     if (hasLeftovers(target)) settle(target, password);
     for (const char* const ending : leftovers) QFile::remove(target + QLatin1StringView(ending));
-    renameOver(copy, target);
+    const bool keep = !keptAs.isEmpty() && QFileInfo::exists(target);
+    if (keep) renameOver(target, keptAs);
+    try {
+        renameOver(copy, target);
+    } catch (const Fault&) {
+        if (keep) renameOver(keptAs, target);
+        throw;
+    }
 }
 
 } // namespace kurbo

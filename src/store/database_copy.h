@@ -16,7 +16,7 @@ void requireWhole(const QString& path, const QString& password);
 void requireWhole(Connection& connection);
 
 // Puts a finished copy, which nobody has open, in the place of a database, with nothing left of what stood there
-// before. Throws a Fault and leaves the old file.
-void putInPlace(const QString& copy, const QString& target, const QString& password);
+// before; that is kept under the name `keptAs`, if one is given. Throws a Fault and leaves the old file.
+void putInPlace(const QString& copy, const QString& target, const QString& password, const QString& keptAs = {});
 
 } // namespace kurbo

@@ -116,9 +116,11 @@ QStringList checkDatabase(const QString& path) {
     wrong.removeAll(QStringLiteral("ok"));
     for (const QString& row : answers(connection.handle(), "PRAGMA foreign_key_check"))
         wrong.append(QStringLiteral("row without its parent: ") + row);
-    const QStringList present = answers(connection.handle(), "SELECT name FROM sqlite_master WHERE type = 'table'");
+    const QStringList present = answers(connection.handle(), "SELECT name FROM sqlite_master");
     for (const QString& table : tableNames())
         if (!present.contains(table)) wrong.append(QStringLiteral("table missing: ") + table);
+    for (const QString& index : indexNames())
+        if (!present.contains(index)) wrong.append(QStringLiteral("index missing: ") + index);
     return wrong;
 }
 

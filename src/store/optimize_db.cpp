@@ -33,6 +33,8 @@ void compact(const QString& path, const QString& copy, const QString& password, 
     Connection source;
     source.openAlone(path, password);
     shutOthersOut(source);
+    // A foreign tool may have left changes in a file beside it, which would be played into the new one.
+    source.engine("PRAGMA journal_mode=DELETE");
     const Noticed noticed(source, notice);
     source.engine("VACUUM INTO '" + QFile::encodeName(copy).replace('\'', "''") + '\'');
     requireWhole(copy, password);

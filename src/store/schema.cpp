@@ -160,9 +160,9 @@ QByteArray seal(const QString& password) {
 QList<QByteArray> schemaStatements(const QString& password) {
     QList<QByteArray> statements;
     for (const Table& table : tables) statements.append(created(table));
-    int number = 0;
-    for (const char* index : indexes)
-        statements.append("CREATE INDEX I_" + QByteArray::number(++number).rightJustified(2, '0') + " ON " + index);
+    const QStringList names = indexNames();
+    for (std::size_t i = 0; i < indexes.size(); ++i)
+        statements.append("CREATE INDEX " + names[static_cast<qsizetype>(i)].toLatin1() + " ON " + indexes[i]);
     statements.append(seal(password));
     statements.append("PRAGMA application_id=" + QByteArray::number(applicationId));
     statements.append("PRAGMA user_version=" + QByteArray::number(schemaVersion));
@@ -172,6 +172,13 @@ QList<QByteArray> schemaStatements(const QString& password) {
 QStringList tableNames() {
     QStringList names;
     for (const Table& table : tables) names.append(QString::fromLatin1(table.name));
+    return names;
+}
+
+QStringList indexNames() {
+    QStringList names;
+    for (std::size_t number = 1; number <= indexes.size(); ++number)
+        names.append(QStringLiteral("I_%1").arg(number, 2, 10, QLatin1Char('0')));
     return names;
 }
 

@@ -18,6 +18,8 @@ inline constexpr std::string_view dateTimeType = "DATETIME_TEXT";
 [[nodiscard]] QList<QByteArray> schemaStatements(const QString& password);
 // Names of the sixteen tables.
 [[nodiscard]] QStringList tableNames();
+// The names of the indexes that are made beside those of the keys.
+[[nodiscard]] QStringList indexNames();
 // The fields that tell a row of the table from all others.
 [[nodiscard]] QStringList keyOf(const QString& table);
 

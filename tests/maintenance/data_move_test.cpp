@@ -90,7 +90,12 @@ TEST_F(DataMove, MovesEachRowOfTheRangeAndRenumbersTheOthers) {
         connection.close();
         EXPECT_TRUE(contentsOf(destination) == moved(before, order(withMonths)));
         EXPECT_TRUE(contentsOf(path) == left(before, order(withMonths)));
-        EXPECT_EQ(files(), QStringList({u"old.mdb"_q, u"store.mdb"_q}));
+        EXPECT_EQ(files(), QStringList({u"old.mdb"_q, u"old.mdb.old"_q, u"store.mdb"_q}));
+        EXPECT_EQ(readFile(destination + u".old"_q), "replaced without a question");
+        connection.open(path, databasePassword());
+        EXPECT_THROW((void)run(order(withMonths)), Complaint) << "nothing is left to move";
+        connection.close();
+        EXPECT_TRUE(contentsOf(destination) == moved(before, order(withMonths)));
     }
     connection.open(destination, databasePassword());
     EXPECT_EQ(count(u"M02_StaffInfo"_q), 5) << "the destination is a whole database";
@@ -236,7 +241,7 @@ TEST_F(DataMove, AtEachCallOfTheDiskEveryDayIsInOneOfBothFiles) {
         return written;
     };
     failEverywhere(desk, {restore, write, isWritten}, 200);
-    EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"old.mdb"_q, u"store.mdb"_q}));
+    EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"old.mdb"_q, u"old.mdb.old"_q, u"store.mdb"_q}));
 }
 
 TEST_F(DataMove, TheWholeCommandAsksAndTells) {

@@ -25,7 +25,9 @@ TEST_F(PurgeOffice, DeletesFromTheWindow) {
     EXPECT_EQ(stored(), u"123456"_q);
     EXPECT_FALSE(grid.selectionModel()->hasSelection());
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(2, 3)).center());
-    EXPECT_EQ(grid.selectionModel()->selectedRows().size(), 1) << "whole rows";
+    desk.prompts.expect(u"よろしいですか？"_q, Answer::Cancel);
+    cmdExec->click();
+    EXPECT_EQ(grid.selectionModel()->selectedRows().size(), 1) << "whole rows, and still after a second thought";
     desk.prompts.expect(u"よろしいですか？"_q);
     cmdExec->click();
     EXPECT_EQ(stored(), u"12346"_q);

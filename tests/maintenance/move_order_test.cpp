@@ -111,6 +111,8 @@ TEST_F(Order, APlaceThatCantTakeTheCopyIsRefused) {
             << QString::fromUtf16(name);
     for (const char16_t* name : {u"store.bak", u"store.ldb", u"here/store.bak", u"store.mdb-journal", u"Backup.mdb"})
         EXPECT_EQ(refusedPlace(desk.file(QString::fromUtf16(name))), reserved) << QString::fromUtf16(name);
+    for (const char16_t* name : {u"Parm.dat", u"other.mdb-journal", u"store"})
+        EXPECT_EQ(refusedPlace(desk.file(QString::fromUtf16(name))), u"移動先DBのファイル名が不正です。"_q);
     EXPECT_EQ(refusedPlace(desk.folder.path()), noName);
     EXPECT_EQ(refusedPlace(desk.folder.path() + u'/'), noName);
     EXPECT_EQ(refusedPlace(u"/dev/null"_q), noName);

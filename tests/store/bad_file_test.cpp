@@ -95,9 +95,10 @@ TEST_F(BadFile, AFileThatMayNotBeReadIsToldApart) {
 TEST_F(BadFile, CheckTellsWhatIsWrong) {
     EXPECT_TRUE(checkDatabase(path).isEmpty());
     runEngine(path, "PRAGMA foreign_keys=OFF; INSERT INTO T02_Kurbo (F_KurboID, F_DateID) VALUES (1, '19990101');"
-                    "DROP TABLE T04_Destination");
+                    "DROP TABLE T04_Destination; DROP INDEX I_01");
     const QStringList wrong = checkDatabase(path);
-    ASSERT_EQ(wrong.size(), 2);
+    ASSERT_GE(wrong.size(), 3);
+    EXPECT_TRUE(wrong.contains(u"index missing: I_01"_q));
     EXPECT_TRUE(wrong[0].contains(u"T02_Kurbo"_q));
     EXPECT_TRUE(wrong[1].contains(u"T04_Destination"_q));
 }
