@@ -4,7 +4,6 @@
 #include "card/card_checks.h"
 #include "card/rptGoOut.h"
 #include "paper/frmPreview.h"
-#include "screen/frmAbout.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/show_now.h"
@@ -51,6 +50,13 @@ void frmGoOut::dressFields() {
 }
 
 void frmGoOut::connectCommands() {
+    // While a cell is typed into, the update is open: it takes the cell first.
+    connect(ui_->vfgGoOut, &Grid::ChangeEdit, this, [this] {
+        ui_->cmdUpdate->setEnabled(true);
+        ui_->mnuUpdate->setEnabled(true);
+    });
+    connect(ui_->vfgGoOut, &Grid::AfterEdit, this, &frmGoOut::showCommands);
+    for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
     connect(ui_->cmdUpdate, &QPushButton::clicked, this, &frmGoOut::update);
     connect(ui_->mnuUpdate, &QAction::triggered, this, &frmGoOut::update);
     connect(ui_->cmdPrint, &QPushButton::clicked, this, &frmGoOut::print);
@@ -59,9 +65,7 @@ void frmGoOut::connectCommands() {
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(ui_->mnuGInsert, &QAction::triggered, this, &frmGoOut::insertRow);
     connect(ui_->mnuGDelete, &QAction::triggered, this, &frmGoOut::deleteRow);
-    connect(ui_->mnuTopic, &QAction::triggered, this,
-            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
-    connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
+    wireHelp(*this, client_);
 }
 
 void frmGoOut::setPeriod(Period period) {

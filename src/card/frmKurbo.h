@@ -43,7 +43,7 @@ class frmKurbo final : public ScreenForm {
     void showState() override;
     void showNames();
     void showPeriod();
-    void showCommands();
+    void showCommands() override;
     void showApproval();
     void sectionChosen();
     void staffChosen();

@@ -21,7 +21,9 @@ frmMaintainance::frmMaintainance(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmMaintainance::~frmMaintainance() = default;
+frmMaintainance::~frmMaintainance() {
+    putAway();
+}
 
 void frmMaintainance::dressFields() {
     const QString noDay = QStringLiteral("不正な入力です。日付はyyyy/mm/ddの形式で入力します。");

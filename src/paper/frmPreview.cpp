@@ -4,6 +4,7 @@
 #include "base/product.h"
 #include "paper/page_view.h"
 #include "paper/paper_pdf.h"
+#include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/show_now.h"
 #include "ui_frmPreview.h"
@@ -89,6 +90,8 @@ void frmPreview::connectCommands() {
     connect(ui_->txtPage, &QSpinBox::valueChanged, this, [this](int page) { showPage(page - 1); });
     connect(ui_->cboZoom, &QComboBox::currentIndexChanged, this, &frmPreview::applyZoom);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { openHelp(context_.prompts, context_.paths.helpPath, *this); });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &frmPreview::print);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, &frmPreview::savePdf);
 }

@@ -71,6 +71,8 @@ void Grid::dress(QTableView& view, GridHeader& headings, GridDelegate& cells) {
     const int height = std::max(rowTwips * logicalDpiY() / twipsAnInch, fontMetrics().height() + 2);
     headings.setRowHeight(height);
     connect(&cells, &GridDelegate::goOn, this, &Grid::step);
+    connect(&cells, &GridDelegate::typed, this, &Grid::ChangeEdit);
+    connect(&cells, &GridDelegate::closeEditor, this, &Grid::AfterEdit);
     headings.setFont(font());
     QHeaderView& side = *view.verticalHeader();
     side.setFont(font());

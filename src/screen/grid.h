@@ -55,6 +55,9 @@ class Grid final : public QTableView {
 
   Q_SIGNALS:
     void AfterRowColChange(int oldRow, int oldCol, int newRow, int newCol);
+    // The person types into the open editor; and an editor has closed, whatever has become of its text.
+    void ChangeEdit();
+    void AfterEdit();
 
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;

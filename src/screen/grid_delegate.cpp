@@ -136,10 +136,14 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     editor_ = list.isEmpty() ? textField(parent, grid_->ColEditMask(index.column())) : dropDown(parent, list);
     cell_ = index;
     SetImeOpen(editor_, rules->isJapanese(index.column()));
-    if (const auto* const combo = qobject_cast<QComboBox*>(editor_.data()))
+    if (const auto* const combo = qobject_cast<QComboBox*>(editor_.data())) {
+        connect(combo, &QComboBox::editTextChanged, this, &GridDelegate::typed);
         for (QObject* const part :
              {static_cast<QObject*>(combo->view()), static_cast<QObject*>(combo->view()->viewport())})
             part->installEventFilter(const_cast<GridDelegate*>(this));
+    } else if (const auto* const field = qobject_cast<QLineEdit*>(editor_.data())) {
+        connect(field, &QLineEdit::textEdited, this, &GridDelegate::typed);
+    }
     return editor_;
 }
 

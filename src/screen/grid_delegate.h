@@ -41,6 +41,8 @@ class GridDelegate final : public QStyledItemDelegate {
   Q_SIGNALS:
     // The text was taken; the cursor goes on by so many cells.
     void goOn(int rows, int columns);
+    // The person has changed the text in the open editor.
+    void typed();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,10 +1,16 @@
 #pragma once
 
-#include "base/prompts.h"
+#include "store/client.h"
+
+#include <QWidget>
 
 namespace kurbo {
 
-// Opens the help file in the system's viewer, or says that it is missing.
-void openHelp(Prompts& prompts, const QString& path);
+// Opens a help file where it speaks of the window's active control, or else of what holds that control, of the window,
+// or at its top; says so when the file is missing.
+void openHelp(Prompts& prompts, const QString& path, QWidget& window);
+
+// F1 and mnuTopic open the help of who is logged in, and mnuVersion shows the version, as far as the window has them.
+void wireHelp(QWidget& window, const Client& client);
 
 } // namespace kurbo

@@ -1,13 +1,13 @@
 #include "screen/screen_form.h"
 
 #include "base/product.h"
-#include "screen/frmAbout.h"
 #include "screen/grid.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 
-#include <QAbstractButton>
+#include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStatusBar>
@@ -23,18 +23,24 @@ ScreenForm::ScreenForm(Client& client, QWidget* parent) : QMainWindow(parent), c
 void ScreenForm::dress(const QString& title) {
     setWindowTitle(productName() + u'－' + title);
     menuBar()->setNativeMenuBar(false);
+    dressKeys();
+    for (Grid* const grid : findChildren<Grid*>()) {
+        connect(grid, &Grid::ChangeEdit, this, [this] { openUpdate(); });
+        connect(grid, &Grid::AfterEdit, this, [this] { showCommands(); });
+    }
+}
+
+void ScreenForm::dressKeys() {
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    const auto onAction = [this](const QString& name, const Command& body) {
-        if (auto* const action = findChild<QAction*>(name)) connect(action, &QAction::triggered, this, body);
-    };
-    onAction(QStringLiteral("mnuClose"), [this] { close(); });
-    const auto help = [this] { openHelp(client_.context.prompts, client_.helpPath()); };
-    onAction(QStringLiteral("mnuTopic"), help);
-    if (auto* const mnuTopic = findChild<QAction*>(QStringLiteral("mnuTopic")))
-        mnuTopic->setShortcut(Qt::Key_F1);
-    else
-        connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, help);
-    onAction(QStringLiteral("mnuVersion"), [this] { frmAbout(client_.helpPath(), this).exec(); });
+    for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
+    if (auto* const mnuClose = findChild<QAction*>(QStringLiteral("mnuClose")))
+        connect(mnuClose, &QAction::triggered, this, &QWidget::close);
+    wireHelp(*this, client_);
+}
+
+void ScreenForm::openUpdate() {
+    if (auto* const cmdUpdate = findChild<QPushButton*>(QStringLiteral("cmdUpdate"))) cmdUpdate->setEnabled(true);
+    if (auto* const mnuUpdate = findChild<QAction*>(QStringLiteral("mnuUpdate"))) mnuUpdate->setEnabled(true);
 }
 
 void ScreenForm::onCommand(QAbstractButton* button, QAction* action, const Command& command) {
@@ -58,9 +64,13 @@ bool ScreenForm::finishEdits() const {
 }
 
 void ScreenForm::tellTips(Grid& grid) {
-    connect(&grid, &Grid::AfterRowColChange, this, [this, &grid](int, int, int row, int column) {
+    if (!lblTip_) {
+        lblTip_ = new QLabel(this);
+        statusBar()->addWidget(lblTip_, 1);
+    }
+    connect(&grid, &Grid::AfterRowColChange, lblTip_, [tip = lblTip_, &grid](int, int, int row, int column) {
         const GridRules* const rules = grid.grid()->rules();
-        statusBar()->showMessage(rules && row >= 0 ? rules->tip(row, column) : QString());
+        tip->setText(rules && row >= 0 ? rules->tip(row, column) : QString());
     });
 }
 

@@ -8,6 +8,7 @@
 
 class QAbstractButton;
 class QAction;
+class QLabel;
 
 namespace kurbo {
 
@@ -36,16 +37,25 @@ class ScreenForm : public QMainWindow {
     [[nodiscard]] bool finishEdits() const;
     // The tip of the current cell stands in the status line.
     void tellTips(Grid& grid);
-    // For a destructor: the window goes before what its grids show.
+    // For a destructor: the window goes, with the events of its going, before what its controls and grids work on.
     void putAway();
     // Opens the file again that the window works on, if the disk has taken it away; false after a reported failure.
     [[nodiscard]] virtual bool hasConnection() { return client_.hasConnection(objectName()); }
     // Shows what stands, after every command.
     virtual void showState() = 0;
+    // Enables what can be given now.
+    virtual void showCommands() {}
+    // Enables the update, because a cell is typed into: the command takes the cell first.
+    virtual void openUpdate();
 
     Client& client_; // NOLINT(*-non-private-member-variables-in-classes)
     // The program fills the controls, or a command runs: their events mean nothing.
     bool blnShowing_ = false; // NOLINT(*-non-private-member-variables-in-classes)
+
+  private:
+    void dressKeys();
+
+    QLabel* lblTip_ = nullptr;
 };
 
 } // namespace kurbo

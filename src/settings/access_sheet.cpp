@@ -141,6 +141,10 @@ QString newAccessName() {
     return QStringLiteral("新しいアクセス権");
 }
 
+QString deletedAccessText() {
+    return QStringLiteral("選択したアクセス権は他のユーザーによって削除されています。");
+}
+
 QString AccessSheet::sectionOf(int row) const {
     return grid.TextMatrix(row, sectionColumn).trimmed();
 }
@@ -237,7 +241,7 @@ int UpdateAccess(Connection& connection, int code, const QString& name, const Ac
     if (code == 0)
         code = GetNextAccessCode(connection);
     else if (connection.execute(QStringLiteral("DELETE * FROM M08_Access WHERE (F_AccessCode = ?);"), {code}) == 0)
-        throw Complaint(QStringLiteral("表示されているアクセス権は他のユーザーによって削除されています。"));
+        throw Complaint(deletedAccessText());
     int order = 0;
     for (int row = firstAccessRow; row < sheet.grid.Rows(); ++row)
         if (!sheet.sectionOf(row).isEmpty()) insertRow(connection, {code, name, ++order}, sheet, row);
@@ -250,7 +254,11 @@ bool IsUsedAccess(Connection& connection, int code) {
 }
 
 void DeleteAccess(Connection& connection, int code) {
+    Transaction transaction(connection);
+    if (IsUsedAccess(connection, code))
+        throw Complaint(QStringLiteral("表示されているアクセス権は使用されているため削除できません。"));
     connection.execute(QStringLiteral("DELETE * FROM M08_Access WHERE (F_AccessCode = ?);"), {code});
+    transaction.commit();
 }
 
 } // namespace kurbo

@@ -16,6 +16,7 @@ inline constexpr int firstAccessRow = 2;
 
 // Stands for a right that is still to be made.
 [[nodiscard]] QString newAccessName();
+[[nodiscard]] QString deletedAccessText();
 
 // The rows of the shown right, as they stand on the screen.
 struct AccessSheet {
@@ -57,6 +58,7 @@ void checkAccess(Connection& connection, int code, const QString& name, const Ac
 [[nodiscard]] int UpdateAccess(Connection& connection, int code, const QString& name, const AccessSheet& sheet);
 // Whether somebody has the right.
 [[nodiscard]] bool IsUsedAccess(Connection& connection, int code);
+// Complains when somebody has been given the right meanwhile.
 void DeleteAccess(Connection& connection, int code);
 
 } // namespace kurbo

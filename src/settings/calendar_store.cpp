@@ -1,18 +1,13 @@
 #include "settings/calendar_store.h"
 
-#include "base/failure.h"
-
 namespace kurbo {
 namespace {
 
+// A day that has gone meanwhile is passed over.
 void updateDay(Connection& connection, const CalendarSheet& sheet, int row) {
-    const auto changed = connection.execute(
-        QStringLiteral("UPDATE T01_Calendar SET F_Holiday = ?, F_Type = ? WHERE (F_DateID = ?);"),
-        {Value::textOrNull(sheet.text(row, CalendarColumn::Name)),
-         Value::textOrNull(sheet.text(row, CalendarColumn::Kind)), sheet.text(row, CalendarColumn::Id)});
-    if (changed == 0)
-        throw Complaint(sheet.text(row, CalendarColumn::Date) +
-                        QStringLiteral("は他のユーザーによってカレンダーから削除されています。"));
+    connection.execute(QStringLiteral("UPDATE T01_Calendar SET F_Holiday = ?, F_Type = ? WHERE (F_DateID = ?);"),
+                       {Value::textOrNull(sheet.text(row, CalendarColumn::Name)),
+                        Value::textOrNull(sheet.text(row, CalendarColumn::Kind)), sheet.text(row, CalendarColumn::Id)});
 }
 
 QList<CalendarRow> readYear(Connection& connection, int year) {

@@ -8,6 +8,8 @@
 #include "screen/vfg_copy.h"
 #include "ui_frmAccess.h"
 
+#include <algorithm>
+
 namespace kurbo {
 namespace {
 
@@ -52,24 +54,27 @@ void frmAccess::readAll() {
 }
 
 int frmAccess::code() const {
-    return ui_->dtsAccess->boundText().toInt();
+    return shown_.toInt();
 }
 
+// Everything is read before anything is shown. A right that another client has deleted gives way to the new one.
 void frmAccess::showRight(const QString& code) {
-    ui_->dtsAccess->setEntries(accessNames(client_.HomeConnection));
-    ui_->dtsAccess->setBoundText(code);
-    shown_ = code;
+    const QList<CodeName> names = accessNames(client_.HomeConnection);
+    const bool there = std::ranges::find(names, code, &CodeName::code) != names.end();
+    ShowAccess(client_.HomeConnection, there ? code.toInt() : 0, style_, sheet_);
+    shown_ = there ? code : noCode;
+    ui_->dtsAccess->setEntries(names);
+    ui_->dtsAccess->setBoundText(shown_);
     ui_->txtAccess->setText(ui_->dtsAccess->text());
-    ShowAccess(client_.HomeConnection, code.toInt(), style_, sheet_);
+    if (!there && code != noCode) client_.context.prompts.exclaim(deletedAccessText());
 }
 
 void frmAccess::rightChosen() {
     const QString chosen = ui_->dtsAccess->boundText();
-    if (chosen == shown_) return;
-    if (finishEdits() && mayDiscard(QStringLiteral("アクセス権")))
-        reload([this, &chosen] { showRight(chosen); });
-    else
-        ui_->dtsAccess->setBoundText(shown_);
+    if (blnShowing_ || chosen == shown_) return;
+    const bool shown = finishEdits() && mayDiscard(QStringLiteral("アクセス権")) &&
+                       reload(u"ShowAccess", [this, &chosen] { showRight(chosen); });
+    if (!shown) ui_->dtsAccess->setBoundText(shown_);
 }
 
 void frmAccess::updateRight() {
@@ -78,7 +83,7 @@ void frmAccess::updateRight() {
     int written = code();
     if (update({u"CheckData", [&] { checkAccess(home, code(), name, sheet_); }},
                {u"UpdateAccess", [&] { written = UpdateAccess(home, code(), name, sheet_); }}))
-        reload([this, written] { showRight(QString::number(written)); });
+        reload(u"ShowAccess", [this, written] { showRight(QString::number(written)); });
 }
 
 void frmAccess::deleteRight() {
@@ -89,7 +94,7 @@ void frmAccess::deleteRight() {
                           QStringLiteral("アクセス権の削除に失敗しました。"),
                           [&] { return IsUsedAccess(home, code()); },
                           {u"DeleteAccess", [&] { DeleteAccess(home, code()); }}};
-    if (removeSetting(client_.context, objectName(), removal)) reload([this] { showRight(noCode); });
+    if (removeSetting(client_.context, objectName(), removal)) reload(u"ShowAccess", [this] { showRight(noCode); });
 }
 
 void frmAccess::printRight() {

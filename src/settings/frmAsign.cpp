@@ -10,6 +10,8 @@
 #include "settings/listing.h"
 #include "ui_frmAsign.h"
 
+#include <QScopedValueRollback>
+
 namespace kurbo {
 namespace {
 
@@ -34,7 +36,9 @@ frmAsign::frmAsign(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmAsign::~frmAsign() = default;
+frmAsign::~frmAsign() {
+    putAway();
+}
 
 void frmAsign::findFields() {
     boxes_ = {ui_->txtPassword, ui_->txtCloseDay, ui_->txtPaid, ui_->txtEnterDelay, ui_->txtLeaveGain};
@@ -68,6 +72,7 @@ void frmAsign::dressChoices() {
     for (int page = 0; page < workTimes; ++page)
         connect(findChild<QPushButton*>(QStringLiteral("cmdWorkTime_%1").arg(page)), &QPushButton::clicked, this,
                 &frmAsign::openSetting<frmWorkTime>);
+    checkOnLeavingPages(*ui_->tabStaff);
     connect(ui_->cmdAccess, &QPushButton::clicked, this, &frmAsign::openSetting<frmAccess>);
 }
 
@@ -106,19 +111,24 @@ void frmAsign::readAll() {
     fillStaff(sections.isEmpty() ? QString() : sections.first().code);
 }
 
-// Everybody where there is no section.
+// Everybody where there is no section. Everything is read before anything is shown.
 void frmAsign::fillStaff(const QString& section) {
+    const QList<CodeName> people = settingStaff(client_.HomeConnection, section);
+    const QString first = people.isEmpty() ? QString() : people.first().code;
+    const StaffSettings settings = ShowStaff(client_.HomeConnection, first, style_);
     section_ = section;
     ui_->dcbSection->setBoundText(section);
-    const QList<CodeName> people = settingStaff(client_.HomeConnection, section);
     ui_->dtsStaff->setEntries(people);
-    showStaff(people.isEmpty() ? QString() : people.first().code);
+    showSettings(first, settings);
 }
 
 void frmAsign::showStaff(const QString& staff) {
+    showSettings(staff, ShowStaff(client_.HomeConnection, staff, style_));
+}
+
+void frmAsign::showSettings(const QString& staff, const StaffSettings& settings) {
     staff_ = staff;
     ui_->dtsStaff->setBoundText(staff);
-    const StaffSettings settings = ShowStaff(client_.HomeConnection, staff, style_);
     for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setText(settings.texts[i]);
     for (std::size_t i = 0; i < combos_.size(); ++i) combos_[i]->setBoundText(settings.codes[i]);
     ui_->tabStaff->setEnabled(!staff.isEmpty());
@@ -137,22 +147,21 @@ bool frmAsign::mayLeave() {
     return mayDiscard(QStringLiteral("社員設定"));
 }
 
+// The question takes the focus from the section's box, which tells of it again.
 void frmAsign::sectionChosen() {
     if (blnShowing_ || !ui_->dcbSection->isInList()) return;
     const QString chosen = ui_->dcbSection->boundText();
     if (chosen == section_) return;
-    if (mayLeave())
-        reload([this, &chosen] { fillStaff(chosen); });
-    else
-        fill([this] { ui_->dcbSection->setBoundText(section_); });
+    const QScopedValueRollback showing(blnShowing_, true);
+    if (!mayLeave() || !reload(u"ShowStaff", [this, &chosen] { fillStaff(chosen); }))
+        ui_->dcbSection->setBoundText(section_);
 }
 
 void frmAsign::staffChosen() {
     const QString chosen = ui_->dtsStaff->boundText();
-    if (chosen == staff_) return;
-    if (mayLeave())
-        reload([this, &chosen] { showStaff(chosen); });
-    else
+    if (blnShowing_ || chosen == staff_) return;
+    const QScopedValueRollback showing(blnShowing_, true);
+    if (!mayLeave() || !reload(u"ShowStaff", [this, &chosen] { showStaff(chosen); }))
         ui_->dtsStaff->setBoundText(staff_);
 }
 
@@ -160,9 +169,10 @@ void frmAsign::updateStaff() {
     const StaffSettings settings = collected();
     if (update({u"CheckData", [&] { checkStaffSettings(settings, style_); }},
                {u"UpdateStaff", [&] { UpdateStaff(client_.HomeConnection, staff_, settings, style_); }}))
-        reload([this] { showStaff(staff_); });
+        reload(u"ShowStaff", [this] { showStaff(staff_); });
 }
 
+// The person is blank from then on.
 void frmAsign::deleteStaff() {
     const QString question =
         lines(QStringLiteral("選択したユーザーの設定を削除します。"),
@@ -173,10 +183,9 @@ void frmAsign::deleteStaff() {
         DeleteStaff(client_.HomeConnection, staff_);
         return true;
     });
-    if (gone)
-        reload([this] { showStaff(staff_); });
-    else
-        client_.context.prompts.exclaim(QStringLiteral("削除できませんでした。"));
+    if (!gone) return client_.context.prompts.exclaim(QStringLiteral("削除できませんでした。"));
+    fill([this] { showSettings(staff_, {}); });
+    setChanged(false);
 }
 
 void frmAsign::PrintStaff() {

@@ -30,6 +30,7 @@ class frmAsign final : public SettingsForm {
     void connectCommands();
     void fillStaff(const QString& section);
     void showStaff(const QString& staff);
+    void showSettings(const QString& staff, const StaffSettings& settings);
     [[nodiscard]] StaffSettings collected() const;
     [[nodiscard]] bool mayLeave();
     void sectionChosen();

@@ -16,7 +16,9 @@ frmCorp::frmCorp(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmCorp::~frmCorp() = default;
+frmCorp::~frmCorp() {
+    putAway();
+}
 
 void frmCorp::readAll() {
     showTexts(readCorp(client_.HomeConnection));

@@ -33,7 +33,9 @@ frmPassword::frmPassword(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmPassword::~frmPassword() = default;
+frmPassword::~frmPassword() {
+    putAway();
+}
 
 void frmPassword::checkBoxes() {
     new LeaveCheck(

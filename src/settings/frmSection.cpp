@@ -17,7 +17,9 @@ frmSection::frmSection(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmSection::~frmSection() = default;
+frmSection::~frmSection() {
+    putAway();
+}
 
 void frmSection::browse() {
     if (const auto path = client_.context.prompts.openFile(QStringLiteral("DBﾌｧｲﾙ(*.mdb)|*.mdb")))

@@ -15,7 +15,9 @@ frmStaff::frmStaff(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmStaff::~frmStaff() = default;
+frmStaff::~frmStaff() {
+    putAway();
+}
 
 void frmStaff::recordShown() {
     const auto typed = [](const MaskedBox* box) { return box->isBlank() ? QString() : box->maskText(); };

@@ -1,5 +1,6 @@
 #include "settings/frmWorkStyle.h"
 
+#include "screen/field_tests.h"
 #include "screen/fields.h"
 #include "screen/masked_box.h"
 #include "screen/show_now.h"
@@ -21,6 +22,10 @@ void choose(const std::vector<QRadioButton*>& options, int index) {
         options[static_cast<std::size_t>(index)]->setChecked(true);
 }
 
+QString timeRefusal(const QString& text) {
+    return isTimeText(text) ? QString() : QStringLiteral("不正な入力です。時間を入力して下さい。");
+}
+
 void enableAll(const std::vector<QRadioButton*>& options, bool enabled) {
     for (QRadioButton* const option : options) option->setEnabled(enabled);
 }
@@ -38,7 +43,9 @@ frmWorkStyle::frmWorkStyle(Client& client, QWidget* parent)
     placeInMiddle(this);
 }
 
-frmWorkStyle::~frmWorkStyle() = default;
+frmWorkStyle::~frmWorkStyle() {
+    putAway();
+}
 
 frmWorkStyle::Options frmWorkStyle::options(const QString& name, int count) const {
     Options found;
@@ -60,10 +67,10 @@ void frmWorkStyle::dressFields() {
     optRound_ = options(QStringLiteral("optRound"), 2);
     for (std::size_t item = 0; item < chkDisplay_.size(); ++item)
         chkDisplay_[item] = findChild<QCheckBox*>(QStringLiteral("chkDisplay_%1").arg(item));
-    for (MaskedBox* const box : {ui_->mskTime, ui_->mskAmTime, ui_->mskPmTime})
-        box->setRefusal(QStringLiteral("不正な入力です。時間を入力して下さい。"), client_.context.prompts);
+    for (MaskedBox* const box : {ui_->mskTime, ui_->mskAmTime, ui_->mskPmTime}) checkOnLeaving(box, &timeRefusal);
     SetImeOpen(ui_->txtUnit, false);
     checkOnLeaving(ui_->txtUnit, &roundUnitRefusal);
+    checkOnLeavingPages(*ui_->tabStyle);
 }
 
 void frmWorkStyle::connectCommands() {

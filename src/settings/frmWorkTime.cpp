@@ -190,6 +190,11 @@ void frmWorkTime::pageChosen(int index) {
     ui_->tabTime->setCurrentIndex(shown_);
 }
 
+void frmWorkTime::openUpdate() {
+    shownPage().cmdUpdate->setEnabled(true);
+    shownPage().mnuUpdate->setEnabled(true);
+}
+
 void frmWorkTime::showState() {
     ui_->mnuGrid->setEnabled(isAlive());
     for (const auto& page : pages_) {

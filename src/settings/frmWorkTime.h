@@ -30,6 +30,7 @@ class frmWorkTime final : public SettingsForm {
   protected:
     void readAll() override;
     void showState() override;
+    void openUpdate() override;
     [[nodiscard]] bool mayClose() override;
 
   private:

@@ -24,6 +24,7 @@ struct RecordField {
     const char16_t* subject;                // of messages; of an option the word for 0
     const char16_t* rule;                   // what would be right; of an option the word for 1
     const char16_t* ruleOnUpdate = nullptr; // where the check before an update says it in other words
+    const char16_t* preset = nullptr;       // what most new records have there
 };
 using RecordFields = std::span<const RecordField>;
 

@@ -90,7 +90,12 @@ QList<CodeName> recordNames(Connection& connection, const RecordList& list) {
 RecordTexts readRecord(Connection& connection, const RecordList& list, const QString& code) {
     const RecordSet row(connection, text(list.show), {code});
     if (!row.atRow()) throw storeFault(StoreError::RowGone);
-    return readFields(list.fields, row);
+    RecordTexts texts = readFields(list.fields, row);
+    for (qsizetype i = 0; code == newCode() && i < texts.size(); ++i)
+        if (const char16_t* const preset = list.fields[static_cast<std::size_t>(i)].preset;
+            preset && texts[i].isEmpty())
+            texts[i] = text(preset);
+    return texts;
 }
 
 bool isUsedRecord(Connection& connection, const RecordList& list, const QString& code) {

@@ -16,8 +16,9 @@ constexpr std::array fields{
                 u"ﾌｧｯｸｽ番号は半角20文字以内で入力します。"},
     RecordField{u"F_DB", u"cboDB", u"    DBﾌｧｲﾙ：", Text, 100, false, true, u"データベースのパス",
                 u"\r\nデータベースのパスは全角50文字(半角100文字)以内で入力します。\r\n"
-                u"データベースの保存場所を変更し、パスを短縮して下さい。"},
-    RecordField{u"F_Display", u"chkDisplay", u"      表示：", Flag, 0, false, false, u"", u""},
+                u"データベースの保存場所を変更し、パスを短縮して下さい。",
+                nullptr, u"カレントデータベース"},
+    RecordField{u"F_Display", u"chkDisplay", u"      表示：", Flag, 0, false, false, u"", u"", nullptr, u"1"},
 };
 
 constexpr RecordList list{

@@ -10,6 +10,8 @@
 #include <QComboBox>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace kurbo {
 
 void SettingsForm::load() {
@@ -19,7 +21,7 @@ void SettingsForm::load() {
                  fill([this] { readAll(); });
                  return alive_;
              });
-    if (centralWidget()) centralWidget()->setEnabled(alive_);
+    if (!alive_) endWork();
     setChanged(false);
 }
 
@@ -42,11 +44,20 @@ void SettingsForm::fill(const Command& show) {
     show();
 }
 
-void SettingsForm::reload(const Command& show) {
-    guarded(client_.context, objectName(), u"Show", [&] {
+bool SettingsForm::reload(QStringView procedure, const Command& show) {
+    return guarded(client_.context, objectName(), procedure, false, [&] {
         fill(show);
         setChanged(false);
+        return true;
     });
+}
+
+// What is left is to close the window, and the help.
+void SettingsForm::endWork() {
+    centralWidget()->setEnabled(false);
+    const QStringList open{QStringLiteral("mnuClose"), QStringLiteral("mnuTopic"), QStringLiteral("mnuVersion")};
+    for (QAction* const action : findChildren<QAction*>())
+        if (!action->objectName().isEmpty() && !open.contains(action->objectName())) action->setEnabled(false);
 }
 
 void SettingsForm::changedByPerson() {
@@ -84,9 +95,30 @@ void SettingsForm::checkOnLeaving(QWidget* field, const std::function<QString(co
         const QString text = masked ? masked->maskText() : editorOf(field)->text().trimmed();
         return text.isEmpty() ? QString() : refusal(text);
     };
+    checks_.push_back({field, refused});
     new LeaveCheck(
         field, [refused] { return refused().isEmpty(); },
         [this, refused] { client_.context.prompts.exclaim(refused()); });
+}
+
+void SettingsForm::checkOnLeavingPages(QTabWidget& pages) {
+    connect(&pages, &QTabWidget::currentChanged, this, [this, &pages, left = pages.currentIndex()](int index) mutable {
+        const int last = std::exchange(left, index);
+        if (!blnShowing_ && last != index) pageLeft(pages, last);
+    });
+}
+
+// The page comes back with the field that is refused.
+void SettingsForm::pageLeft(QTabWidget& pages, int left) {
+    const QWidget* const page = pages.widget(left);
+    for (const Check& check : checks_) {
+        const QString refusal = page->isAncestorOf(check.field) ? check.refusal() : QString();
+        if (refusal.isEmpty()) continue;
+        fill([&] { pages.setCurrentIndex(left); });
+        check.field->setFocus();
+        SelectAllText(editorOf(check.field));
+        return client_.context.prompts.exclaim(refusal);
+    }
 }
 
 void SettingsForm::closeEvent(QCloseEvent* event) {

@@ -5,6 +5,9 @@
 #include "settings/settings_steps.h"
 
 #include <QLineEdit>
+#include <QTabWidget>
+
+#include <vector>
 
 namespace kurbo {
 
@@ -34,6 +37,7 @@ class SettingsForm : public ScreenForm {
     [[nodiscard]] virtual bool mayClose() { return mayDiscard(subject_); }
     // cmdUpdate and mnuUpdate follow the changed flag.
     void showState() override;
+    void showCommands() override { showState(); }
     [[nodiscard]] bool hasConnection() override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -43,8 +47,9 @@ class SettingsForm : public ScreenForm {
     void watch(QWidget& part);
     // Fills controls with the loading flag set.
     void fill(const Command& show);
-    // Shows records anew: fills controls, and the changed flag goes down. A failure is reported.
-    void reload(const Command& show);
+    // Shows records anew: fills controls, and the changed flag goes down. False after a failure, which is reported
+    // under the procedure and leaves the flag.
+    bool reload(QStringView procedure, const Command& show);
     void setChanged(bool changed);
     [[nodiscard]] bool isChanged() const { return changed_; }
     // Asks when there are changes; true when they may go.
@@ -54,10 +59,20 @@ class SettingsForm : public ScreenForm {
     // Keeps the focus in a field whose text the rule refuses. The rule gives the refusal, empty for a good text; an
     // empty field is always good.
     void checkOnLeaving(QWidget* field, const std::function<QString(const QString& text)>& refusal);
+    // The same when a page is left for another one.
+    void checkOnLeavingPages(QTabWidget& pages);
 
   private:
-    void changedByPerson();
+    struct Check {
+        QWidget* field;
+        std::function<QString()> refusal;
+    };
 
+    void changedByPerson();
+    void pageLeft(QTabWidget& pages, int left);
+    void endWork();
+
+    std::vector<Check> checks_;
     QString subject_;
     bool changed_ = false;
     bool alive_ = true;

@@ -41,7 +41,7 @@ constexpr std::array fields{
                 u"入社日はyyyy/mm/ddの形式で入力します。", dateOnUpdate},
     RecordField{u"F_Retire", u"mskRetire", u"    退社日：", Date, 0, false, false, u"退社日",
                 u"退社日はyyyy/mm/ddの形式で入力します。", dateOnUpdate},
-    RecordField{u"F_Display", u"chkDisplay", u"      表示：", Flag, 0, false, false, u"", u""},
+    RecordField{u"F_Display", u"chkDisplay", u"      表示：", Flag, 0, false, false, u"", u"", nullptr, u"1"},
 };
 
 constexpr RecordList list{

@@ -140,7 +140,8 @@ QString steppedPaid(const QString& text, bool up) {
 }
 
 QString steppedSeconds(const QString& text, bool up) {
-    const bool valid = isSeconds(text);
+    constexpr double longest = 1e6;
+    const bool valid = IsIntegerText(text, IntegerMode::NotNegative) && *numberOf(text) <= longest;
     const int seconds = valid ? wholeOf<int>(*numberOf(text)) : 0;
     if (up) return QString::number(valid && seconds < mostSeconds ? seconds + 1 : 0);
     return QString::number(seconds > 0 ? seconds - 1 : mostSeconds);

@@ -39,8 +39,12 @@ void fill(TimeSheet& sheet, const RecordSet& record) {
     }
 }
 
+// A limit of nothing would cap the hours at nothing: what was pasted and is none is refused.
 void setLimit(RecordSet& record, const TimeSheet& sheet, int row, bool stored) {
     const QString limit = sheet.grid.TextMatrix(row, 1);
+    if (stored && !limit.isEmpty() && !isLimit(limit))
+        throw Complaint(sheet.grid.TextMatrix(row, 0) +
+                        QStringLiteral("の調整時間が不正です。時間をhh:mm形式で入力して下さい。"));
     record.set(text(sheet.rowAt(row).field), stored && !limit.isEmpty() ? Value(ParseHours(limit, 1)) : Value());
 }
 

@@ -1,4 +1,3 @@
-#include "screen/coming_screens.h"
 #include "screen/frmAbout.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
@@ -74,10 +73,7 @@ void frmLogin::openScreen(const QString& screen) {
     tmrTimer_->stop();
     {
         const Hourglass hourglass;
-        if (QMainWindow* const form = makeScreen(client_, screen))
-            showScreen(*form);
-        else
-            showComingScreen(client_.context, screen);
+        showScreen(*makeScreen(client_, screen));
     }
     tmrTimer_->start();
 }
@@ -92,8 +88,9 @@ void frmLogin::showScreen(QMainWindow& form) {
     form.show();
 }
 
+// What an open screen shows would go to the other file with its next update.
 void frmLogin::openParm() {
-    if (!ReConnect()) return;
+    if (!ReConnect() || !closeScreens()) return;
     tmrTimer_->stop();
     frmParm form(client_, this);
     connect(&form, &frmParm::databaseChosen, this, &frmLogin::databaseChanged);
@@ -109,7 +106,7 @@ void frmLogin::showVersion() {
 }
 
 void frmLogin::showTopics() {
-    if (ReConnect()) openHelp(client_.context.prompts, client_.helpPath());
+    if (ReConnect()) openHelp(client_.context.prompts, client_.helpPath(), *this);
 }
 
 } // namespace kurbo

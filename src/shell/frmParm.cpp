@@ -2,7 +2,6 @@
 
 #include "base/product.h"
 #include "screen/fields.h"
-#include "screen/frmAbout.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "shell/choose_database.h"
@@ -23,9 +22,7 @@ frmParm::frmParm(Client& client, QWidget* parent)
     connect(ui_->cmdDB, &QPushButton::clicked, this, &frmParm::browse);
     connect(ui_->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmParm::cancel);
-    connect(ui_->mnuTopic, &QAction::triggered, this,
-            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
-    connect(ui_->mnuVersion, &QAction::triggered, this, &frmParm::showVersion);
+    wireHelp(*this, client_);
     SetImeOpen(ui_->txtDB, false);
     ui_->txtDB->setText(client_.DbPath);
 }
@@ -42,10 +39,6 @@ void frmParm::browse() {
 void frmParm::cancel() {
     cancelled_ = true;
     reject();
-}
-
-void frmParm::showVersion() {
-    frmAbout(client_.helpPath(), this).exec();
 }
 
 // Every way out leads through here: the buttons, Esc and the window's own close.

@@ -31,7 +31,6 @@ class frmParm final : public QDialog {
   private:
     void browse();
     void cancel();
-    void showVersion();
     // False when the form stays.
     [[nodiscard]] bool unload();
 

@@ -60,7 +60,8 @@ constexpr std::array screens{
 
 QMainWindow* makeScreen(Client& client, const QString& name) {
     const auto found = std::ranges::find_if(screens, [&](const Screen& screen) { return name == screen.name; });
-    return found == screens.end() ? nullptr : found->make(client);
+    Q_ASSERT(found != screens.end());
+    return found->make(client);
 }
 
 } // namespace kurbo

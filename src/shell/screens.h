@@ -6,7 +6,7 @@
 
 namespace kurbo {
 
-// Makes and loads a screen by its form's name; null for one that a later version brings.
+// Makes and loads a screen by its form's name, which is one of those in the table.
 [[nodiscard]] QMainWindow* makeScreen(Client& client, const QString& name);
 
 } // namespace kurbo

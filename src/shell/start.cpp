@@ -2,6 +2,7 @@
 
 #include "screen/box_prompts.h"
 #include "screen/hourglass.h"
+#include "shell/delivery.h"
 #include "shell/frmLogin.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
@@ -12,7 +13,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 
 #include <optional>
 
@@ -54,11 +54,6 @@ class Screens final : public StartScreens {
     std::optional<frmLogin> login_;
 };
 
-// A file that is there already is the company's own, and stays.
-void deliverHolidays(const QString& path) {
-    QFile::copy(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo/Holiday.txt"), path);
-}
-
 } // namespace
 
 int runClient(const QString& appFolder, const Clock& clock) {
@@ -71,7 +66,7 @@ int runClient(const QString& appFolder, const Clock& clock) {
     }
     QDir::setCurrent(appFolder);
     const Paths paths = pathsIn(appFolder);
-    deliverHolidays(paths.HolidayPath);
+    deliverFiles(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo"), paths);
     frmWaiting waiting;
     const Context context{prompts, clock, paths, waiting};
     WaitBox waitBox;

@@ -1,7 +1,6 @@
 #include "totals/frmCsv.h"
 
 #include "base/product.h"
-#include "screen/frmAbout.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
 #include "screen/show_now.h"
@@ -51,9 +50,7 @@ frmCsv::frmCsv(Client& client, int countUnit, QWidget* parent)
         connect(action, &QAction::triggered, this, body);
     }
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &frmCsv::cancel);
-    connect(ui_->mnuTopic, &QAction::triggered, this,
-            [this] { openHelp(client_.context.prompts, client_.helpPath()); });
-    connect(ui_->mnuVersion, &QAction::triggered, this, [this] { frmAbout(client_.helpPath(), this).exec(); });
+    wireHelp(*this, client_);
     fillScreen(this, {1300, 640});
 }
 

@@ -36,7 +36,7 @@ class frmTotal final : public ScreenForm {
     void showState() override;
     void showNames();
     void showSpan();
-    void showCommands();
+    void showCommands() override;
     void sectionChosen();
     void staffChosen();
     void loadCsv();

@@ -2,6 +2,7 @@
 
 #include "demo/demo_company.h"
 #include "shell/application.h"
+#include "shell/delivery.h"
 #include "shell/frmWaiting.h"
 #include "store/database_file.h"
 #include "tour/working_day.h"
@@ -48,6 +49,7 @@ int tour(const QString& folder) {
     Camera camera(folder);
     PhotographedPrompts prompts(camera);
     const Paths paths = pathsIn(application.path());
+    deliverFiles(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo"), paths);
     frmWaiting waiting;
     const Context context{prompts, clock, paths, waiting};
     Client client(context);

@@ -201,22 +201,35 @@ void WorkingDay::administrator() {
         camera_.shoot(*menu, QStringLiteral("メニュー ") + menu->title().section(u'(', 0, 0));
         menu->close();
     }
-    showSetting("mnuCorp", "frmCorp", QStringLiteral("会社情報登録"));
-    showSetting("mnuSection", "frmSection", QStringLiteral("部課情報登録"));
-    showSetting("mnuStaff", "frmStaff", QStringLiteral("社員情報登録"));
-    showSetting("mnuPassword", "frmPassword", QStringLiteral("パスワード変更"));
+    for (const auto& [menu, form] : {std::pair{"mnuCorp", "frmCorp"},
+                                     {"mnuSection", "frmSection"},
+                                     {"mnuStaff", "frmStaff"},
+                                     {"mnuWorkStyle", "frmWorkStyle"},
+                                     {"mnuWorkTime", "frmWorkTime"},
+                                     {"mnuAccess", "frmAccess"},
+                                     {"mnuUser", "frmAsign"},
+                                     {"mnuPassword", "frmPassword"},
+                                     {"mnuMove", "frmMaintainance"},
+                                     {"mnuDeleteDestAdmin", "frmDeleteDest"}})
+        showSetting(menu, form);
     calendar();
     window_.findChild<QAction*>(QStringLiteral("mnuTopic"))->trigger();
+    settle();
+    if (QWidget* const help = screen("frmHelp")) {
+        camera_.shoot(*help, QStringLiteral("ヘルプ"));
+        help->close();
+    }
 }
 
 // In a list, the first record behind the one that stands for a new one.
-void WorkingDay::showSetting(const char* menu, const char* name, const QString& title) {
+void WorkingDay::showSetting(const char* menu, const char* name) {
     window_.findChild<QAction*>(QString::fromLatin1(menu))->trigger();
     settle();
     QWidget* const form = screen(name);
     if (!form) return;
-    if (auto* const list = form->findChild<DataList*>()) press(list, Qt::Key_Down);
-    camera_.shoot(*form, title);
+    for (DataList* const list : form->findChildren<DataList*>())
+        if (list->isVisible()) press(list, Qt::Key_Down);
+    camera_.shoot(*form, form->windowTitle().section(u'－', 1));
     form->close();
     settle();
 }

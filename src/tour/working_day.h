@@ -21,7 +21,7 @@ class WorkingDay final {
     void card();
     void totals();
     void administrator();
-    void showSetting(const char* menu, const char* name, const QString& title);
+    void showSetting(const char* menu, const char* name);
     void calendar();
     void otherWindows();
     void end();

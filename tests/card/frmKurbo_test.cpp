@@ -28,7 +28,10 @@ TEST_F(FrmKurbo, AnOrdinaryPersonSeesTheOwnCardOnly) {
 TEST_F(FrmKurbo, ACorrectionIsTypedCheckedAndStored) {
     openAs(u"1001"_q);
     type(1, plan, u"Osaka"_q);
-    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled()) << "nothing is changed yet";
+    EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled()) << "the update takes the open cell first";
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled()) << "nothing is changed";
+    type(1, plan, u"Osaka"_q);
     press(Qt::Key_Tab);
     EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled() && find<QAction>("mnuUpdate")->isEnabled());
     type(6, enter, u"9;00"_q);

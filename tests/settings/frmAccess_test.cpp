@@ -48,6 +48,22 @@ TEST_F(frmAccessTest, OneRound) {
     EXPECT_EQ(shown(), u"一般/一般"_q);
 }
 
+// One right's boxes must never be stored under another one's code.
+TEST_F(frmAccessTest, AFailedReadingKeepsTheRight) {
+    open();
+    choose(1);
+    type("txtAccess", u"Other"_q);
+    connection.engine("ALTER TABLE M08_Access RENAME TO Gone");
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes).expect(u"エラー番号："_q);
+    choose(2);
+    EXPECT_EQ(shown(), u"一般/Other"_q);
+    connection.engine("ALTER TABLE Gone RENAME TO M08_Access");
+    connection.execute(u"DELETE * FROM M08_Access WHERE (F_AccessCode = 2)"_q);
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes).expect(deletedAccessText());
+    choose(2);
+    EXPECT_EQ(shown(), u"新しいアクセス権/新しいアクセス権"_q);
+}
+
 TEST_F(frmAccessTest, WhatIsNeededStays) {
     open();
     desk.prompts.expect(u"「新しいアクセス権」は削除できません。"_q);

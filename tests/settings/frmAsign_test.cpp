@@ -72,6 +72,44 @@ TEST_F(frmAsignTest, ADeletedSettingShowsBlank) {
     EXPECT_EQ(asked(u"SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = '1001')"_q), u"山田太郎"_q);
 }
 
+// One person's values must never stand under another one's name.
+TEST_F(frmAsignTest, AFailedReadingKeepsThePerson) {
+    open();
+    type("txtPaid", u"12.5"_q);
+    connection.engine("ALTER TABLE M02_StaffInfo RENAME TO Gone");
+    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes).expect(u"エラー番号："_q);
+    chooseStaff(1);
+    EXPECT_TRUE(desk.prompts.last().title.endsWith(u"－ShowStaff"_q));
+    EXPECT_EQ(of<DataList>("dtsStaff").boundText() + text("txtPaid"), u"100112.5"_q);
+    EXPECT_TRUE(isUpdatable());
+    connection.engine("ALTER TABLE Gone RENAME TO M02_StaffInfo");
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    click("cmdUpdate");
+    EXPECT_EQ(asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q), u"12.5"_q);
+    EXPECT_EQ(asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1002')"_q), u"20"_q);
+}
+
+TEST_F(frmAsignTest, ASectionIsAskedAboutOnceAndABadFieldKeepsItsPage) {
+    connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_Order, F_Display) "
+                       "VALUES ('S02', '工場', 2, True)"_q);
+    open();
+    type("txtCloseDay", u"30"_q);
+    desk.prompts.expect(u"タイムカード締日は1～27, 31(末締は31)の範囲で入力します。"_q);
+    of<QTabWidget>("tabStaff").setCurrentIndex(1);
+    EXPECT_EQ(of<QTabWidget>("tabStaff").currentIndex(), 0);
+    EXPECT_EQ(QApplication::focusWidget(), &of<QWidget>("txtCloseDay"));
+    type("txtCloseDay", u"20"_q);
+    desk.prompts.expect(u"社員設定は変更されています。"_q, Answer::No).expect(u"社員設定は"_q, Answer::Yes);
+    auto& section = of<DataCombo>("dcbSection");
+    for (const auto& [kept, people] : {std::pair{u"S01"_q, 3}, {u"S02"_q, 0}}) {
+        section.setFocus();
+        section.setBoundText(u"S02"_q);
+        Q_EMIT section.activated(section.currentIndex());
+        EXPECT_EQ(section.boundText(), kept);
+        EXPECT_EQ(of<DataList>("dtsStaff").count(), people);
+    }
+}
+
 // The page of the button that was pressed.
 TEST_F(frmAsignTest, TheButtonsLeadToTheirPages) {
     open();

@@ -78,7 +78,7 @@ TEST_F(FrmSection, SectionsAreAddedMovedAndRemoved) {
     of<QPushButton>("cmdPrint").click();
     EXPECT_EQ(desk.prompts.shownTexts().constLast(),
               u"部課情報登録  (2026/04/15 現在)\n    部課名：研究所\n  部課ｺｰﾄﾞ：s9\n  電話番号：03\n   FAX番号：\n"
-              u"    DBﾌｧｲﾙ：/srv/Lab/Store.mdb\n      表示：しない\n"_q);
+              u"    DBﾌｧｲﾙ：/srv/Lab/Store.mdb\n      表示：する\n"_q);
     const QString leave = u"部課情報は変更されています。変更を破棄しますか？"_q;
     desk.prompts.expect(leave, Answer::No).expect(leave, Answer::Yes);
     list.setFocus();
@@ -138,7 +138,7 @@ TEST_F(FrmStaff, PeopleAreTypedCheckedAndStored) {
     const QString listing = desk.prompts.shownTexts().constLast();
     for (const QString& line :
          {u"  所属部課：S01 (総務部)\n"_q, u"  生年月日：1980/01/15 (年齢：46歳3月)\n"_q,
-          u"      性別：女\n    入社日：2010/04/01 (勤続：16年)\n    退社日：\n      表示：しない\n"_q})
+          u"      性別：女\n    入社日：2010/04/01 (勤続：16年)\n    退社日：\n      表示：する\n"_q})
         EXPECT_TRUE(listing.contains(line)) << listing;
     connection.execute(u"DELETE FROM C03_Staff WHERE (F_StaffCode = 'A-1')"_q);
     type("txtTel", u"03"_q);

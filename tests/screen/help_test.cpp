@@ -1,0 +1,157 @@
+#include "screen/help.h"
+#include "support/desk.h"
+
+#include <QDirIterator>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBrowser>
+
+namespace kurbo::test {
+namespace {
+
+const QString root = QStringLiteral(KURBO_ROOT);
+
+QString readText(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+    return QString::fromUtf8(file.readAll());
+}
+
+QString helpFile(const QString& name) {
+    return root + u"/data/help/"_q + name;
+}
+
+QStringList allOf(const QString& text, const QString& pattern) {
+    QStringList found;
+    for (const auto& match : QRegularExpression(pattern).globalMatch(text)) found.append(match.captured(1));
+    return found;
+}
+
+QStringList placesIn(const QString& name) {
+    return allOf(readText(helpFile(name)), u"name=\"([^\"]+)\""_q);
+}
+
+// The controls of each window in which people work, by the window's name.
+QMap<QString, QStringList> windows() {
+    QMap<QString, QStringList> all;
+    QDirIterator files(root + u"/src"_q, {u"frm*.ui"_q}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString text = readText(files.next());
+        all.insert(files.fileInfo().baseName(), allOf(text, u"name=\"(\\w+)\""_q));
+    }
+    for (const auto& passing : {u"frmSplash"_q, u"frmWaiting"_q, u"frmAbout"_q, u"frmHelp"_q}) all.remove(passing);
+    return all;
+}
+
+// The administrator's help speaks of every window, and so of those that people don't have.
+TEST(HelpTexts, SpeakOfEveryWindow) {
+    const QStringList administrators{u"frmCorp"_q,    u"frmSection"_q,     u"frmStaff"_q, u"frmWorkStyle"_q,
+                                     u"frmAccess"_q,  u"frmWorkTime"_q,    u"frmAsign"_q, u"frmCalendar"_q,
+                                     u"frmHoliday"_q, u"frmMaintainance"_q};
+    const QStringList people = placesIn(u"Kurbo.hlp"_q);
+    const QStringList administrator = placesIn(u"KurboAdm.hlp"_q);
+    ASSERT_GT(windows().size(), 15);
+    for (const QString& form : windows().keys()) {
+        EXPECT_TRUE(administrator.contains(form)) << form;
+        EXPECT_NE(people.contains(form), administrators.contains(form)) << form;
+    }
+}
+
+TEST(HelpTexts, LeadSomewhere) {
+    const QMap<QString, QStringList> known = windows();
+    for (const QString& name : {u"Kurbo.hlp"_q, u"KurboAdm.hlp"_q}) {
+        const QString text = readText(helpFile(name));
+        for (const QString& link : allOf(text, u"href=\"([^\"]*)\""_q)) {
+            const QString file = link.section(u'#', 0, 0);
+            EXPECT_TRUE(placesIn(file.isEmpty() ? name : file).contains(link.section(u'#', 1))) << link;
+        }
+        const QStringList places = placesIn(name);
+        EXPECT_EQ(QSet<QString>(places.begin(), places.end()).size(), places.size());
+        for (const QString& place : places.filter(u"."_q)) {
+            const QString form = place.section(u'.', 0, 0);
+            const QString control = place.section(u'.', 1);
+            if (!known.contains(form)) continue;
+            EXPECT_TRUE(known[form].contains(control) || known[form].contains(control + u"_0"_q) ||
+                        known[form].contains(control + u"_1"_q))
+                << place;
+        }
+    }
+}
+
+struct HelpViewer : ::testing::Test, Desk {
+    HelpViewer() {
+        window.setObjectName(u"frmKurbo"_q);
+        window.show();
+    }
+    QLineEdit* control(const QString& name) {
+        auto* const field = new QLineEdit(&window);
+        field->setObjectName(name);
+        field->show();
+        field->setFocus();
+        return field;
+    }
+    // The place that the help shows on F1.
+    QString shown() {
+        openHelp(prompts, helpFile(u"Kurbo.hlp"_q), window);
+        return viewer() ? viewer()->source().fragment() : u"none"_q;
+    }
+    [[nodiscard]] QTextBrowser* viewer() const { return window.findChild<QTextBrowser*>(); }
+    void close() const { delete viewer()->window(); }
+
+    QWidget window;
+};
+
+TEST_F(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
+    for (const auto& [name, place] : {std::pair{u"mskStart"_q, u"frmKurbo.mskStart"_q},
+                                      {u"optMonth_3"_q, u"frmKurbo.optMonth"_q},
+                                      {u"nameless"_q, u"frmKurbo"_q}}) {
+        control(name);
+        EXPECT_EQ(shown(), place);
+        EXPECT_GT(viewer()->verticalScrollBar()->value(), 0);
+        close();
+    }
+    window.setObjectName(u"frmNew"_q);
+    EXPECT_EQ(shown(), QString());
+    EXPECT_EQ(viewer()->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(HelpViewer, SaysThatItsFileIsMissing) {
+    prompts.expect(lines(u"ヘルプファイル"_q, file(u"Kurbo.hlp"_q), u"が見つかりません。"_q));
+    openHelp(prompts, file(u"Kurbo.hlp"_q), window);
+    EXPECT_EQ(prompts.last().icon, Icon::Exclamation);
+    EXPECT_FALSE(viewer());
+}
+
+TEST_F(HelpViewer, FindsAroundTheEndAndGoesBack) {
+    (void)shown();
+    QWidget* const help = viewer()->window();
+    auto* const words = help->findChild<QLineEdit*>(u"txtFind"_q);
+    const auto findsAt = [&](const QString& text, int key) {
+        words->setText(text);
+        QTest::keyClick(words, Qt::Key(key));
+        return viewer()->textCursor().selectionStart();
+    };
+    const int first = findsAt(u"交通費"_q, Qt::Key_Return);
+    int last = first;
+    for (int next = findsAt(u"交通費"_q, Qt::Key_Return); next > last; next = findsAt(u"交通費"_q, Qt::Key_Return))
+        last = next;
+    EXPECT_GT(last, first);
+    EXPECT_EQ(findsAt(u"どこにも無い言葉"_q, Qt::Key_Return), viewer()->textCursor().position() - 3);
+    EXPECT_EQ(viewer()->textCursor().selectedText(), u"交通費"_q);
+    help->findChild<QPushButton*>(u"cmdContents"_q)->click();
+    EXPECT_EQ(viewer()->source().fragment(), QString());
+    help->findChild<QPushButton*>(u"cmdBack"_q)->click();
+    EXPECT_EQ(viewer()->source().fragment(), u"frmKurbo"_q);
+    const QPointer<QWidget> open(help);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(help));
+    QTest::keyClick(viewer(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(open);
+}
+
+} // namespace
+} // namespace kurbo::test
