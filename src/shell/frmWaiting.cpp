@@ -71,6 +71,7 @@ void frmWaiting::begin(const QString& text, int maximum) {
     ui_->pgbWaiting->setValue(0);
     placeInMiddle(this);
     closed_ = false;
+    asks_ = false;
     show();
     paintNow(this);
     sincePaint_.start();
@@ -81,7 +82,11 @@ void frmWaiting::step(int value) {
     if (!endless_) ui_->pgbWaiting->setValue(value);
     if (!isVisible() || sincePaint_.elapsed() < betweenPictures) return;
     if (endless_) ui_->pgbWaiting->setValue((ui_->pgbWaiting->value() + 1) % (endlessRound + 1));
-    paintNow(this);
+    // A look at events without input would put the input by, and the display wouldn't hand it on at the next look.
+    if (asks_)
+        repaint();
+    else
+        paintNow(this);
     sincePaint_.start();
 }
 
@@ -90,6 +95,7 @@ void frmWaiting::end() {
 }
 
 bool frmWaiting::stopped() {
+    asks_ = true;
     if (isVisible() && sinceLook_.elapsed() >= betweenPictures) {
         const InputOf own(*this);
         QCoreApplication::processEvents();

@@ -39,6 +39,8 @@ class frmWaiting final : public QWidget, public Progress {
     QElapsedTimer sincePaint_;
     QElapsedTimer sinceLook_;
     bool endless_ = false;
+    // The step asks whether it was stopped.
+    bool asks_ = false;
     bool closed_ = false;
 };
 
