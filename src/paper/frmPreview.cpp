@@ -156,9 +156,9 @@ void frmPreview::movePage(int direction) {
 
 // The wheel turns the page where it can't be scrolled any further. A touchpad sends notches in small pieces.
 bool frmPreview::takeWheel(const QWheelEvent& wheel) {
-    const bool zooms = wheel.modifiers().testFlag(Qt::ControlModifier);
+    const bool resizes = wheel.modifiers().testFlag(Qt::ControlModifier);
     const int delta = -wheel.angleDelta().y();
-    if (delta == 0 || (!zooms && !isAtEdge(delta))) {
+    if (delta == 0 || (!resizes && !isAtEdge(delta))) {
         wheel_ = 0;
         return false;
     }
@@ -166,7 +166,7 @@ bool frmPreview::takeWheel(const QWheelEvent& wheel) {
     wheel_ += delta;
     if (std::abs(wheel_) < QWheelEvent::DefaultDeltasPerStep) return true;
     wheel_ = 0;
-    if (zooms)
+    if (resizes)
         zoomBy(-delta);
     else
         turnAtEdge(delta > 0 ? 1 : -1);
