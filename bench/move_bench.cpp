@@ -2,6 +2,7 @@
 // of the same file, which are the least that a move has to do; in turn, so that a busy machine slows both.
 
 #include "bench_company.h"
+#include "kept_company.h"
 
 #include "demo/demo_company.h"
 #include "maintenance/data_move.h"
@@ -20,24 +21,12 @@ using namespace kurbo::bench;
 constexpr int people = 1000;
 constexpr int rounds = 7;
 
-// Made once and kept in the system's folder for temporary files.
 QString companyFile() {
-    const QString path = QDir::temp().filePath(QStringLiteral("kurbo-move-bench-1000x36.mdb"));
-    if (QFile::exists(path)) return path;
-    const QString half = path + QStringLiteral(".half");
-    QFile::remove(half);
-    createDatabase(half);
-    {
-        Connection connection;
-        connection.open(half, databasePassword());
-        DemoOptions options;
-        options.people = people;
-        options.months = 36;
-        options.until = *makeDay(2026, 4, 15);
-        makeDemoCompany(connection, options);
-    }
-    QFile::rename(half, path);
-    return path;
+    DemoOptions options;
+    options.people = people;
+    options.months = 36;
+    options.until = *makeDay(2026, 4, 15);
+    return keptCompany(QStringLiteral("kurbo-move-bench-1000x36.mdb"), options);
 }
 
 // Where the bar stood, and how long it stood still at most.

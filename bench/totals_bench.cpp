@@ -3,6 +3,7 @@
 // machine slows both. Then the same with the months that the company has saved, and the memory.
 
 #include "bench_company.h"
+#include "kept_company.h"
 
 #include "demo/demo_company.h"
 #include "totals/total_grid.h"
@@ -24,25 +25,13 @@ using namespace kurbo::bench;
 constexpr int people = 1000;
 constexpr int rounds = 31;
 
-// Made once and kept in the system's folder for temporary files.
 QString companyFile() {
-    const QString path = QDir::temp().filePath(QStringLiteral("kurbo-totals-bench-1000x12.mdb"));
-    if (QFile::exists(path)) return path;
-    const QString half = path + QStringLiteral(".half");
-    QFile::remove(half);
-    createDatabase(half);
-    {
-        Connection connection;
-        connection.open(half, databasePassword());
-        DemoOptions options;
-        options.people = people;
-        options.sections = 1;
-        options.months = 12;
-        options.until = *makeDay(2026, 6, 1);
-        makeDemoCompany(connection, options);
-    }
-    QFile::rename(half, path);
-    return path;
+    DemoOptions options;
+    options.people = people;
+    options.sections = 1;
+    options.months = 12;
+    options.until = *makeDay(2026, 6, 1);
+    return keptCompany(QStringLiteral("kurbo-totals-bench-1000x12.mdb"), options);
 }
 
 QString withoutSavedMonths(const QString& file, const QString& folder) {
