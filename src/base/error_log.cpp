@@ -3,7 +3,7 @@
 #include "base/code_page.h"
 #include "base/files.h"
 
-#include <QFile>
+#include <fcntl.h>
 
 namespace kurbo {
 namespace {
@@ -26,9 +26,9 @@ QString lineOf(const ErrorRecord& record) {
 
 void LogError(const QString& folder, const ErrorRecord& record) noexcept {
     try {
-        QFile file(addSlash(folder) + QStringLiteral("Error.log"));
-        if (!file.open(QIODevice::Append)) return;
-        file.write(toCodePageVisibly(lineOf(record)));
+        const QString path = addSlash(folder) + QStringLiteral("Error.log");
+        const Descriptor file = openOrMakePlain(path, O_WRONLY | O_APPEND, commonMode);
+        if (file.get() >= 0) writeAll(file.get(), toCodePageVisibly(lineOf(record)), path);
     } catch (...) { // NOLINT(bugprone-empty-catch): a failed log never stops the program
     }
 }

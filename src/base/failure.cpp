@@ -22,6 +22,9 @@ constexpr std::array fileFaults{
     FileFault{EPERM, FileError::PermissionDenied, u"ファイルまたはフォルダへの書き込みが許可されていません。"},
     FileFault{EROFS, FileError::PermissionDenied, u"ファイルまたはフォルダは読み取り専用です。"},
     FileFault{EISDIR, FileError::PathAccess, u"ファイルではなくフォルダが指定されています。"},
+    FileFault{EEXIST, FileError::PathAccess, u"同じ名前のファイルまたはフォルダが既にあります。"},
+    FileFault{ELOOP, FileError::PathAccess,
+              u"リンクまたは特殊なファイルのため、書き込めません。管理者に確認を依頼して下さい。"},
     FileFault{EIO, FileError::DeviceIo, u"ディスクまたはネットワークを読み書きできません。接続を確認して下さい。"},
 };
 

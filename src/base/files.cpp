@@ -1,13 +1,14 @@
 #include "base/files.h"
 
 #include "base/failure.h"
-#include "base/file_lock.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,21 +16,33 @@
 namespace kurbo {
 namespace {
 
-void writeAll(int descriptor, const QByteArray& bytes, const QString& path) {
-    qsizetype done = 0;
-    while (done < bytes.size()) {
-        const ssize_t written =
-            ::write(descriptor, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) throw fileFault(errno, path);
-        done += written;
-    }
-}
-
 void syncFolderOf(const QString& path) {
     const Descriptor folder{
         ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
     if (folder.get() >= 0) ::fsync(folder.get());
+}
+
+// False, with errno EEXIST, where anything has the name.
+bool renameToNew(const QByteArray& from, const QByteArray& to) {
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) return true;
+    // A share may not know the call.
+    if (errno != EINVAL && errno != ENOSYS) return false;
+    struct stat any {};
+    if (::lstat(to.constData(), &any) != 0) return ::rename(from.constData(), to.constData()) == 0;
+    errno = EEXIST;
+    return false;
+}
+
+bool isPlain(const QString& path) {
+    struct stat file {};
+    return ::lstat(QFile::encodeName(path).constData(), &file) == 0 && S_ISREG(file.st_mode);
+}
+
+// Gives a file made beside `path` the bytes, and the looks of the one that is there.
+void fillLike(FreshFile& fresh, const QByteArray& bytes, const QString& path) {
+    fresh.write(bytes);
+    if (isPlain(path)) (void)fresh.shareLike(path);
+    fresh.sync();
 }
 
 } // namespace
@@ -87,24 +100,31 @@ QByteArray readFile(const QString& path) {
     }
 }
 
-void replaceFile(const QString& path, const QByteArray& bytes) {
-    const QString fresh = freshNameBeside(path);
-    const QByteArray name = QFile::encodeName(fresh);
+void replaceFile(const QString& path, const QByteArray& bytes, mode_t newMode) {
+    FreshFile fresh = FreshFile::beside(path, isPlain(path) ? ownersMode : newMode);
+    fillLike(fresh, bytes, path);
+    fresh.putOver(path);
+}
+
+void replaceAndKeep(const QString& path, const QByteArray& bytes) {
+    FreshFile fresh = FreshFile::beside(path);
+    fillLike(fresh, bytes, path);
+    const QString kept = keepAside(path);
     try {
-        const Descriptor file{::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)};
-        if (file.get() < 0) throw fileFault(errno, path);
-        writeAll(file.get(), bytes, path);
-        if (::fsync(file.get()) != 0) throw fileFault(errno, path);
-        renameOver(fresh, path);
-    } catch (...) {
-        ::unlink(name.constData());
+        fresh.putOver(path);
+    } catch (const Fault&) {
+        renameOver(kept, path);
         throw;
     }
 }
 
-void syncFile(const QString& path) {
-    const Descriptor file{::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)};
-    if (file.get() < 0 || ::fsync(file.get()) != 0) throw fileFault(errno, path);
+QString chosenFile(const QString& path) {
+    const QString real = realPath(path);
+    const QFileInfo info(real);
+    if ((info.exists() || info.isSymLink()) && !info.isFile())
+        throw Complaint(lines(QStringLiteral("ファイルではないため、保存できません。"), path));
+    if (!info.absoluteDir().exists()) throw fileFault(ENOTDIR, info.absolutePath());
+    return real;
 }
 
 void renameOver(const QString& from, const QString& to) {
@@ -122,14 +142,13 @@ QString freshNameBeside(const QString& path) {
     return path + u'.' + QString::number(QRandomGenerator::system()->generate64(), 36) + QStringLiteral(".new");
 }
 
-bool shareLike(const QString& from, const QString& to) {
-    struct stat model {};
-    struct stat own {};
-    const QByteArray name = QFile::encodeName(to);
-    if (::stat(QFile::encodeName(from).constData(), &model) != 0 || ::stat(name.constData(), &own) != 0) return false;
-    if (own.st_gid != model.st_gid && ::chown(name.constData(), static_cast<uid_t>(-1), model.st_gid) != 0)
-        return false;
-    return ::chmod(name.constData(), model.st_mode & 0777U) == 0;
+QString keepAside(const QString& path) {
+    const QByteArray from = QFile::encodeName(path);
+    for (int number = 1;; ++number) {
+        const QString kept = path + QStringLiteral(".old") + (number == 1 ? QString() : QString::number(number));
+        if (renameToNew(from, QFile::encodeName(kept))) return kept;
+        if (errno != EEXIST) throw fileFault(errno, path);
+    }
 }
 
 bool isSameFile(const QString& left, const QString& right) {

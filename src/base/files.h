@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/plain_file.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -27,12 +29,21 @@ namespace kurbo {
 // All bytes of a file; throws a Fault.
 [[nodiscard]] QByteArray readFile(const QString& path);
 
-// Replaces `path` by `bytes` in one step: a reader sees the old file or the new one, also after a power cut. Throws a
-// Fault and leaves the old file.
-void replaceFile(const QString& path, const QByteArray& bytes);
+// Replaces `path` by `bytes` in one step: a reader sees the old file or the new one, also after a power cut. The new
+// one gets the group and the permissions of the old; `newMode`, less the umask, counts where there was none. A link is
+// replaced itself. Throws a Fault and leaves the old file.
+void replaceFile(const QString& path, const QByteArray& bytes, mode_t newMode = commonMode);
 
-// Returns when the file's bytes are on the disk to stay. Throws a Fault.
-void syncFile(const QString& path);
+// The same for a file that is there; the old one is kept as keepAside() does.
+void replaceAndKeep(const QString& path, const QByteArray& bytes);
+
+// What is to be replaced where a person has chosen `path`: a link stays, and what it leads to goes. Throws a Complaint
+// for anything that is no file, and a Fault where its folder is not there.
+[[nodiscard]] QString chosenFile(const QString& path);
+
+// Gives a file the name "PATH.old", or "PATH.old2" and so on: the first one that nothing has. Gives that name; throws a
+// Fault.
+QString keepAside(const QString& path);
 
 // Puts `from` in the place of `to` and makes the change last through a power cut. Throws a Fault.
 void renameOver(const QString& from, const QString& to);
@@ -42,9 +53,6 @@ void renameOver(const QString& from, const QString& to);
 
 // A name beside `path` that no other client uses.
 [[nodiscard]] QString freshNameBeside(const QString& path);
-
-// Gives `to` the group and the permissions of `from`; false when it can't, and `to` would shut others out.
-[[nodiscard]] bool shareLike(const QString& from, const QString& to);
 
 // Whether both paths are one file.
 [[nodiscard]] bool isSameFile(const QString& left, const QString& right);

@@ -1,5 +1,8 @@
 #include "base/public_holidays.h"
 
+#include "base/code_page.h"
+#include "base/csv_line.h"
+
 #include <algorithm>
 
 using namespace std::chrono;
@@ -57,6 +60,20 @@ QList<PublicHoliday> publicHolidays(int year) {
     }
     std::ranges::sort(all, {}, &PublicHoliday::day);
     return all;
+}
+
+QByteArray holidayFileOf(int year) {
+    QString text =
+        csvQuoted(
+            QStringLiteral("%1年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。").arg(year)) +
+        QStringLiteral("\r\n");
+    for (const PublicHoliday& holiday : publicHolidays(year)) {
+        const QString fixed = slashDate(holiday.day).mid(5);
+        const QString date =
+            holiday.monday == 0 ? fixed : fixed.left(3) + QString::number(holiday.monday) + QStringLiteral("/2");
+        text += csvQuoted(date) + u',' + csvQuoted(holiday.name) + QStringLiteral(",0\r\n");
+    }
+    return toCodePage(text).value();
 }
 
 } // namespace kurbo

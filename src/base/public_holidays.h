@@ -19,4 +19,8 @@ struct PublicHoliday {
 // announced a year ahead.
 [[nodiscard]] QList<PublicHoliday> publicHolidays(int year);
 
+// The same as a file "Holiday.txt". Those that move by a rule of the file stand under it; the equinoxes and the days
+// off that follow from other holidays are right for this year only.
+[[nodiscard]] QByteArray holidayFileOf(int year);
+
 } // namespace kurbo

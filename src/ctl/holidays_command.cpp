@@ -1,6 +1,6 @@
 #include "base/files.h"
+#include "base/public_holidays.h"
 #include "ctl/commands.h"
-#include "settings/holiday_file.h"
 
 namespace kurbo {
 
@@ -15,7 +15,7 @@ Exit runHolidays(const QStringList& arguments) {
     (void)options.needed(QStringLiteral("year"));
     const int year = options.number(QStringLiteral("year"), firstYear, firstYear, lastYear);
     if (!options.has(QStringLiteral("overwrite"))) refuseExisting(options.place(0));
-    replaceFile(options.place(0), holidayFileOf(year));
+    replaceFile(chosenFile(options.place(0)), holidayFileOf(year));
     return Exit::Done;
 }
 

@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <optional>
+
 namespace kurbo {
 namespace {
 
@@ -61,21 +63,26 @@ void explain(const QString& word, const QString& database) {
 // The destination while it is made: a file of its own beside its place, gone again unless it is finished.
 class Destination final {
   public:
-    explicit Destination(const QString& path) : path_(realPath(path)), fresh_(freshNameBeside(path_)) {
+    explicit Destination(const QString& path) : path_(realPath(path)) {
         LockFile::removeStale(path_);
         if (!lock_.claim(path_))
             throw Complaint(lines(QStringLiteral("移動先DBに他のユーザーが接続しています。"),
                                   QStringLiteral("ユーザーが接続していない時に再度実行して下さい。")));
     }
-    ~Destination() { discard(); }
+    ~Destination() {
+        if (fresh_) QFile::remove(fresh_->path() + QStringLiteral("-journal"));
+    }
     Destination(const Destination&) = delete;
     Destination& operator=(const Destination&) = delete;
 
-    void fill(Connection& source, const WorkNotice& notice) { writeCopy(source, fresh_, notice); }
+    void fill(Connection& source, const WorkNotice& notice) {
+        fresh_.emplace(FreshFile::beside(path_));
+        writeCopy(source, *fresh_, notice);
+    }
     // Deletes what stays in the database, and looks the file over.
     void trim(const MoveOrder& order, const WorkNotice& notice) {
         Connection copy;
-        copy.openAlone(fresh_, databasePassword());
+        copy.openAlone(fresh_->path(), databasePassword());
         // Nobody needs a file that isn't finished.
         copy.engine("PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;");
         const Noticed noticed(copy, notice);
@@ -90,20 +97,14 @@ class Destination final {
     }
     // `model` gives it its group and permissions.
     void finish(const QString& model) {
-        (void)shareLike(model, fresh_);
-        syncFile(fresh_);
+        (void)fresh_->shareLike(model);
         // What stood there may hold days that are nowhere else.
-        putInPlace(fresh_, path_, databasePassword(), path_ + QStringLiteral(".old"));
+        putInPlace(*fresh_, path_, databasePassword(), OldFile::Kept);
     }
 
   private:
-    void discard() {
-        QFile::remove(fresh_);
-        QFile::remove(fresh_ + QStringLiteral("-journal"));
-    }
-
     const QString path_;
-    const QString fresh_;
+    std::optional<FreshFile> fresh_;
     LockFile lock_;
 };
 
@@ -132,9 +133,26 @@ void requireSomething(Connection& database, const MoveOrder& order) {
     throw Complaint(QStringLiteral("移動するデータがありません。"));
 }
 
-bool confirmed(Prompts& prompts) {
-    const QString question = lines(QStringLiteral("データの移動を行います。移動したデータは元に戻せません。"),
-                                   QString(), QStringLiteral("よろしいですか？"));
+QString questionOf(const MoveOrder& order, std::optional<Day> running) {
+    constexpr int monthLength = 7;
+    const auto range = [](const char16_t* word, const QString& from, const QString& to) {
+        return QString::fromUtf16(word) + from + u'～' + to;
+    };
+    QString text = lines(QStringLiteral("データの移動を行います。移動したデータは元に戻せません。"),
+                         range(u"期間：", slashDate(*order.startDay), slashDate(*order.endDay)));
+    if (order.withMonths)
+        text = lines(text, range(u"月次集計データ：", slashDate(*order.startMonth).left(monthLength),
+                                 slashDate(*order.endMonth).left(monthLength)));
+    text = lines(text, QStringLiteral("移動先：") + order.destination.trimmed());
+    if (running && *order.endDay >= *running)
+        text = lines(
+            text, QString(),
+            QStringLiteral("この期間には、まだ締日が来ていない日(%1以降)が含まれています。").arg(slashDate(*running)),
+            QStringLiteral("移動した日には打刻できなくなります。"));
+    return lines(text, QString(), QStringLiteral("よろしいですか？"));
+}
+
+bool confirmed(Prompts& prompts, const QString& question) {
     return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) == Answer::Ok;
 }
 
@@ -170,7 +188,8 @@ QString carryOut(const Context& context, Connection& shared, const QString& data
 bool moveData(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
     return guarded(context, u"frmMaintainance", u"cmdExec_Click", false, [&] {
         checkMove(context, database, order);
-        if (!confirmed(context.prompts) || carryOut(context, shared, database, order) != u"OK") return false;
+        const QString question = questionOf(order, firstRunningDay(shared, context.clock.today()));
+        if (!confirmed(context.prompts, question) || carryOut(context, shared, database, order) != u"OK") return false;
         context.prompts.inform(QStringLiteral("データ移動が完了しました。"));
         return true;
     });

@@ -1,6 +1,7 @@
 #include "maintenance/move_order.h"
 
 #include "base/files.h"
+#include "engine/hours.h"
 #include "maintenance/move_place.h"
 #include "store/readers.h"
 
@@ -33,7 +34,36 @@ void checkMonths(const MoveOrder& order, Day today) {
     require(order.endMonth <= today, yetToComeText());
 }
 
+// The card period in which the day lies.
+std::optional<Period> runningPeriod(int closeDay, Day today) {
+    const auto inMonth = [closeDay](Day day) {
+        const std::chrono::year_month_day date{day};
+        return periodOfMonth(yearOf(day), static_cast<int>(static_cast<unsigned>(date.month())), closeDay);
+    };
+    const auto period = inMonth(today);
+    return period && period->to < today ? inMonth(addMonths(today, 1)) : period;
+}
+
+// What is still worked on isn't offered, unless there is nothing else.
+Day lastOffered(const Context& context, Connection& connection, Day first) {
+    const Day today = context.clock.today();
+    const auto running = guarded(context, u"frmMaintainance", u"Form_Load", std::optional<Day>(),
+                                 [&] { return firstRunningDay(connection, today); });
+    return running && *running > first ? *running - std::chrono::days(1) : today;
+}
+
 } // namespace
+
+std::optional<Day> firstRunningDay(Connection& connection, Day today) {
+    std::optional<Day> first;
+    Rows rows = connection.rows(
+        QStringLiteral("SELECT DISTINCT F_CloseDay FROM M02_StaffInfo WHERE (F_StaffCode <> 'ADMIN');"));
+    while (rows.next()) {
+        const auto period = runningPeriod(static_cast<int>(rows.integer(0)), today);
+        if (period) first = std::min(first.value_or(period->from), period->from);
+    }
+    return first;
+}
 
 std::optional<MoveOrder> firstMoveOrder(const Context& context, Connection& connection) {
     constexpr int months = 12;
@@ -44,7 +74,7 @@ std::optional<MoveOrder> firstMoveOrder(const Context& context, Connection& conn
     const Day thisMonth = today - std::chrono::days(dayOfMonth(today) - 1);
     MoveOrder order;
     order.startDay = day;
-    order.endDay = std::min(addMonths(*day, months) - std::chrono::days(1), today);
+    order.endDay = std::min(addMonths(*day, months) - std::chrono::days(1), lastOffered(context, connection, *day));
     order.startMonth = month;
     order.endMonth = std::min(addMonths(*month, months - 1), thisMonth);
     return order;

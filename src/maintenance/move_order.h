@@ -16,8 +16,12 @@ struct MoveOrder {
     QString destination;
 };
 
-// What the screen offers: a year from the first calendar day, and twelve months from the first saved one, but nothing
-// that is still to come. Nothing after a failure, which is reported.
+// The first day of the closing periods that run today, of all people; nothing without people. Throws.
+[[nodiscard]] std::optional<Day> firstRunningDay(Connection& connection, Day today);
+
+// What the screen offers: a year from the first calendar day, but nothing of a closing period that still runs, and
+// twelve months from the first saved one, but nothing that is still to come. A company that is younger than its first
+// closing is offered the days until today. Nothing after a failure, which is reported.
 [[nodiscard]] std::optional<MoveOrder> firstMoveOrder(const Context& context, Connection& connection);
 
 // Whether everything is filled in, so that the move can be asked for.

@@ -35,7 +35,7 @@ bool isReserved(const Context& context, const QString& database, const QString& 
     const QStringList reserved{LockFile::nameFor(own),           LockFile::copyNameFor(own),
                                own + QStringLiteral("-journal"), own + QStringLiteral("-wal"),
                                own + QStringLiteral("-shm"),     context.paths.BackupPath};
-    for (const auto* const ending : {u"-journal", u"-wal", u"-shm", u".old"})
+    for (const auto* const ending : {u"-journal", u"-wal", u"-shm"})
         if (plainName(destination) + QString::fromUtf16(ending) == own) return true;
     return std::ranges::any_of(reserved, [&](const QString& path) {
         return isSameFile(path, destination) || plainName(path) == plainName(destination);

@@ -7,14 +7,11 @@
 #include "paper/pdf_letters.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFileInfo>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 
 #include <algorithm>
-#include <cerrno>
 
 namespace kurbo {
 
@@ -36,16 +33,6 @@ void moveInto(QPainter& painter, int dotsPerInch) {
     const int missing = painter.device()->logicalDpiX() - dotsPerInch;
     const int by = static_cast<int>(static_cast<qint64>(paperMargin) * missing / twipsPerInch);
     painter.translate(by, by);
-}
-
-// The file to be replaced.
-QString targetOf(const QString& path) {
-    const QString real = realPath(path);
-    const QFileInfo info(real);
-    if ((info.exists() || info.isSymLink()) && !info.isFile())
-        throw Complaint(lines(QStringLiteral("ファイルではないため、保存できません。"), path));
-    if (!info.absoluteDir().exists()) throw fileFault(ENOTDIR, info.absolutePath());
-    return real;
 }
 
 } // namespace
@@ -76,7 +63,7 @@ bool paintPages(QPagedPaintDevice& device, const PaperDocument& document, PageRa
 
 bool writePdf(const PaperDocument& document, PageRange range, QPageLayout layout, const QString& path,
               Progress& progress) {
-    const QString target = targetOf(path);
+    const QString target = chosenFile(path);
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     {

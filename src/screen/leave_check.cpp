@@ -21,7 +21,7 @@ bool isOfMouse(const QEvent* event) {
 }
 
 bool leadsOut(const QWidget* next) {
-    return !next || next->objectName() == u"cmdCancel";
+    return !next || next->objectName() == u"cmdCancel" || next->objectName() == u"cmdDB";
 }
 
 } // namespace

@@ -42,7 +42,7 @@ void saveSheet(const QString& file, const QString& member, const GridModel& grid
     ArchiveAdd(archive, text);
     ArchiveAdd(archive, image);
     checkMembers(archive, member);
-    replaceFile(file, readFile(archive));
+    replaceFile(chosenFile(file), readFile(archive));
 }
 
 QStringList loadSheet(const QString& file, const QString& member, int columns, GridModel& grid,

@@ -107,6 +107,14 @@ void checkSection(const AccessSheet& sheet, int row) {
         throw Complaint(QStringLiteral("部課名が不正です。部課名はリストから選択して下さい。"));
 }
 
+// A row without a section isn't stored, and its rights would be lost.
+void refuseLostRights(const AccessSheet& sheet, int row) {
+    for (int column = firstRight; column <= lastRight; ++column)
+        if (!sheet.grid.ColHidden(column) && sheet.grid.CellChecked(row, column))
+            throw Complaint(lines(QStringLiteral("%1行目で部課が選択されていません。").arg(row - firstAccessRow + 1),
+                                  QStringLiteral("部課を選択するか、その行のチェックを全て外して下さい。")));
+}
+
 void checkName(Connection& connection, int code, const QString& name) {
     const QString change = QStringLiteral("アクセス権名称を変更して下さい。");
     if (code == 0 &&
@@ -222,7 +230,10 @@ QString accessNameRefusal(const QString& name) {
 void checkAccess(Connection& connection, int code, const QString& name, const AccessSheet& sheet) {
     checkName(connection, code, name);
     bool used = false;
-    for (int row = firstAccessRow; row < sheet.grid.Rows(); ++row) used = used || !sheet.sectionOf(row).isEmpty();
+    for (int row = firstAccessRow; row < sheet.grid.Rows(); ++row) {
+        if (sheet.sectionOf(row).isEmpty()) refuseLostRights(sheet, row);
+        used = used || !sheet.sectionOf(row).isEmpty();
+    }
     if (!used)
         throw Complaint(lines(QStringLiteral("アクセス権を削除する場合は削除ボタンをクリックして下さい。"),
                               QStringLiteral("有効なデータが入力されていません。")));

@@ -31,7 +31,24 @@ void Calendar::load() {
     const auto first = firstCalendarDay(connection);
     if (!first) CreateCalendar(client_.context.progress, connection, firstOf(thisYear), lastOf(thisYear));
     const bool hasThisYear = !first || calendarRows(connection, firstOf(thisYear), lastOf(thisYear)) > 0;
-    ShowCalendar(connection, sheet, hasThisYear ? thisYear : yearOf(*first));
+    const int year = hasThisYear ? thisYear : yearOf(*first);
+    offerMissingDays(year);
+    ShowCalendar(connection, sheet, year);
+}
+
+void Calendar::offerMissingDays(int year) {
+    Connection& connection = client_.HomeConnection;
+    const auto all = static_cast<int>((lastOf(year) - firstOf(year)).count()) + 1;
+    const int missing = all - calendarRows(connection, firstOf(year), lastOf(year));
+    if (missing <= 0 || offered_.contains(year)) return;
+    offered_.insert(year);
+    const QString question =
+        lines(QStringLiteral("%1年のカレンダーには、作成されていない日が%2日あります。").arg(year).arg(missing),
+              QStringLiteral("データ移動で移した日も含まれます。作成した日は勤務日になります。"), QString(),
+              QStringLiteral("作成してよろしいですか？"));
+    const Message asked{{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel};
+    if (client_.context.prompts.ask(asked) == Answer::Ok)
+        CreateCalendar(client_.context.progress, connection, firstOf(year), lastOf(year));
 }
 
 bool Calendar::mayMake(int year, bool later) const {
@@ -60,6 +77,7 @@ bool Calendar::moveYear(int years, bool changed) {
             if (!mayMake(year, later)) return false;
             CreateCalendar(client_.context.progress, connection, firstOf(year), lastOf(year));
         }
+        offerMissingDays(year);
         ShowCalendar(connection, sheet, year);
         return true;
     });

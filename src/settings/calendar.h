@@ -3,6 +3,8 @@
 #include "settings/calendar_sheet.h"
 #include "store/client.h"
 
+#include <QSet>
+
 namespace kurbo {
 
 // The company's calendar in the home file: which year is shown, and which may be made.
@@ -24,9 +26,12 @@ class Calendar final {
 
   private:
     [[nodiscard]] bool mayMake(int year, bool later) const;
+    // Asks once for each year that has some of its days only, as a data move leaves it.
+    void offerMissingDays(int year);
 
     Client& client_;
     CalendarRules rules_{sheet};
+    QSet<int> offered_;
 };
 
 } // namespace kurbo

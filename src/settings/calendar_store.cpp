@@ -1,5 +1,7 @@
 #include "settings/calendar_store.h"
 
+#include <QSet>
+
 namespace kurbo {
 namespace {
 
@@ -21,20 +23,27 @@ QList<CalendarRow> readYear(Connection& connection, int year) {
     return days;
 }
 
+QSet<QString> dayIds(Connection& connection, Day first, Day last) {
+    QSet<QString> ids;
+    Rows rows = connection.rows(QStringLiteral("SELECT F_DateID FROM T01_Calendar WHERE (F_Date BETWEEN ? And ?);"),
+                                {first, last});
+    while (rows.next()) ids.insert(rows.text(0));
+    return ids;
+}
+
 } // namespace
 
 // Asked within the transaction: of two clients that begin at the same moment the second finds the days of the first.
 void CreateCalendar(Progress& progress, Connection& connection, Day first, Day last) {
     Transaction transaction(connection);
-    if (connection.hasRow(QStringLiteral("SELECT F_DateID FROM T01_Calendar WHERE (F_Date BETWEEN ? And ?);"),
-                          {first, last}))
-        return;
+    const QSet<QString> there = dayIds(connection, first, last);
     const auto count = static_cast<int>((last - first).count()) + 1;
     const Shown shown(progress, QStringLiteral("カレンダーを作成しています･･･"), count + 1);
     for (int i = 0; i < count; ++i) {
         const Day day = first + std::chrono::days(i);
-        connection.execute(QStringLiteral("INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES (?, ?);"),
-                           {dateId(day), day});
+        if (!there.contains(dateId(day)))
+            connection.execute(QStringLiteral("INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES (?, ?);"),
+                               {dateId(day), day});
         progress.step(i + 1);
     }
     transaction.commit();

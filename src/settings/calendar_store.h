@@ -8,7 +8,7 @@ namespace kurbo {
 
 // All of these throw, and then have changed nothing.
 
-// Adds the days from `first` to `last`, both included, as working days; nothing where one of them is there already.
+// Adds those of the days from `first` to `last`, both included, that are not there, as working days.
 void CreateCalendar(Progress& progress, Connection& connection, Day first, Day last);
 
 // Reads a year and draws it.

@@ -20,6 +20,7 @@ frmHoliday::frmHoliday(Client& client, CalendarSheet& calendar, QWidget* parent)
     onCommand(ui_->cmdWrite, ui_->mnuWrite, [this] { write(); });
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QWidget::close);
     SetupGrid(rules_, calendar_);
+    showYear();
     ui_->vfgHoliday->Select(1, static_cast<int>(HolidayColumn::Method));
     fillScreen(this, {720, 620});
     ui_->vfgHoliday->setFocus();
@@ -30,8 +31,14 @@ frmHoliday::~frmHoliday() {
 }
 
 void frmHoliday::addHolidays() {
+    if (const auto file = chooseHolidays(client_.context, rules_.year)) fillHolidays(rules_, file->lines);
+    showYear();
+}
+
+void frmHoliday::showYear() {
     const auto file = ReadHolidayFile(client_.context.paths.HolidayPath);
-    if (file && isSure(client_.context.prompts, file->heading)) fillHolidays(rules_, file->lines);
+    const auto year = file ? yearOfHeading(file->heading) : std::nullopt;
+    ui_->lblHoliday->setText(year ? QStringLiteral("祝日ファイル：%1年").arg(*year) : QString());
 }
 
 void frmHoliday::write() {

@@ -27,6 +27,8 @@ class frmHoliday final : public ScreenForm {
 
   private:
     void addHolidays();
+    // The year that "Holiday.txt" names.
+    void showYear();
     void write();
 
     const std::unique_ptr<Ui::frmHoliday> ui_;

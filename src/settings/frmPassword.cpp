@@ -21,6 +21,7 @@ frmPassword::frmPassword(Client& client, QWidget* parent)
         QSizePolicy policy = part->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         part->setSizePolicy(policy);
+        part->ensurePolished();
     }
     connect(ui_->txtNewPassword, &QLineEdit::textChanged, this, &frmPassword::wantedChanged);
     connect(ui_->txtConfirm, &QLineEdit::textChanged, this,

@@ -4,6 +4,8 @@
 #include "settings/staff.h"
 #include "ui_frmStaff.h"
 
+#include <QStatusBar>
+
 namespace kurbo {
 
 frmStaff::frmStaff(Client& client, QWidget* parent)
@@ -12,6 +14,7 @@ frmStaff::frmStaff(Client& client, QWidget* parent)
     dressList(QStringLiteral("社員情報登録"), QStringLiteral("社員情報"),
               {ui_->dtsStaff, ui_->picStaff, ui_->cmdUp, ui_->cmdDown, ui_->cmdUpdate, ui_->cmdPrint});
     checkFieldsOnLeaving();
+    statusBar()->setSizeGripEnabled(false);
     placeInMiddle(this);
 }
 
@@ -22,8 +25,14 @@ frmStaff::~frmStaff() {
 void frmStaff::recordShown() {
     const auto typed = [](const MaskedBox* box) { return box->isBlank() ? QString() : box->maskText(); };
     const Day today = client_.context.clock.today();
+    statusBar()->clearMessage();
     ui_->lblAge->setText(ageText(typed(ui_->mskBirthday), today));
     ui_->lblYear->setText(serviceText(typed(ui_->mskJoin), typed(ui_->mskRetire), today));
+}
+
+void frmStaff::recordMade() {
+    statusBar()->showMessage(
+        QStringLiteral("登録しました。続けて「社員設定」でパスワード、勤務時間、アクセス権を設定して下さい。"));
 }
 
 QStringList frmStaff::listing() const {

@@ -20,6 +20,7 @@ class frmStaff final : public RecordListForm {
 
   protected:
     void recordShown() override;
+    void recordMade() override;
     void fieldChanged() override { recordShown(); }
     [[nodiscard]] QStringList listing() const override;
 

@@ -3,8 +3,12 @@
 #include "base/code_page.h"
 #include "base/csv_line.h"
 #include "base/day_arithmetic.h"
+#include "base/files.h"
 #include "base/public_holidays.h"
 #include "screen/foreign_file.h"
+#include "settings/settings_steps.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -75,6 +79,15 @@ HolidayFile parsed(const QString& text) {
     return file;
 }
 
+std::optional<HolidayFile> madeFor(const Context& context, int year) {
+    const QString& path = context.paths.HolidayPath;
+    const bool made = guarded(context, u"frmHoliday", u"cmdHoliday_Click", false, [&] {
+        replaceAndKeep(path, holidayFileOf(year));
+        return true;
+    });
+    return made ? ReadHolidayFile(path) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<HolidayFile> ReadHolidayFile(const QString& path) {
@@ -96,18 +109,29 @@ std::optional<QString> holidayDate(const QString& date, int year) {
     return day ? std::optional(slashDate(*day).mid(5)) : std::nullopt;
 }
 
-QByteArray holidayFileOf(int year) {
-    QString text =
-        csvQuoted(
-            QStringLiteral("%1年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。").arg(year)) +
-        QStringLiteral("\r\n");
-    for (const PublicHoliday& holiday : publicHolidays(year)) {
-        const QString fixed = slashDate(holiday.day).mid(5);
-        const QString date =
-            holiday.monday == 0 ? fixed : fixed.left(3) + QString::number(holiday.monday) + QStringLiteral("/2");
-        text += csvQuoted(date) + u',' + csvQuoted(holiday.name) + QStringLiteral(",0\r\n");
-    }
-    return toCodePage(text).value();
+std::optional<int> yearOfHeading(const QString& heading) {
+    static const QRegularExpression pattern(QStringLiteral("([0-9]{4})年"));
+    const QRegularExpressionMatch match = pattern.match(heading);
+    return match.hasMatch() ? std::optional(match.captured(1).toInt()) : std::nullopt;
+}
+
+std::optional<HolidayFile> chooseHolidays(const Context& context, int year) {
+    const QString& path = context.paths.HolidayPath;
+    const auto file = ReadHolidayFile(path);
+    if (!file) return {};
+    const auto own = yearOfHeading(file->heading);
+    if (!own || *own == year) return isSure(context.prompts, file->heading) ? file : std::nullopt;
+    const QString differs =
+        QStringLiteral("祝日ファイル「Holiday.txt」は%1年のもので、カレンダーの%2年とは異なります。")
+            .arg(*own)
+            .arg(year);
+    if (context.prompts.confirm(
+            lines(differs, QStringLiteral("%1年の祝日ファイルを作成して、その祝日を追加しますか？").arg(year),
+                  QStringLiteral("(今のファイルは「.old」を付けた名前で残します。)"))))
+        return madeFor(context, year);
+    const QString question = lines(file->heading, differs, QString(), QStringLiteral("よろしいですか？"));
+    const Message asked{{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel};
+    return context.prompts.ask(asked) == Answer::Ok ? file : std::nullopt;
 }
 
 } // namespace kurbo

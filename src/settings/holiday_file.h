@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QByteArray>
+#include "base/guard.h"
+
 #include <QList>
 #include <QString>
 
@@ -29,8 +30,12 @@ struct HolidayFile {
 // month lacks.
 [[nodiscard]] std::optional<QString> holidayDate(const QString& date, int year);
 
-// The file of a year's public holidays. Those that move by a rule of the file stand under it; the equinoxes and the
-// days off that follow from other holidays are right for this year only.
-[[nodiscard]] QByteArray holidayFileOf(int year);
+// The year that a heading names, as "2027年"; nothing where it names none.
+[[nodiscard]] std::optional<int> yearOfHeading(const QString& heading);
+
+// The holidays to be added to a calendar of `year`: those of the file, once the person agrees. Where its heading names
+// another year, the file of the calendar's year is offered first; it takes the place of the old one, which is kept
+// beside it. Nothing where there is no file or no agreement, or after a reported failure.
+[[nodiscard]] std::optional<HolidayFile> chooseHolidays(const Context& context, int year);
 
 } // namespace kurbo

@@ -11,7 +11,7 @@ QString listingTitle(const QString& subject, Day today) {
 bool showListing(const Context& context, QStringView form, QStringView procedure, const QStringList& listing) {
     return guarded(context, form, procedure, false, [&] {
         const QString path = context.paths.PrintPath;
-        replaceFile(path, (listing.join(u'\n') + u'\n').toUtf8());
+        replaceFile(path, (listing.join(u'\n') + u'\n').toUtf8(), ownersMode);
         context.prompts.showText(path);
         return true;
     });

@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "store/engine_fault.h"
+#include "store/text_order.h"
 
 #include <algorithm>
 
@@ -28,7 +29,7 @@ QString typed(const RecordList& list, const RecordEdit& edit, FieldKind kind) {
     return edit.now[fieldAt(list.fields, fieldOf(list, kind).name)].trimmed();
 }
 
-// The record set of the list, looked through for a text that a new record must not repeat.
+// The record set of the list, looked through for a text that a record must not repeat.
 void checkUnique(RecordSet& records, const RecordField& field, const QString& typed) {
     if (!records.filter(text(field.name) + QStringLiteral(" = ?"), {typed})) return records.clearFilter();
     const QString subject = text(field.subject);
@@ -44,16 +45,17 @@ void checkRename(Connection& connection, const RecordList& list, const QString& 
                           subject + QStringLiteral("を元に戻すか、変更したデータを破棄して下さい。")));
 }
 
-// A new record must differ from all others in name and code. One that has been stored may take another's name, and a
-// code that is taken is left to the store to refuse.
+// A new record must differ from all others in name and code. One that has been stored may take another's name; its own
+// code in other letters is no other code.
 void checkAgainstOthers(Connection& connection, const RecordList& list, const RecordEdit& edit) {
     const QString code = typed(list, edit, FieldKind::Code);
+    RecordSet records(connection, text(list.list));
     if (edit.code == newCode()) {
-        RecordSet records(connection, text(list.list));
         checkUnique(records, fieldOf(list, FieldKind::Name), typed(list, edit, FieldKind::Name));
         checkUnique(records, fieldOf(list, FieldKind::Code), code);
     } else if (code != edit.code) {
         checkRename(connection, list, edit.code);
+        if (compareText(code, edit.code) != 0) checkUnique(records, fieldOf(list, FieldKind::Code), code);
     }
 }
 

@@ -88,7 +88,7 @@ void RecordListForm::updateRecord() {
     QString code;
     if (update({u"CheckData", [&] { checkRecord(connection, records_, edit); }},
                {records_.updateName, [&] { code = writeRecord(connection, records_, edit); }}))
-        (void)refresh(code);
+        if (refresh(code) && edit.code == newCode()) recordMade();
 }
 
 void RecordListForm::removeRecord() {

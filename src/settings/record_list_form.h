@@ -29,6 +29,8 @@ class RecordListForm : public RecordForm {
     void readAll() override;
     // After a record has been shown.
     virtual void recordShown() {}
+    // After a new record has been stored and shown.
+    virtual void recordMade() {}
 
   private:
     void choose();

@@ -46,17 +46,18 @@ void checkFilled(const TimeSheet& sheet) {
 }
 
 // Why a slot with a start can't be stored; empty when it can.
-QString slotRefusal(const QString& start, const QString& end) {
+QString slotRefusal(const QString& start, const QString& end, bool late) {
     if (end.isEmpty()) return QStringLiteral("終了時刻が入力されていません。");
     if (!minuteOfDay(start) || !minuteOfDay(end)) return timeDemand();
-    return isBehind(end, start) ? QString() : orderDemand();
+    return isBehind(end, start) ? QString() : orderDemand(start, end, late);
 }
 
 void checkSlots(const TimeSheet& sheet) {
     for (int row = sheet.page.firstRow; row < sheet.rowEnd(); ++row) {
         for (int slot = 0; slot < sheet.rowAt(row).slots; ++slot) {
             const QString start = sheet.start(row, slot);
-            const QString refusal = start.isEmpty() ? QString() : slotRefusal(start, sheet.end(row, slot));
+            const QString refusal =
+                start.isEmpty() ? QString() : slotRefusal(start, sheet.end(row, slot), sheet.isLate(row));
             if (!refusal.isEmpty()) throw Complaint(sheet.label(row) + QStringLiteral("が不正です。") + refusal);
         }
     }

@@ -57,7 +57,7 @@ QString TimeSheet::refusal(int row, int column, const QString& text) const {
     const QString start = grid.TextMatrix(row, column - 1);
     if (!isStart(column) && !minuteOfDay(start)) return QStringLiteral("開始時刻が入力されていません。");
     if (!minuteOfDay(text)) return refused(timeDemand());
-    return isStart(column) || isBehind(text, start) ? QString() : refused(orderDemand());
+    return isStart(column) || isBehind(text, start) ? QString() : refused(orderDemand(start, text, isLate(row)));
 }
 
 // The engine knows times with all four digits only.

@@ -25,6 +25,8 @@ class TimeSheet final : public GridRules {
     [[nodiscard]] int rowEnd() const { return page.firstRow + static_cast<int>(page.rows.size()); }
     // The row of a field, as its description names it.
     [[nodiscard]] int rowOf(QStringView field) const;
+    // Whether the row is one of late work.
+    [[nodiscard]] bool isLate(int row) const { return QStringView(rowAt(row).field) == u"Late"; }
     // What the grid of the page calls the row.
     [[nodiscard]] QString label(int row) const;
     // The texts of a slot, from 0.

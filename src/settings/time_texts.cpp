@@ -1,6 +1,7 @@
 #include "settings/time_texts.h"
 
 #include "base/day.h"
+#include "base/failure.h"
 #include "base/numbers.h"
 #include "screen/field_tests.h"
 
@@ -23,8 +24,11 @@ QString timeDemand() {
     return QStringLiteral("時刻をhh:mm形式(00:00～23:59)で入力して下さい。");
 }
 
-QString orderDemand() {
-    return QStringLiteral("終了時刻を開始時刻以降に設定して下さい。");
+QString orderDemand(const QString& start, const QString& end, bool late) {
+    const QString demand = QStringLiteral("終了時刻を開始時刻以降に設定して下さい。");
+    if (!late || minuteOfDay(end) == minuteOfDay(start)) return demand;
+    return lines(demand, QStringLiteral("翌日にまたがる時間帯は、%1～00:00 と 00:00～%2 の二つに分けて入力します。")
+                             .arg(asBandTime(start), asBandTime(end)));
 }
 
 bool isBehind(const QString& end, const QString& start) {

@@ -11,9 +11,10 @@ namespace kurbo {
 // Such a text as "hh:mm", any other as it is.
 [[nodiscard]] QString asBandTime(const QString& text);
 
-// What is wrong with the end of a band, and with the texts of a time of day.
+// What is wrong with the texts of a time of day.
 [[nodiscard]] QString timeDemand();
-[[nodiscard]] QString orderDemand();
+// What is wrong with an end that isn't behind its start. A late band that runs into the next day stands in two.
+[[nodiscard]] QString orderDemand(const QString& start, const QString& end, bool late);
 // The end "00:00" is midnight at the end of the day, which follows any start.
 [[nodiscard]] bool isBehind(const QString& end, const QString& start);
 

@@ -111,7 +111,10 @@ void writeRounding(RecordSet& row, const WorkStyle& style) {
 WorkStyle readWorkStyle(Connection& connection, const WorkStyle& before) {
     const RecordSet row(connection, statement());
     WorkStyle style = before;
-    if (!row.atRow()) return style;
+    if (!row.atRow()) {
+        style.display.fill(true);
+        return style;
+    }
     if (const Value flex = row.value(QStringLiteral("F_WorkStyle")); !flex.isNull()) style.flex = flex.yes();
     if (style.flex) take(row, QStringLiteral("F_FlexStandard"), style.standard);
     readHalfDay(row, fieldsOf(u"Am"), style.am);

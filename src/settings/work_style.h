@@ -34,7 +34,8 @@ struct WorkStyle {
     std::array<bool, displays> display{};
 };
 
-// What is stored, over what `before` holds where a field is Null. Throws.
+// What is stored, over what `before` holds where a field is Null; before anything is stored all items are displayed.
+// Throws.
 [[nodiscard]] WorkStyle readWorkStyle(Connection& connection, const WorkStyle& before = {});
 // Throws the complaint of the first rule that fails.
 void checkWorkStyle(const WorkStyle& style);

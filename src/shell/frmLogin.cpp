@@ -84,6 +84,7 @@ void frmLogin::greet() {
     if (loadFailed_) return;
     tick();
     warnOfOldRecords(client_.context, client_.HomeConnection);
+    greetNewSite(client_.context, client_.HomeConnection);
 }
 
 bool frmLogin::ReConnect() {

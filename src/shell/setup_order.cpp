@@ -1,5 +1,6 @@
 #include "shell/setup_order.h"
 
+#include "store/access.h"
 #include "store/readers.h"
 
 #include <array>
@@ -7,89 +8,118 @@
 namespace kurbo {
 namespace {
 
-bool anyRow(const Context& context, Connection& connection, QStringView procedure, const QString& statement) {
-    return guarded(context, u"frmLogin", procedure, false, [&] { return connection.hasRow(statement); });
+// A set-up test under its own name: whether the statement gives a row.
+struct Test {
+    const char16_t* name;
+    const char16_t* statement;
+};
+
+constexpr Test corp{u"IsCorpOK", u"SELECT F_Corp FROM C01_Corp;"};
+constexpr Test section{u"IsSectionOK", u"SELECT F_SectionCode FROM C02_Section WHERE (F_SectionName <> '新しい部課');"};
+constexpr Test staff{u"IsStaffOK", u"SELECT F_StaffCode FROM C03_Staff WHERE (F_StaffName <> '新しい社員') "
+                                   u"AND (F_StaffName <> 'ADMIN');"};
+constexpr Test workStyle{u"IsWorkStyleOK", u"SELECT F_WorkStyle FROM M01_CorpInfo;"};
+constexpr Test workTime{u"IsWorkTimeOK",
+                        u"SELECT F_WeekdayCode FROM M03_WeekdayStyle WHERE (F_WeekdayName <> '新しい勤務時間');"};
+constexpr Test adjust{u"IsAdjustOK",
+                      u"SELECT F_AdjustCode FROM M07_AdjustHours WHERE (F_AdjustName <> '新しい時間調整');"};
+constexpr Test access{u"IsAccessOK",
+                      u"SELECT F_AccessCode FROM M08_Access WHERE (F_AccessName <> '新しいアクセス権');"};
+
+// Nothing after a failure, which is reported.
+std::optional<bool> passes(const Context& context, Connection& connection, const Test& test) {
+    return guarded(context, u"frmLogin", test.name, std::optional<bool>(),
+                   [&] { return connection.hasRow(QString::fromUtf16(test.statement)); });
 }
 
-using Test = bool (*)(const Context&, Connection&);
+bool isOK(const Context& context, Connection& connection, const Test& test) {
+    return passes(context, connection, test).value_or(false);
+}
 
 struct Step {
     Setting setting;
-    Test test;
+    const Test& test;
     const char16_t* problem;
     const char16_t* advice;
 };
 
 constexpr std::array steps{
-    Step{Setting::Section, IsCorpOK, u"会社情報が登録されていません。",
+    Step{Setting::Section, corp, u"会社情報が登録されていません。",
          u"会社情報を登録してから、部課情報を登録して下さい。"},
-    Step{Setting::Staff, IsSectionOK, u"部課情報が登録されていません。",
+    Step{Setting::Staff, section, u"部課情報が登録されていません。",
          u"部課情報を登録してから、社員情報を登録して下さい。"},
-    Step{Setting::WorkStyle, IsStaffOK, u"社員情報が登録されていません。",
+    Step{Setting::WorkStyle, staff, u"社員情報が登録されていません。",
          u"社員情報を登録してから、勤務形態を設定して下さい。"},
-    Step{Setting::WorkTime, IsWorkStyleOK, u"勤務形態が設定されていません。",
+    Step{Setting::WorkTime, workStyle, u"勤務形態が設定されていません。",
          u"勤務形態を設定してから、勤務時間を設定して下さい。"},
-    Step{Setting::Access, IsWorkTimeOK, u"勤務時間が設定されていません。",
+    Step{Setting::Access, workTime, u"勤務時間が設定されていません。",
          u"勤務時間を設定してから、アクセス権を設定して下さい。"},
-    Step{Setting::Access, IsAdjustOK, u"時間調整が設定されていません。",
+    Step{Setting::Access, adjust, u"時間調整が設定されていません。",
          u"時間調整を設定してから、アクセス権を設定して下さい。"},
-    Step{Setting::User, IsAccessOK, u"アクセス権が設定されていません。",
+    Step{Setting::User, access, u"アクセス権が設定されていません。",
          u"アクセス権を設定してから、社員設定を行って下さい。"},
-    Step{Setting::Calendar, IsWorkStyleOK, u"勤務形態が設定されていません。",
+    Step{Setting::Calendar, workStyle, u"勤務形態が設定されていません。",
          u"勤務形態を設定してから、カレンダーを設定して下さい。"},
 };
 
 } // namespace
 
 bool IsCorpOK(const Context& context, Connection& connection) {
-    return anyRow(context, connection, u"IsCorpOK", QStringLiteral("SELECT F_Corp FROM C01_Corp;"));
+    return isOK(context, connection, corp);
 }
 
 bool IsSectionOK(const Context& context, Connection& connection) {
-    return anyRow(context, connection, u"IsSectionOK",
-                  QStringLiteral("SELECT F_SectionCode FROM C02_Section WHERE (F_SectionName <> '新しい部課');"));
+    return isOK(context, connection, section);
 }
 
 bool IsStaffOK(const Context& context, Connection& connection) {
-    return anyRow(context, connection, u"IsStaffOK",
-                  QStringLiteral("SELECT F_StaffCode FROM C03_Staff WHERE (F_StaffName <> '新しい社員') "
-                                 "AND (F_StaffName <> 'ADMIN');"));
+    return isOK(context, connection, staff);
 }
 
 bool IsWorkStyleOK(const Context& context, Connection& connection) {
-    return anyRow(context, connection, u"IsWorkStyleOK", QStringLiteral("SELECT F_WorkStyle FROM M01_CorpInfo;"));
+    return isOK(context, connection, workStyle);
 }
 
 bool IsWorkTimeOK(const Context& context, Connection& connection) {
-    return anyRow(
-        context, connection, u"IsWorkTimeOK",
-        QStringLiteral("SELECT F_WeekdayCode FROM M03_WeekdayStyle WHERE (F_WeekdayName <> '新しい勤務時間');"));
+    return isOK(context, connection, workTime);
 }
 
 bool IsAdjustOK(const Context& context, Connection& connection) {
-    return anyRow(context, connection, u"IsAdjustOK",
-                  QStringLiteral("SELECT F_AdjustCode FROM M07_AdjustHours WHERE (F_AdjustName <> '新しい時間調整');"));
+    return isOK(context, connection, adjust);
 }
 
 bool IsAccessOK(const Context& context, Connection& connection) {
-    return anyRow(context, connection, u"IsAccessOK",
-                  QStringLiteral("SELECT F_AccessCode FROM M08_Access WHERE (F_AccessName <> '新しいアクセス権');"));
+    return isOK(context, connection, access);
 }
 
 bool settingAllowed(const Context& context, Connection& connection, Setting setting) {
     // The first setting opens in any case; on a new site the order is told.
     if (setting == Setting::Corp) {
-        if (!IsCorpOK(context, connection))
+        if (!passes(context, connection, corp).value_or(true))
             context.prompts.inform(
                 QStringLiteral("設定メニューの表示順序に従い、会社情報登録から順次設定を行って下さい。"));
         return true;
     }
     for (const Step& step : steps) {
-        if (step.setting != setting || step.test(context, connection)) continue;
-        context.prompts.exclaim(lines(QString::fromUtf16(step.problem), QString::fromUtf16(step.advice)));
+        if (step.setting != setting) continue;
+        const auto passed = passes(context, connection, step.test);
+        if (passed == true) continue;
+        if (passed) context.prompts.exclaim(lines(QString::fromUtf16(step.problem), QString::fromUtf16(step.advice)));
         return false;
     }
     return true;
+}
+
+void greetNewSite(const Context& context, Connection& connection) {
+    const bool isNew = guarded(context, u"frmLogin", u"Form_Load", false, [&] {
+        const QString first = QStringLiteral("ADMIN");
+        return !connection.hasRow(QString::fromUtf16(corp.statement)) && isPasswordOf(connection, first, first);
+    });
+    if (!isNew) return;
+    context.prompts.inform(
+        lines(QStringLiteral("新しいデータベースです。はじめに、管理者でログインして設定を行って下さい。"),
+              QStringLiteral("部課を空のままにして、氏名に ADMIN、パスワードに ADMIN と入力します。"),
+              QStringLiteral("ログインしたら、最初にパスワードを変更して下さい。")));
 }
 
 bool cardAllowed(const Context& context, Connection& connection) {

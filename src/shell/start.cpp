@@ -66,7 +66,7 @@ int runClient(const QString& appFolder, const Clock& clock) {
     }
     QDir::setCurrent(appFolder);
     const Paths paths = pathsIn(appFolder);
-    deliverFiles(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo"), paths);
+    deliverFiles(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo"), paths, yearOf(clock.today()));
     frmWaiting waiting;
     const Context context{prompts, clock, paths, waiting};
     WaitBox waitBox;

@@ -19,10 +19,9 @@ struct CloseEngine {
 };
 using Engine = std::unique_ptr<sqlite3, CloseEngine>;
 
-Engine newFile(const QString& path) {
+Engine emptyFile(const QString& path) {
     sqlite3* database = nullptr;
-    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &database,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &database, SQLITE_OPEN_READWRITE, nullptr);
     Engine engine(database);
     sqlite3_extended_result_codes(database, 1);
     if (result != SQLITE_OK) throw engineFault(database, result, path);
@@ -49,15 +48,15 @@ void settle(const QString& path, const QString& password) {
 
 } // namespace
 
-void writeCopy(Connection& from, const QString& target, const WorkNotice& notice) {
+void writeCopy(Connection& from, const FreshFile& target, const WorkNotice& notice) {
     constexpr int pagesAtOnce = 500;
-    const Engine copy = newFile(target);
+    const Engine copy = emptyFile(target.path());
     sqlite3_backup* backup = sqlite3_backup_init(copy.get(), "main", from.handle(), "main");
-    if (!backup) throw engineFault(copy.get(), sqlite3_errcode(copy.get()), target);
+    if (!backup) throw engineFault(copy.get(), sqlite3_errcode(copy.get()), target.path());
     int result = SQLITE_OK;
     while ((result = sqlite3_backup_step(backup, notice ? pagesAtOnce : -1)) == SQLITE_OK) notice();
     sqlite3_backup_finish(backup);
-    if (result != SQLITE_DONE) throw engineFault(copy.get(), result, target);
+    if (result != SQLITE_DONE) throw engineFault(copy.get(), result, target.path());
 }
 
 void requireWhole(const QString& path, const QString& password) {
@@ -71,15 +70,15 @@ void requireWhole(Connection& connection) {
     if (!verdict || verdict->text() != u"ok") throw storeFault(StoreError::Damaged, connection.path());
 }
 
-void putInPlace(const QString& copy, const QString& target, const QString& password, const QString& keptAs) {
+void putInPlace(FreshFile& copy, const QString& target, const QString& password, OldFile old) {
+    copy.sync();
     if (hasLeftovers(target)) settle(target, password);
     for (const char* const ending : leftovers) QFile::remove(target + QLatin1StringView(ending));
-    const bool keep = !keptAs.isEmpty() && QFileInfo::exists(target);
-    if (keep) renameOver(target, keptAs);
+    const QString kept = old == OldFile::Kept && QFileInfo::exists(target) ? keepAside(target) : QString();
     try {
-        renameOver(copy, target);
+        copy.putOver(target);
     } catch (const Fault&) {
-        if (keep) renameOver(keptAs, target);
+        if (!kept.isEmpty()) renameOver(kept, target);
         throw;
     }
 }

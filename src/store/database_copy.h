@@ -1,22 +1,26 @@
 #pragma once
 
+#include "base/plain_file.h"
 #include "store/exclusive.h"
 
 #include <QString>
 
 namespace kurbo {
 
-// A whole copy of the connection's file as it stands in its transaction, under a name that is not in use; `notice` runs
-// now and then meanwhile. Throws a Fault; what was written then stays behind.
-void writeCopy(Connection& from, const QString& target, const WorkNotice& notice = {});
+// A whole copy of the connection's file as it stands in its transaction, into an empty file; `notice` runs now and then
+// meanwhile. Throws a Fault.
+void writeCopy(Connection& from, const FreshFile& target, const WorkNotice& notice = {});
 
 // Throws a Fault when the file is damaged or no database of this system.
 void requireWhole(const QString& path, const QString& password);
 // The same for an open file.
 void requireWhole(Connection& connection);
 
+// Whether the file that was there is kept, under a name beside it that nothing has.
+enum class OldFile { Goes, Kept };
+
 // Puts a finished copy, which nobody has open, in the place of a database, with nothing left of what stood there
-// before; that is kept under the name `keptAs`, if one is given. Throws a Fault and leaves the old file.
-void putInPlace(const QString& copy, const QString& target, const QString& password, const QString& keptAs = {});
+// before. Throws a Fault and leaves the old file.
+void putInPlace(FreshFile& copy, const QString& target, const QString& password, OldFile old);
 
 } // namespace kurbo

@@ -13,7 +13,6 @@
 
 #include <array>
 #include <cerrno>
-#include <fcntl.h>
 #include <memory>
 
 namespace kurbo {
@@ -53,16 +52,17 @@ constexpr std::array reservedRecords{
 };
 
 void build(const QString& path) {
-    const Engine engine = openEngine(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    const Engine engine = openEngine(path, SQLITE_OPEN_READWRITE);
     run(engine, "BEGIN", path);
     for (const QByteArray& statement : schemaStatements(databasePassword())) run(engine, statement, path);
     for (const char* statement : reservedRecords) run(engine, statement, path);
     run(engine, "COMMIT", path);
 }
 
-// Takes the name, so that two makers of one file do not meet.
+// Takes the name, so that two makers of one file do not meet. Passwords will stand in it: nothing is for everybody.
 void claimName(const QString& path) {
-    const Descriptor file{::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)};
+    constexpr mode_t groupsMode = 0660;
+    const Descriptor file = makePlain(path, groupsMode);
     if (file.get() < 0) throw fileFault(errno, path);
 }
 
@@ -96,17 +96,12 @@ void createDatabase(const QString& path) {
 
 void copyDatabase(const QString& path, const QString& target) {
     if (isSameFile(path, target)) return;
-    const QString fresh = freshNameBeside(target);
-    try {
-        Connection source;
-        source.open(path, databasePassword());
-        writeCopy(source, fresh);
-        (void)shareLike(path, fresh);
-        putInPlace(fresh, target, databasePassword());
-    } catch (...) {
-        QFile::remove(fresh);
-        throw;
-    }
+    FreshFile fresh = FreshFile::beside(target);
+    Connection source;
+    source.open(path, databasePassword());
+    writeCopy(source, fresh);
+    (void)fresh.shareLike(path);
+    putInPlace(fresh, target, databasePassword(), OldFile::Goes);
 }
 
 QStringList checkDatabase(const QString& path) {

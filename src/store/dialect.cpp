@@ -142,9 +142,13 @@ class Translator final {
         ++at_;
     }
 
+    // Each level stands on the stack, here and in the engine.
     void group() {
+        constexpr int deepest = 50;
+        if (depth_ >= deepest) throw syntaxFault(statement_);
         Translator inner(statement_, tokens_);
         inner.at_ = at_;
+        inner.depth_ = depth_ + 1;
         const QString sql = inner.sequence();
         if (!inner.more()) throw syntaxFault(statement_);
         at_ = inner.at_ + 1;
@@ -167,6 +171,7 @@ class Translator final {
     QStringView statement_;
     QList<Token> tokens_;
     qsizetype at_ = 0;
+    int depth_ = 0;
     bool assigning_ = false;
     QString operand_;
     QStringList operands_;

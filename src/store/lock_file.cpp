@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace kurbo {
@@ -35,16 +36,44 @@ QString withSuffix(const QString& path, QLatin1StringView suffix) {
 bool sameFile(int descriptor, const char* path) {
     struct stat opened {};
     struct stat named {};
-    return ::fstat(descriptor, &opened) == 0 && ::stat(path, &named) == 0 && opened.st_ino == named.st_ino &&
+    return ::fstat(descriptor, &opened) == 0 && ::lstat(path, &named) == 0 && opened.st_ino == named.st_ino &&
            opened.st_dev == named.st_dev;
 }
 
-// Whoever may write the database may write its lock file.
-void shareLike(int descriptor, const QString& databasePath) {
+// A new one; whoever may write the database may write it.
+Descriptor made(const QString& path, const QString& databasePath) {
+    Descriptor file = makePlain(path, ownersMode);
+    if (file.get() >= 0) (void)shareLike(file.get(), databasePath);
+    return file;
+}
+
+// Whether another client has made the file and not shared it yet.
+bool isBeingMade(const QString& path, const QString& databasePath) {
+    struct stat lock {};
     struct stat database {};
-    if (::stat(QFile::encodeName(databasePath).constData(), &database) != 0) return;
-    (void)!::fchown(descriptor, static_cast<uid_t>(-1), database.st_gid);
-    ::fchmod(descriptor, database.st_mode & 0666U);
+    constexpr mode_t others = 0077;
+    if (::lstat(QFile::encodeName(path).constData(), &lock) != 0) return true;
+    return (lock.st_mode & others) == 0 && ::stat(QFile::encodeName(databasePath).constData(), &database) == 0 &&
+           (database.st_mode & others) != 0;
+}
+
+Descriptor openOrMake(const QString& path, const QString& databasePath) {
+    constexpr int attempts = 50;
+    Descriptor file;
+    for (int i = 0; i < attempts; ++i) {
+        file = openPlain(path, O_RDWR);
+        if (file.get() >= 0) break;
+        if (errno == ENOENT) {
+            file = made(path, databasePath);
+            if (file.get() >= 0 || errno != EEXIST) break;
+        } else if (errno != EACCES || !isBeingMade(path, databasePath)) {
+            break;
+        } else {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            errno = EACCES; // of the last attempt
+        }
+    }
+    return file;
 }
 
 } // namespace
@@ -61,11 +90,11 @@ bool LockFile::join(const QString& databasePath, Patience until, const WaitNotic
     const QString path = nameFor(realPath(databasePath));
     const QByteArray name = QFile::encodeName(path);
     for (;;) {
-        Descriptor file{::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)};
+        Descriptor file = openOrMake(path, databasePath);
         if (file.get() < 0 && (errno == EACCES || errno == EPERM || errno == EROFS)) return false;
         if (file.get() < 0 && (errno == ENOSPC || errno == EDQUOT)) throw storeFault(StoreError::DiskFull);
+        if (file.get() < 0 && errno == ELOOP) throw fileFault(errno, path);
         if (file.get() < 0) throw missingFault(errno, path);
-        shareLike(file.get(), databasePath);
         if (!lockWithin(file.get(), presenceByte, LockKind::Shared, until, notice)) throw storeFault(StoreError::Busy);
         // Between opening and locking, the last one out may have removed this very file.
         if (!sameFile(file.get(), name.constData())) continue;
@@ -114,10 +143,9 @@ void LockFile::endTurn() {
 
 bool LockFile::claim(const QString& databasePath) {
     const QString path = nameFor(realPath(databasePath));
-    Descriptor file{::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666)};
+    Descriptor file = made(path, databasePath);
     if (file.get() < 0 && errno == EEXIST) return false;
     if (file.get() < 0) throw fileFault(errno, path);
-    shareLike(file.get(), databasePath);
     // In between another client may have come, and may have gone and removed the file.
     if (!tryLock(file.get(), presenceByte, LockKind::Exclusive) ||
         !sameFile(file.get(), QFile::encodeName(path).constData()))
@@ -128,13 +156,14 @@ bool LockFile::claim(const QString& databasePath) {
 }
 
 bool LockFile::isHeld(const QString& databasePath) {
-    const Descriptor file{::open(QFile::encodeName(nameFor(realPath(databasePath))).constData(), O_RDWR | O_CLOEXEC)};
+    const Descriptor file = openPlain(nameFor(realPath(databasePath)), O_RDWR);
     return file.get() >= 0 && !tryLock(file.get(), presenceByte, LockKind::Exclusive);
 }
 
 void LockFile::removeStale(const QString& databasePath) {
-    const QByteArray name = QFile::encodeName(nameFor(realPath(databasePath)));
-    const Descriptor file{::open(name.constData(), O_RDWR | O_CLOEXEC)};
+    const QString path = nameFor(realPath(databasePath));
+    const QByteArray name = QFile::encodeName(path);
+    const Descriptor file = openPlain(path, O_RDWR);
     if (file.get() >= 0 && tryLock(file.get(), presenceByte, LockKind::Exclusive) &&
         sameFile(file.get(), name.constData()))
         ::unlink(name.constData());

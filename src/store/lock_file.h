@@ -26,7 +26,8 @@ class LockFile final {
     LockFile& operator=(const LockFile&) = delete;
 
     // Says that this client is connected; waits while the file is being compacted. False where no lock file can be
-    // made, that is in a folder without the right to write. Throws a Fault when the time is over or on a full disk.
+    // made, that is in a folder without the right to write. Throws a Fault when the time is over, on a full disk, and
+    // where the lock file's name is a link's.
     [[nodiscard]] bool join(const QString& databasePath, Patience until, const WaitNotice& notice);
     // The last one out removes the file.
     void leave();

@@ -29,19 +29,22 @@ QString wordOf(const Fault& fault) {
     return {};
 }
 
-void compact(const QString& path, const QString& copy, const QString& password, const WorkNotice& notice) {
+void compact(const QString& path, const QString& password, const WorkNotice& notice) {
+    const QString name = LockFile::copyNameFor(path);
+    QFile::remove(name);
+    FreshFile copy(name);
     Connection source;
     source.openAlone(path, password);
     shutOthersOut(source);
     // A foreign tool may have left changes in a file beside it, which would be played into the new one.
     source.engine("PRAGMA journal_mode=DELETE");
     const Noticed noticed(source, notice);
-    source.engine("VACUUM INTO '" + QFile::encodeName(copy).replace('\'', "''") + '\'');
-    requireWhole(copy, password);
+    source.engine("VACUUM INTO '" + QFile::encodeName(name).replace('\'', "''") + '\'');
+    requireWhole(name, password);
     // A copy that others may not open would shut them out: then the file stays as it is.
-    if (!shareLike(path, copy)) throw storeFault(StoreError::Opened);
-    syncFile(copy);
-    renameOver(copy, path);
+    if (!copy.shareLike(path)) throw storeFault(StoreError::Opened);
+    copy.sync();
+    copy.putOver(path);
 }
 
 // Throws when the file is not there, or has a second name that would keep the old contents.
@@ -59,12 +62,9 @@ QString optimized(const QString& given, const QString& password, LockFile& lock,
     if (QFileInfo::exists(LockFile::nameFor(path))) return QStringLiteral("ExistLdb");
     checkPlace(path);
     if (!lock.claim(path)) return QStringLiteral("ExistLdb");
-    const QString copy = LockFile::copyNameFor(path);
-    QFile::remove(copy);
     try {
-        compact(path, copy, password, notice);
+        compact(path, password, notice);
     } catch (...) {
-        QFile::remove(copy);
         lock.leave();
         throw;
     }

@@ -35,8 +35,9 @@ void refuseLocked(const QString& file) {
 
 void replaceUnlocked(const QString& file, const QByteArray& bytes) {
     try {
-        refuseLocked(file);
-        replaceFile(file, bytes);
+        const QString target = chosenFile(file);
+        refuseLocked(target);
+        replaceFile(target, bytes);
     } catch (const Fault& fault) {
         if (fault.number() == static_cast<std::int64_t>(FileError::PermissionDenied)) throw lockedFile();
         throw;

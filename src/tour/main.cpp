@@ -49,7 +49,7 @@ int tour(const QString& folder) {
     Camera camera(folder);
     PhotographedPrompts prompts(camera);
     const Paths paths = pathsIn(application.path());
-    deliverFiles(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo"), paths);
+    deliverFiles(QApplication::applicationDirPath() + QStringLiteral("/../share/kurbo"), paths, yearOf(clock.today()));
     frmWaiting waiting;
     const Context context{prompts, clock, paths, waiting};
     Client client(context);

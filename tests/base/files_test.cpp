@@ -56,6 +56,26 @@ TEST(Files, AFailedReplaceKeepsTheOldFile) {
     EXPECT_EQ(QDir(desk.folder.path()).entryList(QDir::Files).size(), 1);
 }
 
+TEST(Files, AReplacedFileKeepsItsRightsAndAChosenLinkStays) {
+    const Desk desk;
+    const QString path = desk.file(u"a.csv"_q);
+    const QString link = desk.file(u"link.csv"_q);
+    replaceFile(path, "old");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(QFile::link(path, link));
+    replaceFile(chosenFile(link), "new");
+    EXPECT_EQ(readFile(path), "new");
+    EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_THROW((void)chosenFile(desk.folder.path()), Complaint);
+    replaceFile(link, "own");
+    EXPECT_FALSE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(readFile(path), "new");
+    replaceAndKeep(path, "newer");
+    replaceAndKeep(path, "newest");
+    EXPECT_EQ(readFile(path + u".old"_q) + readFile(path + u".old2"_q) + readFile(path), "newnewernewest");
+}
+
 TEST(Files, AppFolderIsThePrograms_UnlessItCantBeWritten) {
     const Desk desk;
     QDir(desk.folder.path()).mkdir(u"program"_q);

@@ -3,13 +3,16 @@
 #include "base/files.h"
 #include "maintenance/old_days.h"
 #include "store/engine_fault.h"
+#include "store/lock_file.h"
 #include "support/disaster.h"
 
 #include <sqlite3.h>
 
 #include <QDir>
 
+#include <csignal>
 #include <set>
+#include <unistd.h>
 
 namespace kurbo::test {
 namespace {
@@ -244,11 +247,38 @@ TEST_F(DataMove, AtEachCallOfTheDiskEveryDayIsInOneOfBothFiles) {
     EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"old.mdb"_q, u"old.mdb.old"_q, u"store.mdb"_q}));
 }
 
+TEST_F(DataMove, AKilledMoveThatIsRepeatedKeepsEachOlderFile) {
+    connection.close();
+    const Contents before = contentsOf(path);
+    replaceFile(destination, "the archive");
+    EXPECT_EQ(endOf(startChild([&] {
+                  act = [](int step) { return step == 80 ? ::kill(::getpid(), SIGKILL) : 0; };
+                  return run(order(true)) == u"OK" ? 0 : 1;
+              })),
+              Died);
+    EXPECT_TRUE(contentsOf(path) == before);
+    LockFile::removeStale(path);
+    EXPECT_EQ(run(order(true)), u"OK"_q);
+    EXPECT_EQ(readFile(destination + u".old"_q), "the archive");
+    const QString copy = desk.file(u"copy.mdb"_q);
+    replaceFile(copy, readFile(destination + u".old2"_q));
+    for (const QString& made : {destination, copy}) EXPECT_TRUE(contentsOf(made) == moved(before, order(true)));
+}
+
 TEST_F(DataMove, TheWholeCommandAsksAndTells) {
-    desk.prompts.expect(u"データの移動を行います。移動したデータは元に戻せません。\r\n\r\nよろしいですか？"_q,
-                        Answer::Cancel);
-    EXPECT_FALSE(moveData(desk.context, connection, path, order(false)));
-    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    const QString head =
+        u"データの移動を行います。移動したデータは元に戻せません。\r\n期間：2026/01/05～2026/02/28\r\n"_q;
+    const QString tail = u"移動先："_q + destination + u"\r\n\r\nよろしいですか？"_q;
+    MoveOrder running = order(true);
+    running.endDay = makeDay(2026, 4, 1);
+    desk.prompts.expect(head + tail, Answer::Cancel)
+        .expect(u"月次集計データ：2025/12～2026/01\r\n移動先："_q + destination +
+                    u"\r\n\r\nこの期間には、まだ締日が来ていない日(2026/04/01以降)が含まれています。\r\n"_q,
+                Answer::Cancel);
+    for (const MoveOrder& each : {order(false), running}) {
+        EXPECT_FALSE(moveData(desk.context, connection, path, each));
+        EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    }
     EXPECT_FALSE(QFile::exists(destination));
     desk.prompts.expect(u"データの移動を行います。"_q).expect(u"データ移動が完了しました。"_q);
     EXPECT_TRUE(moveData(desk.context, connection, path, order(false)));

@@ -42,7 +42,7 @@ class FrmMaintainance : public OldDays {
 TEST_F(FrmMaintainance, OffersWhatHasPassedAndMovesIt) {
     EXPECT_EQ(form->windowTitle(), u"Kurbo－データ移動"_q);
     EXPECT_EQ(find<QLabel>("lblSourceDB")->text(), path);
-    EXPECT_EQ(text("mskStartDay") + text("mskEndDay"), u"2026/01/012026/04/15"_q);
+    EXPECT_EQ(text("mskStartDay") + text("mskEndDay"), u"2026/01/012026/03/31"_q);
     EXPECT_EQ(text("mskStartMonth") + text("mskEndMonth"), u"2025/122026/04"_q);
     EXPECT_FALSE(canMove());
     desk.prompts.expectFile(destination);
@@ -54,8 +54,8 @@ TEST_F(FrmMaintainance, OffersWhatHasPassedAndMovesIt) {
     desk.prompts.expect(u"よろしいですか？"_q).expect(u"データ移動が完了しました。"_q);
     find<QPushButton>("cmdExec")->click();
     EXPECT_FALSE(form && form->isVisible());
-    EXPECT_EQ(client.HomeConnection.firstValue(u"SELECT Count(*) FROM T02_Kurbo"_q), Value(0));
-    EXPECT_EQ(contentsOf(destination).cards.size(), 104);
+    EXPECT_EQ(client.HomeConnection.firstValue(u"SELECT Count(*) FROM T02_Kurbo"_q), Value(14));
+    EXPECT_EQ(contentsOf(destination).cards.size(), 90);
 }
 
 TEST_F(FrmMaintainance, ItsFieldsDecideWhetherItCanMove) {
@@ -72,7 +72,7 @@ TEST_F(FrmMaintainance, ItsFieldsDecideWhetherItCanMove) {
 
     QTest::keyClick(find<QWidget>("mskStartDay"), Qt::Key_Up);
     QTest::keyClick(find<QWidget>("mskEndDay"), Qt::Key_Down);
-    EXPECT_EQ(text("mskStartDay") + text("mskEndDay"), u"2026/01/022026/04/14"_q);
+    EXPECT_EQ(text("mskStartDay") + text("mskEndDay"), u"2026/01/022026/03/30"_q);
     find<QRadioButton>("optMethod_1")->click();
     QTest::keyClick(find<QWidget>("mskStartMonth"), Qt::Key_Up);
     EXPECT_EQ(text("mskStartMonth"), u"2026/01"_q);
@@ -83,6 +83,10 @@ TEST_F(FrmMaintainance, ItsFieldsDecideWhetherItCanMove) {
     QTest::keyClick(txtDestDB, Qt::Key_Tab);
     QTRY_VERIFY_WITH_TIMEOUT(desk.prompts.allShown(), 1000);
     EXPECT_EQ(QApplication::focusWidget(), txtDestDB);
+    desk.prompts.expectFile(destination);
+    QTest::mouseClick(find<QPushButton>("cmdDB"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(txtDestDB->text(), destination) << "a bad path can be chosen anew";
 }
 
 } // namespace kurbo::test

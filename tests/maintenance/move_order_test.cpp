@@ -32,7 +32,11 @@ class Order : public OldDays {
 TEST_F(Order, BeginsWithAYearThatHasPassed) {
     MoveOrder first = *firstMoveOrder(desk.context, connection);
     EXPECT_EQ(first.startDay, makeDay(2026, 1, 1));
-    EXPECT_EQ(first.endDay, today) << "a year is not over yet";
+    EXPECT_EQ(first.endDay, makeDay(2026, 3, 31)) << "a year is not over yet, and April is worked on";
+    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 20 WHERE F_StaffCode = '1002'"_q);
+    EXPECT_EQ(firstMoveOrder(desk.context, connection)->endDay, makeDay(2026, 3, 20));
+    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 10 WHERE F_StaffCode = '1002'"_q);
+    EXPECT_EQ(firstRunningDay(connection, today), makeDay(2026, 4, 1)) << "the 11th has begun";
     EXPECT_EQ(first.startMonth, makeDay(2025, 12, 1));
     EXPECT_EQ(first.endMonth, makeDay(2026, 4, 1));
     desk.clock.set(at(*makeDay(2028, 5, 5), 9, 0));
@@ -48,6 +52,9 @@ TEST_F(Order, BeginsWithAYearThatHasPassed) {
     EXPECT_FALSE(isFilledIn(first));
     connection.execute(u"DELETE FROM T05_Approved"_q);
     EXPECT_EQ(firstMoveOrder(desk.context, connection)->startMonth, makeDay(2028, 5, 1));
+    connection.execute(u"DELETE FROM T01_Calendar WHERE (F_DateID < '20280501')"_q);
+    connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20280502', #2028/05/02#)"_q);
+    EXPECT_EQ(firstMoveOrder(desk.context, connection)->endDay, makeDay(2028, 5, 5)) << "nothing else to offer";
     connection.close();
     desk.prompts.expect(u"エラー番号"_q);
     EXPECT_FALSE(firstMoveOrder(desk.context, connection));

@@ -62,7 +62,7 @@ TEST_F(CalendarDays, AYearIsMadeWholeOrNotAtAll) {
     EXPECT_EQ(stored(u"20280229"_q), u"- -"_q);
     connection.execute(u"DELETE FROM T01_Calendar WHERE (F_DateID > '20280105')"_q);
     CreateCalendar(watched, connection, *makeDay(2028, 1, 1), *makeDay(2028, 12, 31));
-    EXPECT_EQ(days(2028), 5) << "a year with any day counts as made";
+    EXPECT_EQ(days(2028), 366) << "the days that it lacks";
     connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20291231', #2030/01/01#)"_q);
     EXPECT_THROW(CreateCalendar(watched, connection, *makeDay(2029, 1, 1), *makeDay(2029, 12, 31)), Fault);
     EXPECT_EQ(days(2029), 1);
@@ -95,7 +95,9 @@ TEST_F(CalendarDays, OpenOnThisYearOrTheOldest) {
     desk.clock.set(at(*makeDay(2027, 1, 1), 9, 0));
     connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20240701', #2024/07/01#)"_q);
     connection.execute(u"UPDATE M01_CorpInfo SET F_AmHolidayWork = 0, F_PmHolidayWork = -1, F_LegalHoliday = True"_q);
+    desk.prompts.expect(u"2024年のカレンダーには、作成されていない日が365日あります。"_q);
     calendar.load();
+    EXPECT_EQ(calendar.sheet.grid.Rows(), 1 + 366);
     EXPECT_EQ(calendar.sheet.year, 2024);
     EXPECT_EQ(calendar.sheet.kinds.source(), u"|#0;全日|#3;法定休日"_q);
     connection.execute(u"DELETE FROM T01_Calendar"_q);
@@ -121,7 +123,11 @@ TEST_F(CalendarDays, YearsAreMadeWithinLimits) {
     desk.prompts.expect(u"これ以上先のカレンダーは作成できません。"_q);
     EXPECT_FALSE(calendar.moveYear(1, false));
     connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20290101', #2029/01/01#)"_q);
+    const QString missing = u"2029年のカレンダーには、作成されていない日が364日あります。"_q;
+    desk.prompts.expect(missing, Answer::Cancel);
     EXPECT_TRUE(calendar.moveYear(1, false)) << "what is there is shown beyond the limit";
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    EXPECT_EQ(days(2029), 1);
     for (int year = 2028; year >= 2026; --year) EXPECT_TRUE(calendar.moveYear(-1, false));
     desk.prompts.expect(u"2025"_q + make).expect(u"2024"_q + make);
     EXPECT_TRUE(calendar.moveYear(-1, false) && calendar.moveYear(-1, false));

@@ -122,15 +122,16 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     typeCell(grid, 2, 4, u"0814"_q);
     typeCell(grid, 2, 5, u"Obon"_q);
     choose(grid, 2, 6, 1);
-    desk.prompts
-        .expect(
-            u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n\r\nよろしいですか？"_q,
-            Answer::Cancel)
-        .expect(u"2027年の祝日"_q);
+    const QString make = u"2026年の祝日ファイルを作成して"_q;
+    desk.prompts.expect(make, Answer::No)
+        .expect(u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n"_q, Answer::Cancel)
+        .expect(make, Answer::Yes);
+    EXPECT_EQ(ofRules<QLabel>("lblHoliday").text(), u"祝日ファイル：2027年"_q);
     ofRules<QPushButton>("cmdHoliday").click();
     EXPECT_EQ(grid.grid()->TextMatrix(3, 1), QString());
     ofRules<QPushButton>("cmdHoliday").click();
     EXPECT_EQ(grid.grid()->CellText(3, 1) + grid.grid()->CellText(3, 5), u"期間元日"_q);
+    EXPECT_EQ(ofRules<QLabel>("lblHoliday").text(), u"祝日ファイル：2026年"_q);
     const QString write = u"指定された休日をカレンダーに設定します。\r\n\r\nよろしいですか？"_q;
     desk.prompts.expect(write, Answer::Cancel).expect(write);
     ofRules<QPushButton>("cmdWrite").click();

@@ -23,11 +23,14 @@ TEST_F(FrmPassword, StepsShowOneAfterTheOther) {
     press(Qt::Key_Tab);
     EXPECT_TRUE(of<QWidget>("txtNewPassword").hasFocus());
     EXPECT_FALSE(of<QWidget>("txtConfirm").isVisible());
+    const int height = form->height();
     desk.prompts.expect(u"不正な入力です。パスワードは半角英数字10文字以内で入力します。"_q);
     type("txtNewPassword", u"a b"_q);
     press(Qt::Key_Tab);
     type("txtNewPassword", u"abc"_q);
     EXPECT_TRUE(of<QWidget>("lblConfirm").isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form->height(), height);
     type("txtConfirm", u"abd"_q);
     EXPECT_TRUE(of<QWidget>("cmdOK").isEnabled());
     desk.prompts.expect(u"確認用パスワードが新しいパスワードと異なります。"_q);

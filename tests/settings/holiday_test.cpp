@@ -123,6 +123,24 @@ TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
     EXPECT_FALSE(holidayDate(u"13/1/2"_q, 2027) || holidayDate(u"01/1/8"_q, 2027));
 }
 
+TEST_F(HolidayRules, AFileOfAnotherYearIsTold) {
+    Desk desk;
+    EXPECT_FALSE(chooseHolidays(desk.context, 2026)) << "no file, no message";
+    replaceFile(desk.paths.HolidayPath, holidayFileOf(2027));
+    desk.prompts.expect(u"2027年の祝日を"_q);
+    EXPECT_TRUE(chooseHolidays(desk.context, 2027));
+    const QString differs = u"2027年のもので、カレンダーの2026年とは異なります。\r\n"_q;
+    const QString make = differs + u"2026年の祝日ファイルを作成して"_q;
+    desk.prompts.expect(make, Answer::No).expect(differs + u"\r\nよろしいですか？"_q, Answer::Cancel);
+    EXPECT_FALSE(chooseHolidays(desk.context, 2026));
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    EXPECT_EQ(readFile(desk.paths.HolidayPath), holidayFileOf(2027));
+    desk.prompts.expect(make, Answer::Yes);
+    EXPECT_TRUE(chooseHolidays(desk.context, 2026)->heading.startsWith(u"2026年"_q));
+    EXPECT_EQ(readFile(desk.paths.HolidayPath), holidayFileOf(2026));
+    EXPECT_EQ(readFile(desk.paths.HolidayPath + u".old"_q), holidayFileOf(2027));
+}
+
 TEST_F(HolidayRules, HolidaysTakeTheEmptyRows) {
     rule({u"0"_q, u"1"_q});
     rules.grid.TextMatrix(3, 1, u"6"_q);

@@ -84,8 +84,9 @@ TEST_F(RecordListTest, WhatIsUsedKeepsItsCode) {
     }
     EXPECT_EQ(renamed(sectionList(), u"S01"_q, u"F_SectionName"_q, u"管理部"_q), QString());
     EXPECT_EQ(renamed(sectionList(), u"S03"_q, u"F_SectionCode"_q, u"S09"_q), QString());
-    EXPECT_EQ(renamed(sectionList(), u"S09"_q, u"F_SectionCode"_q, u"S02"_q),
-              QString::number(int(StoreError::DuplicateKey)));
+    EXPECT_EQ(renamed(sectionList(), u"S09"_q, u"F_SectionCode"_q, u"s02"_q),
+              u"部課コードを変更して下さい。\r\n同じ部課コードが既に登録されています。"_q);
+    EXPECT_EQ(renamed(sectionList(), u"S09"_q, u"F_SectionCode"_q, u"s09"_q), QString()) << "its own in other letters";
     EXPECT_EQ(renamed(staffList(), u"1001"_q, u"F_StaffName"_q, u"鈴木花子"_q), QString()) << "two of one name";
     EXPECT_EQ(renamed(staffList(), u"1001"_q, u"F_StaffCode"_q, u"1009"_q), used.arg(u"社員"_q, u"社員"_q));
     connection.execute(u"DELETE FROM M02_StaffInfo WHERE (F_StaffCode = '1003')"_q);

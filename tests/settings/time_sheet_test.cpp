@@ -47,6 +47,9 @@ TEST_F(TimeSheets, ChecksRefuseInTheirOrder) {
              {Weekday, 0, u"夜"_q, work + u"4,1=18:00 4,2=24:00"_q, u"法内残業が不正です。"_q + format},
              {Weekday, 0, u"夜"_q, work + u"6,5=22:00 6,6=22:00"_q, u"深夜残業が不正です。"_q + order},
              {Weekday, 0, u"夜"_q, work + u"6,1=22:00 6,2=00:00 8,2=05:00"_q, u""_q},
+             {Holiday, 0, u"夜"_q, u"3,1=22:00 3,2=05:00"_q,
+              u"休日深夜が不正です。"_q + order +
+                  u"\r\n翌日にまたがる時間帯は、22:00～00:00 と 00:00～05:00 の二つに分けて入力します。"_q},
              {Holiday, 0, u"夜"_q, u"5,1=09:00 5,2=08:00"_q, u"早出勤務が不正です。"_q + order},
              {Adjust, 0, u"夜"_q, u"1,1=x"_q, u""_q},
              {Adjust, 0, u"夜"_q, u"5,1=9:0"_q, u"普通残業の調整時間が不正です。時間をhh:mm形式で入力して下さい。"_q},

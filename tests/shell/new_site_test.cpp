@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTabWidget>
 
 namespace kurbo::test {
@@ -28,7 +29,7 @@ class NewSite : public ::testing::Test {
         window.load();
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        desk.prompts.expect(u"2026 年のカレンダーが作成されていません。"_q);
+        desk.prompts.expect(u"2026 年のカレンダーが作成されていません。"_q).expect(u"氏名に ADMIN、"_q);
         window.greet();
     }
     template <typename Widget = QWidget>
@@ -122,6 +123,7 @@ void NewSite::enterPeople() {
         fill(form, {{"txtName", name}, {"txtKana", u"ｶﾅ"_q}, {"txtCode", code}, {"dcbSection", section}});
         tick(form, {"chkDisplay"});
         update(form);
+        EXPECT_TRUE(form->findChild<QStatusBar*>()->currentMessage().contains(u"社員設定"_q));
     }
     close(form);
 }
@@ -129,7 +131,8 @@ void NewSite::enterPeople() {
 void NewSite::setWorkStyle() {
     QWidget* const form = open("mnuWorkStyle", u"frmWorkStyle"_q);
     ASSERT_TRUE(form);
-    tick(form, {"chkDisplay_2", "chkDisplay_5", "chkDisplay_10"});
+    for (const char* const item : {"chkDisplay_2", "chkDisplay_5", "chkDisplay_10"})
+        EXPECT_TRUE(find<QCheckBox>(form, item)->isChecked()) << item;
     typeInto(find(form, "txtUnit"), u"15"_q);
     update(form);
     close(form);
@@ -204,7 +207,7 @@ void NewSite::setCalendar() {
     typeCell(rules, 1, 2, u"日曜日"_q);
     typeCell(rules, 1, 5, u"定休日"_q);
     typeCell(rules, 1, 6, u"全日"_q);
-    desk.prompts.expect(u"よろしいですか？"_q);
+    desk.prompts.expect(u"2026年の祝日ファイルを作成して"_q, Answer::Yes);
     press(form, "cmdHoliday");
     desk.prompts.expect(u"指定された休日をカレンダーに設定します。"_q);
     press(form, "cmdWrite");

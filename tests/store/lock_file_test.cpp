@@ -1,5 +1,6 @@
 #include "store/lock_file.h"
 
+#include "base/error_log.h"
 #include "base/failure.h"
 #include "base/files.h"
 #include "store/is_db_ok.h"
@@ -131,6 +132,26 @@ TEST_F(Locks, AKilledWriterGivesItsTurnBack) {
     EXPECT_FALSE(first.waitTurn(in(150), {}));
     client.kill();
     EXPECT_TRUE(first.waitTurn(in(1000), {}));
+}
+
+TEST_F(Locks, ALinkInItsPlaceIsNeverFollowed) {
+    const QString theirs = desk.file(u"theirs"_q);
+    const QString lock = desk.file(u"store.ldb"_q);
+    replaceFile(theirs, "12345678");
+    QFile::setPermissions(theirs, QFile::ReadOwner | QFile::WriteOwner);
+    for (const auto link : {&::symlink, &::link}) {
+        ASSERT_EQ(link(theirs.toUtf8().constData(), lock.toUtf8().constData()), 0);
+        EXPECT_THROW((void)first.join(database, in(1000), {}), Fault);
+        EXPECT_FALSE(first.claim(database) || LockFile::isHeld(database));
+        RemoveStaleLock(database);
+        EXPECT_TRUE(there());
+        ASSERT_TRUE(QFile::remove(lock));
+    }
+    LogError(desk.folder.path(), {});
+    ASSERT_TRUE(QFile::remove(desk.file(u"Error.log"_q)) && QFile::link(theirs, desk.file(u"Error.log"_q)));
+    LogError(desk.folder.path(), {});
+    EXPECT_EQ(readFile(theirs), "12345678");
+    EXPECT_EQ(QFile::permissions(theirs) & (QFile::ReadOther | QFile::ReadGroup), QFile::Permissions());
 }
 
 TEST_F(Locks, AFolderWithoutTheRightToWriteHasNoLockFile) {

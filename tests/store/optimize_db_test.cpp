@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "store/database_file.h"
+#include "support/child.h"
 #include "support/sample_company.h"
 
 #include <sqlite3.h>
@@ -108,6 +109,27 @@ TEST_F(Optimize, APlaceThatCantBeWrittenKeepsTheFile) {
         EXPECT_EQ(run(path), u"Error"_q);
     }
     EXPECT_EQ(readFile(path), whole);
+}
+
+TEST_F(Optimize, WhateverACrashLeavesIsForNobodyElse) {
+    connection.close();
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    int call = 0;
+    for (int end = -1; end != 0;) {
+        ++call;
+        end = endOf(startChild([&] {
+            failAtCall(DiskFailure::Killed, call);
+            if (run(path) != u"OK") return 1;
+            copyDatabase(path, desk.paths.BackupPath);
+            return 0;
+        }));
+        for (const QString& name : files()) {
+            EXPECT_EQ(QFile::permissions(desk.file(name)) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions())
+                << name;
+            if (name != u"store.mdb") QFile::remove(desk.file(name));
+        }
+    }
+    EXPECT_GT(call, 50);
 }
 
 TEST_F(Optimize, BackupIsAWholeCopyWhileOthersWork) {
