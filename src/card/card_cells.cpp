@@ -103,12 +103,13 @@ class CellWriter final {
         return row;
     }
 
-    [[nodiscard]] QStringList sums(const Figures& sum) const {
+    // `balance`: days of paid leave at the beginning.
+    [[nodiscard]] QStringList sums(const Figures& sum, double balance) const {
         QStringList row = blankRow();
         row[index(CardColumn::Date)] = QStringLiteral("合計(実働)");
         row[3] = QString::number(sum.workDays);
         row[4] = hours(sum.work);
-        row[5] = daysText(static_cast<double>(rules_.psngPaidTotal) - sum.paidHalves * 0.5);
+        row[5] = daysText(balance - sum.paidHalves * 0.5);
         for (std::size_t i = 0; i < timeColumns.size(); ++i) row[6 + static_cast<int>(i)] = hours(sum.*timeColumns[i]);
         if (rules_.pbleFlexTime) row[6] = FormatHours(sum.difference, rules_.plngCountUnit, true);
         for (std::size_t i = 0; i < 3; ++i) {
@@ -172,18 +173,28 @@ QString savedMonthStatement() {
                           "WHERE (F_Staff = ?) AND (F_Year = ?) AND (F_Month = ?);");
 }
 
-// What counts for the month, once it has been saved.
-void readSavedMonth(Connection& connection, const CellWriter& cells, const QString& staff, Day end, Card& card) {
+constexpr int monthDigits = 6; // of a date's id
+
+int placeOf(CardColumn column) {
+    return static_cast<int>(std::ranges::find(monthFields, column, &MonthField::column) - monthFields.begin());
+}
+
+// What counts for the month, once it has been saved. Gives the days of paid leave that the person's balance has lost by
+// that: those of the newest saved month, so that saving it again takes them once.
+double readSavedMonth(Connection& connection, const CellWriter& cells, const QString& staff, Day end, Card& card) {
     static const QString statement = savedMonthStatement();
     const QString id = dateId(end);
     Rows month = connection.rows(statement, {staff, id.left(4), id.mid(4, 2)});
-    if (!month.next()) return;
+    if (!month.next()) return 0;
     int place = 0;
     for (const MonthField& field : monthFields)
         card.summary[2][index(field.column)] = cells.saved(field.kind, month, place++);
     card.saved = true;
     card.personalApproval = month.yes(place);
     card.superiorApproval = month.yes(place + 1);
+    const bool followed =
+        !month.isNull(placeOf(CardColumn::Leave)) && !hasLaterMonth(connection, staff, id.left(monthDigits));
+    return followed ? month.real(placeOf(CardColumn::Paid)) : 0;
 }
 
 // Columns 6 to 20 by their switches, the sixth as it is used; the last three are for the program.
@@ -211,15 +222,18 @@ Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, 
     const CellWriter cells(rules);
     Card card;
     card.headings = headingsFor(rules.pbleFlexTime);
-    card.summary = {cells.captions(), cells.sums(figures.sum), blankRow()};
+    card.wholePeriod = isWholePeriod(rules, span, context.clock.today());
+    card.summary[2] = blankRow();
     card.summary[2][index(CardColumn::Date)] = QStringLiteral("合計(最終)");
+    auto balance = static_cast<double>(rules.psngPaidTotal);
+    if (card.wholePeriod) balance += readSavedMonth(connection, cells, staff, span.to, card);
+    card.summary[0] = cells.captions();
+    card.summary[1] = cells.sums(figures.sum, balance);
     card.days.reserve(static_cast<qsizetype>(read.days.size()));
     for (std::size_t i = 0; i < read.days.size(); ++i)
         card.days.append(cells.day(static_cast<int>(i) + 1, read.days[i], figures.days[i]));
     card.hidden = hiddenColumns(rules);
     card.sum = figures.sum;
-    card.wholePeriod = isWholePeriod(rules, span, context.clock.today());
-    if (card.wholePeriod) readSavedMonth(connection, cells, staff, span.to, card);
     return card;
 }
 

@@ -37,6 +37,7 @@ void fillCardGrid(GridModel& grid, const Card& card) {
                 .columns = cardColumns,
                 .frozenRows = firstCardDay - 1,
                 .frozenColumns = 1});
+    grid.MarkEdits(true);
     describeColumns(grid, card);
     grid.fillRow(0, card.headings);
     for (int row = 1; row < firstCardDay; ++row) {

@@ -47,6 +47,10 @@ QString helpHint() {
     return QStringLiteral("(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)");
 }
 
+QString closed() {
+    return QStringLiteral("編集できません");
+}
+
 QString dayTip(CardColumn column) {
     const QString seconds = QStringLiteral("に変更があれば修正します(ﾀﾞﾌﾞﾙｸﾘｯｸで詳細時刻表示)");
     const QString choose = QStringLiteral("区分を選択します") + helpHint();
@@ -70,7 +74,7 @@ QString dayTip(CardColumn column) {
 
 QString sumTip(int column, bool flexible) {
     if (column < firstSum || column > lastSum) return {};
-    if (flexible && column == static_cast<int>(CardColumn::LegalOver)) return QStringLiteral("編集できません");
+    if (flexible && column == static_cast<int>(CardColumn::LegalOver)) return closed();
     return QString::fromUtf16(sumNames[static_cast<std::size_t>(column - firstSum)]) +
            QStringLiteral("に変更があれば修正します") + helpHint();
 }
@@ -150,7 +154,13 @@ QString CardRules::tip(int row, int column) const {
     if (row < 1) return {};
     const QString text =
         row < firstCardDay ? sumTip(column, rules_.pbleFlexTime) : dayTip(static_cast<CardColumn>(column));
-    return text.isEmpty() ? QStringLiteral("編集できません(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)") : text;
+    return text.isEmpty() ? closed() + helpHint() : text;
+}
+
+// A cell that others may edit has a tip of what it takes.
+QString CardRules::closedTip(int row, int column) const {
+    const QString own = tip(row, column);
+    return own.startsWith(closed()) ? own : closed() + helpHint();
 }
 
 QString CardRules::scrollTip(int row) const {

@@ -35,6 +35,7 @@ class CardRules final : public GridRules {
     [[nodiscard]] bool opensByClick(int row, int column) const override { return detail(row, column).isEmpty(); }
     void edited(int row, int column) override;
     [[nodiscard]] QString tip(int row, int column) const override;
+    [[nodiscard]] QString closedTip(int row, int column) const override;
     [[nodiscard]] QString scrollTip(int row) const override;
     [[nodiscard]] bool isJapanese(int column) const override;
 

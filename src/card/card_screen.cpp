@@ -13,6 +13,20 @@ int monthOf(Day day) {
     return static_cast<int>(static_cast<unsigned>(civil(day).month()));
 }
 
+bool isFirstOfMonth(Day day) {
+    return dayOfMonth(day) == 1;
+}
+
+// The last day of a whole month stays that, also of a February.
+Period yearsLater(Period period, int years) {
+    constexpr int monthsOfYear = 12;
+    const Day behind = period.to + std::chrono::days(1);
+    const bool wholeMonths = isFirstOfMonth(period.from) && isFirstOfMonth(behind);
+    return {addMonths(period.from, years * monthsOfYear),
+            wholeMonths ? addMonths(behind, years * monthsOfYear) - std::chrono::days(1)
+                        : addMonths(period.to, years * monthsOfYear)};
+}
+
 Period oneMonthFrom(Day from) {
     return {from, addMonths(from, 1) - std::chrono::days(1)};
 }
@@ -73,7 +87,7 @@ bool CardScreen::hasCalendarIn(Period period) const {
 
 // The month of a period is the month of its end.
 void CardScreen::choosePeriod(Period period) {
-    period_ = period;
+    setPeriod(period);
     year_ = yearOf(period.to);
     month_ = monthOf(period.to);
 }
@@ -89,6 +103,7 @@ bool CardScreen::ShowKurbo(const QString& staff, Period period, clsWorkTime& rul
     alive_ = true;
     ++drawings_;
     wholePeriod_ = approvable_ = monthUnsaved_ = card->wholePeriod;
+    drawn_ = period;
     personalApproval_ = card->personalApproval;
     superiorApproval_ = card->superiorApproval;
     setPeriod(period);
@@ -161,13 +176,12 @@ bool CardScreen::chooseMonth(int month) {
 
 // Two boxes that hold no dates stand for the period of the chosen month.
 bool CardScreen::moveYears(int years, const QString& start, const QString& end) {
-    constexpr int monthsOfYear = 12;
     if (!hasName() || !mayDiscard() || !leaveFile()) return false;
     const auto from = parseSlashDate(start);
     const auto to = parseSlashDate(end);
     auto period = from && to ? std::optional(Period{*from, *to}) : periodOfMonth(year_, month_, rules_.plngCloseDay());
     if (!period) return false;
-    *period = {addMonths(period->from, years * monthsOfYear), addMonths(period->to, years * monthsOfYear)};
+    *period = yearsLater(*period, years);
     if (!hasCalendarIn(*period) || !redraw(*period)) return false;
     year_ += years;
     return true;
@@ -207,7 +221,7 @@ bool CardScreen::deletePeriod(const QString& start, const QString& end) {
         return false;
     }
     const auto period = checkedPeriod(client_.context, start, end);
-    if (!period || !hasName()) return false;
+    if (!period || !hasName() || !mayDiscard()) return false;
     const QString question =
         lines(QStringLiteral("表示期間(%1～%2)の出退勤データ及び外出データを削除します。").arg(start, end),
               QStringLiteral("削除したデータは復活できません。"), QString(), QStringLiteral("よろしいですか？"));
@@ -226,9 +240,17 @@ bool CardScreen::drawStored(Period period) {
     return redraw(period);
 }
 
+// The balance may have followed a month that was saved since.
 bool CardScreen::redraw(Period period) {
     clsWorkTime rules = rules_;
-    return ShowKurbo(staff_, period, rules);
+    return GetStaffInfo(client_.context, connection(), rules, staff_) && ShowKurbo(staff_, period, rules);
+}
+
+int CardScreen::todayRow() const {
+    const QString today = shortDate(client_.context.clock.today());
+    for (int row = firstCardDay; row < sheet.grid.Rows(); ++row)
+        if (cardText(sheet.grid, row, CardColumn::Date) == today) return row;
+    return 0;
 }
 
 bool CardScreen::mayChooseOthers() const {

@@ -57,13 +57,16 @@ class CardScreen final {
     // Asked last before another card or period is shown: whether what stands beside the card may go.
     std::function<bool()> mayLeaveDay;
 
-    [[nodiscard]] const QList<CodeName>& sections() const { return sections_; }
-    [[nodiscard]] const QList<CodeName>& people() const { return people_; }
+    // The lists, and with them the names that a shown card file brings.
+    [[nodiscard]] QList<CodeName> sections() const;
+    [[nodiscard]] QList<CodeName> people() const;
     [[nodiscard]] const QString& section() const { return section_; }
     [[nodiscard]] const QString& staff() const { return staff_; }
     [[nodiscard]] Period period() const { return period_; }
     [[nodiscard]] int year() const { return year_; }
     [[nodiscard]] int month() const { return month_; }
+    // The name of the card file that is shown; empty for a card out of the store.
+    [[nodiscard]] QString fileName() const { return sheet.blnFileMode ? file_.name : QString(); }
     [[nodiscard]] const clsWorkTime& rules() const { return rules_; }
     [[nodiscard]] const CardRules& cells() const { return cells_; }
 
@@ -79,12 +82,14 @@ class CardScreen final {
     [[nodiscard]] bool mayChooseOthers() const;
     [[nodiscard]] bool mayDelete() const;
     [[nodiscard]] bool mayGoOut() const;
-    [[nodiscard]] bool mayAdjust() const { return alive_ && wholePeriod_; }
+    [[nodiscard]] bool mayAdjust() const { return showsOwnMonth(); }
     // Not just after the month has been saved: only when something may have changed since.
     [[nodiscard]] bool mayUpdateMonthly() const;
-    [[nodiscard]] bool mayApprovePersonal() const { return alive_ && approvable_ && isOwnCard(); }
+    [[nodiscard]] bool mayApprovePersonal() const { return isCardShown() && approvable_ && isOwnCard(); }
     [[nodiscard]] bool mayApproveSuperior() const;
     [[nodiscard]] bool isOwnCard() const { return reader_.blnMyCard; }
+    // The row of today, 0 without one.
+    [[nodiscard]] int todayRow() const;
 
   private:
     [[nodiscard]] Connection& connection() const { return *client_.CurrentConnection; }
@@ -100,9 +105,16 @@ class CardScreen final {
     [[nodiscard]] bool drawStored(Period period);
     [[nodiscard]] bool hasName() const;
     void setPeriod(Period period);
+    // The card is that of the name that is chosen.
+    [[nodiscard]] bool isCardShown() const { return alive_ && reader_.cardShown; }
+    // The drawn days are the whole period of the chosen month, which has ended.
+    [[nodiscard]] bool showsOwnMonth() const;
+    [[nodiscard]] bool isOwnMonth(const QString& command) const;
     [[nodiscard]] bool rebuildPeriod();
     [[nodiscard]] bool isCardSaved(const QString& demand) const;
-    [[nodiscard]] bool agreesWithMissing(const QString& question) const;
+    [[nodiscard]] bool agreesWithMissing(const QString& question, Answer preset) const;
+    [[nodiscard]] bool agreesToSave() const;
+    void readFileNames();
     struct Mark;
     bool approve(const Mark& mark, bool approved, const QString& start, const QString& end);
     [[nodiscard]] bool storeMark(const Mark& mark, bool approved);
@@ -117,7 +129,9 @@ class CardScreen final {
     // Whose people are in the list.
     QString listSection_;
     QString staff_;
+    // What the two boxes show, and what stands in the grid.
     Period period_{};
+    Period drawn_{};
     int year_ = 0;
     int month_ = 1;
     int periodChanges_ = 0;
@@ -129,6 +143,12 @@ class CardScreen final {
     bool monthUnsaved_ = false;
     bool personalApproval_ = false;
     bool superiorApproval_ = false;
+    // Of a card file: its name, and whose card it holds where the lists don't have them.
+    struct {
+        QString name;
+        QList<CodeName> section;
+        QList<CodeName> person;
+    } file_;
 };
 
 } // namespace kurbo

@@ -7,6 +7,8 @@
 #include "screen/sheet_file.h"
 #include "store/section_switch.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace kurbo {
@@ -18,6 +20,12 @@ QString cardMember() {
 
 void checkDates(const QStringList& selection) {
     if (!parseSlashDate(selection[2]) || !parseSlashDate(selection[3])) throw foreignFile();
+}
+
+QList<CodeName> withNames(QList<CodeName> list, const QList<CodeName>& names) {
+    for (const CodeName& name : names)
+        if (std::ranges::find(list, name.code, &CodeName::code) == list.end()) list.append(name);
+    return list;
 }
 
 } // namespace
@@ -38,12 +46,34 @@ bool CardScreen::loadKrb() {
                // From now on, also after a failure, the screen only shows until a card is drawn from the store.
                sheet.drawn();
                sheet.blnFileMode = true;
+               file_ = {};
                const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid, checkDates);
                section_ = selection[0];
                staff_ = selection[1];
                choosePeriod({*parseSlashDate(selection[2]), *parseSlashDate(selection[3])});
+               personalApproval_ = superiorApproval_ = false;
+               file_.name = QFileInfo(*file).fileName();
+               readFileNames();
                return true;
            });
+}
+
+// Only to be shown: whoever is chosen out of the lists is asked for as ever.
+void CardScreen::readFileNames() {
+    const auto name = [this](const QString& statement, const QString& code) {
+        const auto found = connection().firstValue(statement, {code});
+        return found ? QList<CodeName>{{code, found->text()}} : QList<CodeName>();
+    };
+    file_.section = name(QStringLiteral("SELECT F_SectionName FROM C02_Section WHERE (F_SectionCode = ?);"), section_);
+    file_.person = name(QStringLiteral("SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = ?);"), staff_);
+}
+
+QList<CodeName> CardScreen::sections() const {
+    return sheet.blnFileMode ? withNames(sections_, file_.section) : sections_;
+}
+
+QList<CodeName> CardScreen::people() const {
+    return sheet.blnFileMode ? withNames(people_, file_.person) : people_;
 }
 
 // A card file may name anybody: before that person's card is drawn from the store, the right to see it is asked for.

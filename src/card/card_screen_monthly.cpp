@@ -1,8 +1,20 @@
 #include "card/card_checks.h"
+#include "card/card_grid.h"
 #include "card/card_screen.h"
+#include "card/month_fields.h"
 #include "card/monthly.h"
 
+#include <algorithm>
+
 namespace kurbo {
+namespace {
+
+bool isFinalEmpty(const GridModel& grid) {
+    return std::ranges::all_of(
+        monthFields, [&grid](const MonthField& field) { return cardText(grid, finalSumRow, field.column).isEmpty(); });
+}
+
+} // namespace
 
 // One of the two approvals.
 struct CardScreen::Mark {
@@ -10,14 +22,25 @@ struct CardScreen::Mark {
     bool (*store)(const Context&, Connection&, const QString& staff, Day end, bool approved);
 };
 
-// The record is that of the chosen month: another month's card is not saved there.
+bool CardScreen::showsOwnMonth() const {
+    return isCardShown() && wholePeriod_ && periodOfMonth(year_, month_, rules_.plngCloseDay()) == drawn_;
+}
+
+// The record is that of the chosen month: sums of other days would stand there as its own.
+bool CardScreen::isOwnMonth(const QString& command) const {
+    if (!showsOwnMonth())
+        client_.context.prompts.exclaim(
+            lines(QStringLiteral("選択した月の期間が表示されていないため、%1はできません。").arg(command),
+                  QStringLiteral("締日を過ぎた月を選択してから、やり直して下さい。")));
+    return showsOwnMonth();
+}
+
 bool CardScreen::mayUpdateMonthly() const {
-    return alive_ && !sheet.blnFileMode && periodOfMonth(year_, month_, rules_.plngCloseDay()) == period_ &&
-           (monthUnsaved_ || sheet.blnMonthChanged);
+    return showsOwnMonth() && !sheet.blnFileMode && (monthUnsaved_ || sheet.blnMonthChanged);
 }
 
 bool CardScreen::mayApproveSuperior() const {
-    return alive_ && approvable_ && client_.session.access.has(Right::WriteApproval);
+    return isCardShown() && approvable_ && client_.session.access.has(Right::WriteApproval);
 }
 
 // The period of the chosen month into the screen; false for a bad close day.
@@ -35,10 +58,19 @@ bool CardScreen::isCardSaved(const QString& demand) const {
 }
 
 // Missing punches warn and never forbid.
-bool CardScreen::agreesWithMissing(const QString& question) const {
+bool CardScreen::agreesWithMissing(const QString& question, Answer preset) const {
     const QString text =
         lines(question, QString(), QStringLiteral("よろしいですか？"), QString(), ListMissingPunch(sheet.grid));
-    return client_.context.prompts.ask({{}, text, Icon::Question, Buttons::OkCancel, Answer::Ok}) == Answer::Ok;
+    return client_.context.prompts.ask({{}, text, Icon::Question, Buttons::OkCancel, preset}) == Answer::Ok;
+}
+
+bool CardScreen::agreesToSave() const {
+    const QString question = QStringLiteral("月次集計の最終保存データを更新します。");
+    if (!isFinalEmpty(sheet.grid)) return agreesWithMissing(question, Answer::Ok);
+    return agreesWithMissing(
+        lines(question, QString(), QStringLiteral("時間調整が行われていないため、合計(最終)が空のまま保存されます。"),
+              QStringLiteral("合計を保存するには、先に時間調整を行って下さい。有給休暇残数は変わりません。")),
+        Answer::Cancel);
 }
 
 bool CardScreen::adjust() {
@@ -49,31 +81,28 @@ bool CardScreen::adjust() {
     }
     if (!hasName() ||
         !isCardSaved(QStringLiteral("タイムカードの追加・変更を更新後、集計結果の調整を行って下さい。")) ||
-        !agreesWithMissing(QStringLiteral("集計結果の調整を行います。")))
+        !isOwnMonth(QStringLiteral("時間調整")) ||
+        !agreesWithMissing(QStringLiteral("集計結果の調整を行います。"), Answer::Ok))
         return false;
-    // A card of another range would give the chosen month sums that aren't its own.
-    const auto period = periodOfMonth(year_, month_, rules_.plngCloseDay());
-    const bool adjusted = period && (*period == period_ || redraw(*period)) &&
-                          AdjustMonthly(client_.context, connection(), sheet, rules_, staff_);
-    if (adjusted)
-        setPeriod(*period);
-    else
+    if (!AdjustMonthly(client_.context, connection(), sheet, rules_, staff_)) {
         prompts.exclaim(QStringLiteral("集計結果の調整に失敗しました。"));
-    return adjusted;
+        return false;
+    }
+    setPeriod(drawn_);
+    return true;
 }
 
 bool CardScreen::updateMonthly() {
     if (!hasName() || !isCardSaved(QStringLiteral("タイムカードの追加・変更を更新後、月次更新を行って下さい。")) ||
-        !CheckMonthly(client_.context, sheet, rules_) ||
-        !agreesWithMissing(QStringLiteral("月次集計の最終保存データを更新します。")))
+        !CheckMonthly(client_.context, sheet, rules_) || !isOwnMonth(QStringLiteral("月次更新")) || !agreesToSave())
         return false;
-    const auto period = periodOfMonth(year_, month_, rules_.plngCloseDay());
-    if (!period || !UpdateMonthly(client_.context, connection(), sheet, rules_, {staff_, section_, *period})) {
+    if (!UpdateMonthly(client_.context, connection(), sheet, rules_, {staff_, section_, drawn_})) {
         client_.context.prompts.exclaim(QStringLiteral("月次集計の最終保存データを更新できませんでした。"));
         return false;
     }
-    setPeriod(*period);
+    setPeriod(drawn_);
     sheet.blnMonthChanged = monthUnsaved_ = false;
+    for (int row = 1; row < firstCardDay; ++row) sheet.grid.RowStatus(row, GridStatus::None);
     personalApproval_ = superiorApproval_ = false;
     approvable_ = true;
     return true;

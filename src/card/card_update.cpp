@@ -99,6 +99,7 @@ void add(Connection& connection, const DayRow& row, const QString& staff) {
                         row.special, row.compens});
 }
 
+// A deleted row's number may have gone to another day.
 void change(Connection& connection, const DayRow& row, const QString& staff) {
     QString fields = QStringLiteral("F_Plan = ?, F_Paid = ?, F_Special = ?, F_Compens = ?");
     Values values{row.plan, row.paid, row.special, row.compens};
@@ -112,8 +113,9 @@ void change(Connection& connection, const DayRow& row, const QString& staff) {
     }
     values.append(std::int64_t{row.id.toLongLong()});
     values.append(staff);
-    const QString statement =
-        QStringLiteral("UPDATE T02_Kurbo SET ") + fields + QStringLiteral(" WHERE (F_KurboID = ?) AND (F_User = ?)");
+    values.append(dateId(row.day));
+    const QString statement = QStringLiteral("UPDATE T02_Kurbo SET ") + fields +
+                              QStringLiteral(" WHERE (F_KurboID = ?) AND (F_User = ?) AND (F_DateID = ?)");
     if (connection.execute(statement, values) == 0) throw storeFault(StoreError::RowGone);
 }
 

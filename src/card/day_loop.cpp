@@ -12,7 +12,6 @@ using Count = int (clsWorkTime::*)() const;
 
 // What is asked on one kind of working day; none where the kind has no such quantity, or another rule for it.
 struct WorkingDay {
-    DayType type;
     bool clsWorkTime::*flexible;
     Quantity standard;
     Quantity work;
@@ -25,14 +24,13 @@ struct WorkingDay {
     Count earlyLeave;
 };
 
-constexpr WorkingDay weekday{DayType::Weekday,        &clsWorkTime::pbleFlexTime,  &clsWorkTime::plngStandardTime,
-                             &clsWorkTime::WorkTime,  &clsWorkTime::LegalOverWork, &clsWorkTime::OverWork,
-                             &clsWorkTime::LateWork,  &clsWorkTime::EarlyWork,     &clsWorkTime::AbsentHour,
-                             &clsWorkTime::LateEnter, &clsWorkTime::EarlyLeave};
+constexpr WorkingDay weekday{&clsWorkTime::pbleFlexTime,  &clsWorkTime::plngStandardTime, &clsWorkTime::WorkTime,
+                             &clsWorkTime::LegalOverWork, &clsWorkTime::OverWork,         &clsWorkTime::LateWork,
+                             &clsWorkTime::EarlyWork,     &clsWorkTime::AbsentHour,       &clsWorkTime::LateEnter,
+                             &clsWorkTime::EarlyLeave};
 
 // The morning is off. On a morning's leave there is no early work; on an AM holiday it is asked last, by its own rule.
-constexpr WorkingDay afternoon{DayType::AmHoliday,
-                               &clsWorkTime::pbleAmFlexTime,
+constexpr WorkingDay afternoon{&clsWorkTime::pbleAmFlexTime,
                                &clsWorkTime::plngAmStandardTime,
                                &clsWorkTime::AmWorkTime,
                                &clsWorkTime::AmLegalOverWork,
@@ -44,8 +42,7 @@ constexpr WorkingDay afternoon{DayType::AmHoliday,
                                &clsWorkTime::AmEarlyLeave};
 
 // The afternoon is off: no overtime.
-constexpr WorkingDay morningOnly{DayType::PmHoliday,
-                                 &clsWorkTime::pblePmFlexTime,
+constexpr WorkingDay morningOnly{&clsWorkTime::pblePmFlexTime,
                                  &clsWorkTime::plngPmStandardTime,
                                  &clsWorkTime::PmWorkTime,
                                  nullptr,
@@ -57,8 +54,7 @@ constexpr WorkingDay morningOnly{DayType::PmHoliday,
                                  &clsWorkTime::PmEarlyLeave};
 
 // A PM holiday has legal overtime; its overtime and late work follow the company's rule for it.
-constexpr WorkingDay pmHoliday{DayType::PmHoliday,
-                               &clsWorkTime::pblePmFlexTime,
+constexpr WorkingDay pmHoliday{&clsWorkTime::pblePmFlexTime,
                                &clsWorkTime::plngPmStandardTime,
                                &clsWorkTime::PmWorkTime,
                                &clsWorkTime::PmLegalOverWork,
@@ -213,11 +209,12 @@ class DayLoop final {
         figures_.workDays = work != 0 || late != 0 ? 1 : 0;
     }
 
-    // The whole business day is missed. Business hours that end at "00:00" end with the day.
+    // The weekday's business hours are missed, also on a half day: its own bands tell how much of them was work. Hours
+    // that end at "00:00" end with the day.
     void absence(const WorkingDay& kind, Day date) {
         figures_.absentDays = 1;
-        const std::int32_t start = rules_.startBusiness(kind.type);
-        const std::int32_t end = rules_.endBusiness(kind.type);
+        const std::int32_t start = rules_.startBusiness(DayType::Weekday);
+        const std::int32_t end = rules_.endBusiness(DayType::Weekday);
         if (start < 0 || end < 0) return;
         rules_.pdtmEnter(date + std::chrono::seconds(start));
         rules_.pdtmLeave(date + std::chrono::seconds(end == 0 ? secondsOfDay : end));

@@ -24,6 +24,7 @@ frmGoOut::frmGoOut(Client& client, QWidget* parent)
     connectCommands();
     goOut_.sheet.onEdit = [this] { showCommands(); };
     ShowGoOut({}, {});
+    ui_->vfgGoOut->setFocus();
     fillScreen(this, {640, 600});
 }
 
@@ -103,7 +104,7 @@ void frmGoOut::update() {
 }
 
 void frmGoOut::print() {
-    if (!ui_->vfgGoOut->finishEdit()) return;
+    if (!ui_->vfgGoOut->finishEdit() || !goOut_.mayPrint()) return;
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
     if (!period || !client_.hasConnection(u"frmGoOut")) return;
     auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, section_, staff_, *period);

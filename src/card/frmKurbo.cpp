@@ -1,6 +1,7 @@
 #include "card/frmKurbo.h"
 
 #include "card/card_cells.h"
+#include "card/card_grid.h"
 #include "card/frmGoOut.h"
 #include "screen/fields.h"
 #include "screen/show_now.h"
@@ -10,6 +11,9 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace kurbo {
 namespace {
@@ -55,6 +59,7 @@ void frmKurbo::dressFields() {
     for (QWidget* const combo : {ui_->dcbSection, ui_->dcbStaff}) SetImeOpen(combo, true);
     ui_->vfgKurbo->setGrid(screen_.sheet.grid, client_.context);
     ui_->vfgKurbo->setStretchColumn(static_cast<int>(CardColumn::Plan));
+    tellRefusals(*ui_->vfgKurbo);
     wireGridMenu(*ui_->vfgKurbo, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
 }
 
@@ -105,6 +110,11 @@ void frmKurbo::connectMonth() {
 void frmKurbo::load() {
     run([this] { (void)screen_.load(); });
     ui_->vfgKurbo->setFocus();
+    // Once the window stands in its size.
+    QTimer::singleShot(0, this, [this] {
+        if (const int row = screen_.todayRow(); row > 0)
+            ui_->vfgKurbo->scrollTo(screen_.sheet.grid.index(row, static_cast<int>(CardColumn::Date)));
+    });
 }
 
 void frmKurbo::sectionChosen() {
@@ -134,9 +144,23 @@ void frmKurbo::showState() {
     const QScopedValueRollback showing(blnShowing_, true);
     showNames();
     showPeriod();
+    showTop();
     showCommands();
     showApproval();
+    tellFile(screen_.fileName());
     refreshGoOut();
+}
+
+// Another person's or month's card is read from its top.
+void frmKurbo::showTop() {
+    if (drawings_ == screen_.drawings()) return;
+    drawings_ = screen_.drawings();
+    const bool other = !drawnStaff_.isEmpty() && (drawnStaff_ != screen_.staff() || drawnPeriod_ != screen_.period());
+    drawnStaff_ = screen_.staff();
+    drawnPeriod_ = screen_.period();
+    if (!other || screen_.sheet.grid.Rows() <= firstCardDay) return;
+    ui_->vfgKurbo->Select(firstCardDay, std::max(ui_->vfgKurbo->Col(), 0));
+    ui_->vfgKurbo->scrollToTop();
 }
 
 void frmKurbo::showNames() {

@@ -43,6 +43,7 @@ class frmKurbo final : public ScreenForm {
     void showState() override;
     void showNames();
     void showPeriod();
+    void showTop();
     void showCommands() override;
     void showApproval();
     void sectionChosen();
@@ -69,6 +70,10 @@ class frmKurbo final : public ScreenForm {
     CardScreen screen_;
     std::array<QRadioButton*, months> optMonth_{};
     int periodChanges_ = 0;
+    // Whose card of which days was drawn last.
+    QString drawnStaff_;
+    Period drawnPeriod_{};
+    int drawings_ = 0;
 
     std::unique_ptr<frmGoOut> frmGoOut_;
     // The date cell of the day that it shows, and the drawing of the card from which that was taken.

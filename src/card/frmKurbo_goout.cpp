@@ -5,6 +5,7 @@
 #include "card/frmGoOut.h"
 #include "card/frmKurbo.h"
 #include "screen/open_forms.h"
+#include "screen/show_now.h"
 #include "ui_frmKurbo.h"
 
 #include <QScopedValueRollback>
@@ -40,6 +41,7 @@ void frmKurbo::openGoOut() {
     frmGoOut_ = std::make_unique<frmGoOut>(client_);
     frmGoOut_->setPeriod(*period);
     showGoOutDay();
+    stayAbove(frmGoOut_.get(), this);
     frmGoOut_->show();
 }
 
@@ -71,7 +73,7 @@ void frmKurbo::backToGoOutDay() {
 // After each command. Changes that nobody has given up stay, also where the card was drawn anew beside them.
 void frmKurbo::refreshGoOut() {
     if (!isGoOutOpen()) return;
-    if (screen_.sheet.blnFileMode) {
+    if (screen_.sheet.blnFileMode || !screen_.mayGoOut()) {
         frmGoOut_->close();
         return;
     }

@@ -28,7 +28,7 @@ void frmKurbo::print() {
 
 void frmKurbo::listGoOut() {
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
-    if (!period ||
+    if (!period || !screen_.mayGoOut() ||
         refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細一覧の表示はできません。")))
         return;
     auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, chosenSection(), chosenStaff(), *period);

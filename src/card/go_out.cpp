@@ -15,14 +15,28 @@ constexpr QStringView module = u"frmGoOut";
 GoOut::GoOut(Client& client)
     : client_(client), rules_(sheet, [this](const QString& destination) {
           return guarded(client_.context, module, u"vfgGoOut_AfterEdit", std::int64_t{0},
-                         [&] { return lastExpense(connection(), sheet.staff, destination); });
+                         [&] { return hasConnection() ? lastExpense(connection(), sheet.staff, destination) : 0; });
       }) {
     sheet.grid.setRules(&rules_);
 }
 
 void GoOut::setPerson(const QString& staff, bool blnMyCard) {
     sheet.staff = staff;
-    sheet.granted = client_.session.access.has(blnMyCard ? Right::WriteMyGoOut : Right::WriteOtherGoOut);
+    const AccessRights& access = client_.session.access;
+    sheet.granted = access.has(blnMyCard ? Right::WriteMyGoOut : Right::WriteOtherGoOut);
+    readable_ = access.has(blnMyCard ? Right::ReadMyGoOut : Right::ReadOtherGoOut);
+    if (!readable_) showDay(0);
+}
+
+bool GoOut::hasConnection() const {
+    return client_.hasConnection(module);
+}
+
+bool GoOut::mayPrint() const {
+    if (!readable_)
+        client_.context.prompts.exclaim(
+            QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
+    return readable_;
 }
 
 void GoOut::ShowGoOut(const QString& cardKey, const QString& dateText) {
@@ -34,6 +48,7 @@ void GoOut::ShowGoOut(const QString& cardKey, const QString& dateText) {
 // A list that couldn't be read must never be written in place of the stored one.
 void GoOut::showDay(std::int64_t key) {
     QList<QStringList> outings;
+    if (!readable_ || (key > 0 && !hasConnection())) key = 0;
     sheet.key = guarded(client_.context, module, u"ShowGoOut", std::int64_t{0}, [&] {
         if (key > 0) outings = readOutings(connection(), key);
         return key;
@@ -85,12 +100,13 @@ bool GoOut::UpdateGoOut() {
 }
 
 bool GoOut::update() {
-    if (!CheckData() || !agreed(QStringLiteral("追加・変更を更新します。"))) return false;
+    if (!hasConnection() || !CheckData() || !agreed(QStringLiteral("追加・変更を更新します。"))) return false;
     if (!UpdateGoOut()) {
         client_.context.prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;
     }
     sheet.changed = false;
+    sheet.grid.clearRowStatus();
     offerDestinations();
     return true;
 }

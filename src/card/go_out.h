@@ -11,7 +11,8 @@ class GoOut final {
   public:
     explicit GoOut(Client& client);
 
-    // Whose card the days belong to, empty for nobody's, and whether it is the reader's own.
+    // Whose card the days belong to, empty for nobody's, and whether it is the reader's own. Without the right to see
+    // that person's outings the list is empty from now on.
     void setPerson(const QString& staff, bool blnMyCard);
     // Shows the outings of a card row, a number, of the day that stands in the first 8 characters "yy/mm/dd". Without
     // one of the two, and after a failure, the list is empty and can't be edited.
@@ -32,18 +33,22 @@ class GoOut final {
     [[nodiscard]] bool mayLeaveDay();
     [[nodiscard]] bool mayClose() const;
 
+    // Says so where the person's outings may not be seen.
+    [[nodiscard]] bool mayPrint() const;
     [[nodiscard]] bool mayDelete() const { return sheet.mayWrite() && sheet.grid.Rows() > firstGoOut; }
 
     GoOutSheet sheet;
 
   private:
     [[nodiscard]] Connection& connection() const { return *client_.CurrentConnection; }
+    [[nodiscard]] bool hasConnection() const;
     void showDay(std::int64_t key);
     void offerDestinations();
     [[nodiscard]] bool agreed(const QString& what) const;
 
     Client& client_;
     GoOutRules rules_;
+    bool readable_ = true;
 };
 
 } // namespace kurbo

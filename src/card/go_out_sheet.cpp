@@ -58,6 +58,7 @@ void drawGoOut(GoOutSheet& sheet, const QList<QStringList>& outings) {
     const int filled = firstGoOut + static_cast<int>(outings.size());
     grid.reset({.rows = filled + emptyRows, .columns = goOutColumns, .fixedRows = firstGoOut});
     grid.FormatString(QStringLiteral("|^ID|^順|^外出時刻|^帰社時刻|^外出先|^交通費"));
+    grid.MarkEdits(true);
     describeColumns(grid);
     for (int i = 0; i < outings.size(); ++i) grid.fillRow(firstGoOut + i, outings[i]);
     numberRows(grid);

@@ -14,11 +14,14 @@ Value figureOf(const MonthField& field, const QString& cell, int unit) {
     return static_cast<double>(singleOf(*number));
 }
 
+bool hasLaterMonth(Connection& connection, const QString& staff, const QString& yearMonth) {
+    return connection.hasRow(
+        QStringLiteral("SELECT F_Staff FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year & F_Month > ?);"),
+        {staff, yearMonth});
+}
+
 void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal) {
-    if (connection.hasRow(
-            QStringLiteral("SELECT F_Staff FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year & F_Month > ?);"),
-            {staff, yearMonth}))
-        return;
+    if (paidTotal.isNull() || hasLaterMonth(connection, staff, yearMonth)) return;
     connection.execute(QStringLiteral("UPDATE M02_StaffInfo SET F_PaidTotal = ? WHERE (F_StaffCode = ?)"),
                        {paidTotal, staff});
 }

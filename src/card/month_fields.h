@@ -45,8 +45,11 @@ inline constexpr std::array monthFields{
 // of a text that is no such figure, or too large for its field.
 [[nodiscard]] Value figureOf(const MonthField& field, const QString& cell, int unit);
 
-// The person's balance of paid leave follows a month's record, "yyyymm", unless a later one has been saved. Throws a
-// Fault.
+// Whether the person has a saved month behind this one, "yyyymm". Throws a Fault.
+[[nodiscard]] bool hasLaterMonth(Connection& connection, const QString& staff, const QString& yearMonth);
+
+// The person's balance of paid leave follows a month's record, "yyyymm", unless a later one has been saved. A record
+// without a balance, Null, leaves it as it is: nobody can be calculated without one. Throws a Fault.
 void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal);
 
 } // namespace kurbo

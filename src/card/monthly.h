@@ -24,8 +24,8 @@ struct MonthOwner {
 };
 
 // Saves the final sums, already checked, as the month's record and takes both approvals away; an empty cell is stored
-// as Null. The person's balance of paid leave follows unless a later month has been saved. A figure too large for its
-// field is a fault.
+// as Null. The person's balance of paid leave follows unless its cell is empty or a later month has been saved. A
+// figure too large for its field is a fault.
 [[nodiscard]] bool UpdateMonthly(const Context& context, Connection& connection, const CardSheet& sheet,
                                  const clsWorkTime& rules, const MonthOwner& owner);
 

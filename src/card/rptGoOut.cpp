@@ -42,7 +42,24 @@ QStringList recordOf(const Rows& row) {
 struct Outings {
     ReportRecords records{fieldsOf(columns)};
     std::int64_t expense = 0;
+    // Those whose destination isn't known are not among the records.
+    int unplaced = 0;
+    std::int64_t unplacedExpense = 0;
 };
+
+void countUnplaced(Connection& connection, const QString& staff, Period period, Outings& outings) {
+    Rows rows = connection.rows(
+        QStringLiteral("SELECT T03_GoOut.F_Expense, T04_Destination.F_DestCode FROM (T02_Kurbo INNER JOIN T03_GoOut "
+                       "ON T02_Kurbo.F_KurboID = T03_GoOut.F_KurboID) LEFT JOIN T04_Destination "
+                       "ON T03_GoOut.F_Destination = T04_Destination.F_DestCode "
+                       "WHERE (T02_Kurbo.F_DateID BETWEEN ? AND ?) AND (T02_Kurbo.F_User = ?);"),
+        {dateId(period.from), dateId(period.to), staff});
+    while (rows.next()) {
+        if (!rows.isNull(1)) continue;
+        ++outings.unplaced;
+        outings.unplacedExpense += moneyOf(rows.text(0)).value_or(0);
+    }
+}
 
 Outings readAll(Connection& connection, const QString& staff, Period period) {
     Outings outings;
@@ -59,6 +76,7 @@ Outings readAll(Connection& connection, const QString& staff, Period period) {
         outings.records.AddNew(recordOf(rows));
         outings.expense += moneyOf(rows.text(4)).value_or(0);
     }
+    countUnplaced(connection, staff, period, outings);
     return outings;
 }
 
@@ -78,10 +96,21 @@ ReportSection pageHeader(const QString& heading, Period period) {
     return header;
 }
 
-ReportSection reportFooter(const QString& sum) {
+QString unplacedText(const Outings& outings) {
+    const QString expense = money(moneyText(outings.unplacedExpense));
+    return QStringLiteral("外出先の登録が無い外出が%1件あります%2。上の一覧と合計には含まれていません。")
+        .arg(QString::number(outings.unplaced),
+             expense.isEmpty() ? QString() : QStringLiteral("（交通費 %1）").arg(expense));
+}
+
+ReportSection reportFooter(const Outings& outings) {
     const RowLook look{.height = lineHeight, .fontSize = fontSize, .bold = true, .fill = sumPaper};
     ReportSection footer{.height = lineHeight};
-    addCaptions(footer, columns, look, u"sum", {{}, {}, {}, QStringLiteral("合計"), sum});
+    addCaptions(footer, columns, look, u"sum", {{}, {}, {}, QStringLiteral("合計"), money(moneyText(outings.expense))});
+    if (outings.unplaced == 0) return footer;
+    footer.controls.push_back(label(QStringLiteral("lblUnplaced"), unplacedText(outings), 0, widthOf(columns),
+                                    {.top = lineHeight, .height = lineHeight, .fontSize = fontSize, .edges = NoEdge}));
+    footer.height += lineHeight;
     return footer;
 }
 
@@ -105,7 +134,7 @@ void rptGoOut::ActiveReport_ReportStart(Connection& connection, const QString& h
          .paper = a4Portrait,
          .PageHeader = pageHeader(heading, period),
          .Detail = std::move(detail),
-         .ReportFooter = reportFooter(money(moneyText(outings.expense)))},
+         .ReportFooter = reportFooter(outings)},
         std::move(outings.records));
 }
 

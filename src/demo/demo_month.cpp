@@ -84,9 +84,10 @@ void addHoliday(MonthFigures& month, const Style& style, const Stay& stay, bool 
     if (work + late > 0) ++month.workDays;
 }
 
-void addAbsence(MonthFigures& month, const Style& style) {
+// A half day is missed within the weekday's hours.
+void addAbsence(MonthFigures& month, const Style& style, const Style& weekday) {
     ++month.absentDays;
-    month.of(Figure::Absent) += workMinutes(business(style), style);
+    month.of(Figure::Absent) += workMinutes(business(weekday), style);
 }
 
 // A free morning brings no early work, an afternoon's leave no overtime.
@@ -118,7 +119,7 @@ void addDay(MonthFigures& month, bool flexible, Shift shift, const DemoFacts& fa
     if (facts.code == DemoDay::WholeLeave) return;
     const Style& style = styleOf(flexible, shift, kindOf(facts.code));
     const bool holiday = kindOf(facts.code) == DayKind::Holiday;
-    if (!facts.enter && !facts.leave && !holiday) addAbsence(month, style);
+    if (!facts.enter && !facts.leave && !holiday) addAbsence(month, style, styleOf(flexible, shift, DayKind::Weekday));
     if (!facts.enter || !facts.leave) return;
     const Stay raw{*facts.enter, *facts.leave};
     const Stay stay = flexible ? raw : roundedStay(raw);

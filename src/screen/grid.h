@@ -50,14 +50,16 @@ class Grid final : public QTableView {
     void cancelEdit();
 
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
-    // Typing on a cell that can't be edited does nothing; it must not lead to another one.
-    void keyboardSearch(const QString& /*search*/) override {}
+    // Typing on a cell that can't be edited is only told; it must not lead to another one.
+    void keyboardSearch(const QString& /*search*/) override { Q_EMIT EditRefused(Row(), Col()); }
 
   Q_SIGNALS:
     void AfterRowColChange(int oldRow, int oldCol, int newRow, int newCol);
     // The person types into the open editor; and an editor has closed, whatever has become of its text.
     void ChangeEdit();
     void AfterEdit();
+    // The person types on a cell that can't be edited.
+    void EditRefused(int row, int column);
 
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;

@@ -81,6 +81,22 @@ void GridModel::MergeHeadings(bool merge) {
     lookChanged();
 }
 
+void GridModel::MarkEdits(bool mark) {
+    markEdits_ = mark;
+    statusChanged(0, Rows() - 1);
+}
+
+void GridModel::statusChanged(int first, int last) {
+    if (markEdits_ && !quiet_ && last >= first) Q_EMIT headerDataChanged(Qt::Vertical, first, last);
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    if (orientation == Qt::Horizontal) return TextMatrix(0, section);
+    const bool marked = markEdits_ && RowStatus(section) == GridStatus::Modified;
+    return marked ? u'*' + TextMatrix(section, 0) : TextMatrix(section, 0);
+}
+
 void GridModel::CellForeColor(int row, int column, std::optional<GridColour> colour) {
     if (!holds(row, column)) return;
     rowAt(row).looks[column].fore = colour;

@@ -22,7 +22,7 @@ void GridModel::reset(const Shape& shape) {
     shape_ = shape;
     columns_.assign(static_cast<std::size_t>(shape.columns), Column());
     rows_.assign(static_cast<std::size_t>(shape.rows), emptyRow());
-    mergeHeadings_ = false;
+    mergeHeadings_ = markEdits_ = false;
     if (otherShape) endResetModel();
     if (quiet_) return;
     Redraw(false);
@@ -90,6 +90,7 @@ void GridModel::write(int row, int column, const QString& text, GridStatus statu
     target.cells[column] = text;
     target.status = std::max(target.status, status);
     changed(row, column);
+    statusChanged(row, row);
     if (row < shape_.fixedRows) lookChanged();
 }
 
@@ -149,11 +150,14 @@ GridStatus GridModel::RowStatus(int row) const {
 }
 
 void GridModel::RowStatus(int row, GridStatus status) {
-    if (holds(row, 0)) rowAt(row).status = status;
+    if (!holds(row, 0)) return;
+    rowAt(row).status = status;
+    statusChanged(row, row);
 }
 
 void GridModel::clearRowStatus() {
     for (Row& row : rows_) row.status = GridStatus::None;
+    statusChanged(0, Rows() - 1);
 }
 
 void GridModel::Redraw(bool redraw) {
@@ -211,11 +215,6 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
     if (!Editable(index.row(), index.column())) return seen;
     const bool box = columnAt(index.column()).type == GridType::YesNo;
     return seen | (box ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
-}
-
-QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) return {};
-    return orientation == Qt::Horizontal ? TextMatrix(0, section) : TextMatrix(section, 0);
 }
 
 } // namespace kurbo

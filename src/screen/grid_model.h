@@ -110,6 +110,9 @@ class GridModel final : public QAbstractTableModel {
     void MergeHeadings(bool merge);
     [[nodiscard]] bool MergeHeadings() const { return mergeHeadings_; }
 
+    // Rows that the person has changed show a sign before their heading.
+    void MarkEdits(bool mark);
+
     // Nothing takes the colour away.
     void CellForeColor(int row, int column, std::optional<GridColour> colour);
     void CellBackColor(int row, int column, std::optional<GridColour> colour);
@@ -165,6 +168,7 @@ class GridModel final : public QAbstractTableModel {
     void write(int row, int column, const QString& text, GridStatus status);
     void changed(int row, int column);
     void lookChanged();
+    void statusChanged(int first, int last);
     [[nodiscard]] std::optional<GridColour> colourOf(int row, int column, std::optional<GridColour> Look::*part) const;
 
     Shape shape_;
@@ -172,6 +176,7 @@ class GridModel final : public QAbstractTableModel {
     std::vector<Column> columns_;
     GridRules* rules_ = nullptr;
     bool mergeHeadings_ = false;
+    bool markEdits_ = false;
     bool quiet_ = false;
 };
 

@@ -22,6 +22,8 @@ class GridRules {
     // Shown where the mouse rests, and while the list is scrolled.
     [[nodiscard]] virtual QString tip(int /*row*/, int /*column*/) const { return {}; }
     [[nodiscard]] virtual QString scrollTip(int /*row*/) const { return {}; }
+    // What is told to who types on a cell that can't be edited.
+    [[nodiscard]] virtual QString closedTip(int row, int column) const { return tip(row, column); }
     // Whether the column takes Japanese text.
     [[nodiscard]] virtual bool isJapanese(int /*column*/) const { return false; }
 };

@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -21,7 +22,8 @@ ScreenForm::ScreenForm(Client& client, QWidget* parent) : QMainWindow(parent), c
 }
 
 void ScreenForm::dress(const QString& title) {
-    setWindowTitle(productName() + u'－' + title);
+    title_ = productName() + u'－' + title;
+    setWindowTitle(title_);
     menuBar()->setNativeMenuBar(false);
     dressKeys();
     for (Grid* const grid : findChildren<Grid*>()) {
@@ -51,12 +53,21 @@ void ScreenForm::onCommand(QAbstractButton* button, QAction* action, const Comma
 
 void ScreenForm::run(const Command& command) {
     if (blnShowing_) return;
+    const QPointer<QWidget> held = focusWidget();
     if (finishEdits()) {
         const QScopedValueRollback showing(blnShowing_, true);
         const Hourglass hourglass;
         if (hasConnection()) command();
     }
     showState();
+    keepFocus(held);
+}
+
+// A button that its own command has closed leaves the focus to the cells, not to the button behind it.
+void ScreenForm::keepFocus(const QWidget* held) {
+    if (!held || held->isEnabled()) return;
+    for (Grid* const grid : findChildren<Grid*>())
+        if (grid->isVisible() && grid->isEnabled()) return grid->setFocus();
 }
 
 bool ScreenForm::finishEdits() const {
@@ -72,6 +83,25 @@ void ScreenForm::tellTips(Grid& grid) {
         const GridRules* const rules = grid.grid()->rules();
         tip->setText(rules && row >= 0 ? rules->tip(row, column) : QString());
     });
+}
+
+void ScreenForm::tellRefusals(Grid& grid) {
+    constexpr int shown = 5000;
+    QStatusBar* const line = statusBar();
+    connect(&grid, &Grid::EditRefused, line, [line, &grid](int row, int column) {
+        if (const GridRules* const rules = grid.grid()->rules())
+            line->showMessage(rules->closedTip(row, column), shown);
+    });
+}
+
+void ScreenForm::tellFile(const QString& name) {
+    setWindowTitle(name.isEmpty() ? title_ : QStringLiteral("%1（%2）").arg(title_, name));
+    if (!lblFile_) {
+        lblFile_ = new QLabel(this);
+        statusBar()->addPermanentWidget(lblFile_);
+    }
+    lblFile_->setVisible(!name.isEmpty());
+    lblFile_->setText(QStringLiteral("ファイル「%1」を表示しています。「再表示」で元に戻ります。").arg(name));
 }
 
 void ScreenForm::putAway() {

@@ -37,6 +37,10 @@ class ScreenForm : public QMainWindow {
     [[nodiscard]] bool finishEdits() const;
     // The tip of the current cell stands in the status line.
     void tellTips(Grid& grid);
+    // Typing on a cell that can't be edited shows why in the status line.
+    void tellRefusals(Grid& grid);
+    // The title and the status line name the file that is shown instead of what is stored; empty for none.
+    void tellFile(const QString& name);
     // For a destructor: the window goes, with the events of its going, before what its controls and grids work on.
     void putAway();
     // Opens the file again that the window works on, if the disk has taken it away; false after a reported failure.
@@ -54,8 +58,11 @@ class ScreenForm : public QMainWindow {
 
   private:
     void dressKeys();
+    void keepFocus(const QWidget* held);
 
+    QString title_;
     QLabel* lblTip_ = nullptr;
+    QLabel* lblFile_ = nullptr;
 };
 
 } // namespace kurbo

@@ -24,6 +24,11 @@ void fillScreen(QWidget* window, QSize most) {
                  room.top() + (room.height() - size.height() - frame.height()) / 2);
 }
 
+void stayAbove(QWidget* window, const QWidget* below) {
+    window->winId();
+    window->windowHandle()->setTransientParent(below->windowHandle());
+}
+
 void paintNow(QWidget* window) {
     constexpr int patience = 200;
     QElapsedTimer waited;

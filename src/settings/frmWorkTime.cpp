@@ -211,7 +211,8 @@ void frmWorkTime::updateRecord(Page& page) {
     const SettingsStep check{sheet.page.procedures.check,
                              [&] { checkTimes(connection(), sheet, name, pages_[weekdayPage]->sheet); }};
     const SettingsStep write{sheet.page.procedures.update, [&] { updateTimes(connection(), sheet, name); }};
-    if (updateSettings(client_.context, objectName(), check, write)) showAnew(page, sheet.code);
+    if (store(check, write)) showAnew(page, sheet.code);
+    shown_ = ui_->tabTime->currentIndex();
 }
 
 void frmWorkTime::removeRecord(Page& page) {

@@ -4,6 +4,7 @@
 #include "base/failure.h"
 #include "screen/field_tests.h"
 #include "screen/prefectures.h"
+#include "settings/settings_steps.h"
 
 #include <algorithm>
 
@@ -62,12 +63,13 @@ void checkCode(const RecordField& field, const QString& code, const ReservedReco
 
 void checkField(const RecordField& field, const QString& typed, const RecordRules& rules) {
     if (typed.isEmpty() && field.required)
-        throw Complaint(text(field.subject) + QStringLiteral("が入力されていません。"));
+        throw FieldComplaint(text(field.subject) + QStringLiteral("が入力されていません。"), {text(field.control)});
     if (typed.isEmpty()) return;
     if (field.kind == FieldKind::Name) checkName(field, typed, *rules.reserved);
     if (!isGood(field, typed, rules.choices))
-        throw Complaint(text(field.subject) + QStringLiteral("が不正です。") +
-                        text(field.ruleOnUpdate ? field.ruleOnUpdate : field.rule));
+        throw FieldComplaint(text(field.subject) + QStringLiteral("が不正です。") +
+                                 text(field.ruleOnUpdate ? field.ruleOnUpdate : field.rule),
+                             {text(field.control)});
     if (field.kind == FieldKind::Code) checkCode(field, typed, *rules.reserved);
 }
 

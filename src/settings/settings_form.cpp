@@ -1,6 +1,7 @@
 #include "settings/settings_form.h"
 
 #include "screen/fields.h"
+#include "screen/grid.h"
 #include "screen/hourglass.h"
 #include "screen/masked_box.h"
 
@@ -83,9 +84,38 @@ bool SettingsForm::mayDiscard(const QString& subject) const {
 }
 
 bool SettingsForm::update(const SettingsStep& check, const SettingsStep& write) {
-    if (!updateSettings(client_.context, objectName(), check, write)) return false;
+    if (!store(check, write)) return false;
     setChanged(false);
     return true;
+}
+
+bool SettingsForm::store(const SettingsStep& check, const SettingsStep& write) {
+    FieldPlace refused;
+    const auto placedCheck = [&] {
+        try {
+            check.body();
+        } catch (const FieldComplaint& complaint) {
+            refused = complaint.place();
+            throw;
+        }
+    };
+    if (updateSettings(client_.context, objectName(), {check.procedure, placedCheck}, write)) return true;
+    bringForward(refused);
+    return false;
+}
+
+// The page that holds the field, and the field or its cell.
+void SettingsForm::bringForward(const FieldPlace& place) {
+    auto* const field = place.control.isEmpty() ? nullptr : findChild<QWidget*>(place.control);
+    if (!field) return;
+    for (QWidget* part = field; part->parentWidget(); part = part->parentWidget())
+        if (auto* const pages = qobject_cast<QTabWidget*>(part->parentWidget()->parentWidget()))
+            fill([&] { pages->setCurrentWidget(part); });
+    field->setFocus();
+    if (auto* const grid = qobject_cast<Grid*>(field))
+        grid->Select(place.row, place.column);
+    else if (QLineEdit* const editor = editorOf(field))
+        SelectAllText(editor);
 }
 
 void SettingsForm::checkOnLeaving(QWidget* field, const std::function<QString(const QString&)>& refusal) {

@@ -54,7 +54,9 @@ class SettingsForm : public ScreenForm {
     [[nodiscard]] bool isChanged() const { return changed_; }
     // Asks when there are changes; true when they may go.
     [[nodiscard]] bool mayDiscard(const QString& subject) const;
-    // Check, question, write, and the flag goes down.
+    // Check, question, write; after a refused check the field that it complains of comes forward.
+    bool store(const SettingsStep& check, const SettingsStep& write);
+    // The same, and the flag goes down.
     bool update(const SettingsStep& check, const SettingsStep& write);
     // Keeps the focus in a field whose text the rule refuses. The rule gives the refusal, empty for a good text; an
     // empty field is always good.
@@ -71,6 +73,7 @@ class SettingsForm : public ScreenForm {
     void changedByPerson();
     void pageLeft(QTabWidget& pages, int left);
     void endWork();
+    void bringForward(const FieldPlace& place);
 
     std::vector<Check> checks_;
     QString subject_;

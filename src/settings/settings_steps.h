@@ -2,6 +2,8 @@
 
 #include "base/guard.h"
 
+#include <QString>
+
 #include <functional>
 
 namespace kurbo {
@@ -12,6 +14,23 @@ namespace kurbo {
 struct SettingsStep {
     const char16_t* procedure;
     std::function<void()> body;
+};
+
+// Where on the screen a check has found its fault: a control by its name, and the cell where that is a grid.
+struct FieldPlace {
+    QString control;
+    int row = -1;
+    int column = -1;
+};
+
+// A complaint that can be put right in one place.
+class FieldComplaint final : public Complaint {
+  public:
+    FieldComplaint(const QString& description, FieldPlace place) : Complaint(description), place_(std::move(place)) {}
+    [[nodiscard]] const FieldPlace& place() const { return place_; }
+
+  private:
+    FieldPlace place_;
 };
 
 // Asks whether the changes of `subject` are given up; true when there are none.

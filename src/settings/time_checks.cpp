@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/failure.h"
+#include "settings/settings_steps.h"
 #include "settings/time_store.h"
 #include "settings/time_texts.h"
 
@@ -21,13 +22,23 @@ bool isTooLong(const QString& name) {
     return byteLength(name) > mostBytes;
 }
 
+FieldPlace nameBox(const TimePage& page) {
+    return {QStringLiteral("txt") + QString::fromUtf16(page.name)};
+}
+
+FieldPlace cellOf(const TimeSheet& sheet, int row, int slot) {
+    return {QStringLiteral("vfg") + QString::fromUtf16(sheet.page.name), row, 2 * slot + 1};
+}
+
 void checkName(Connection& connection, const TimeSheet& sheet, const QString& name) {
     const QString word = nameWord(sheet.page);
-    if (name.isEmpty()) throw Complaint(word + QStringLiteral("が入力されていません。"));
+    if (name.isEmpty()) throw FieldComplaint(word + QStringLiteral("が入力されていません。"), nameBox(sheet.page));
     if (name == sheet.page.reserved)
-        throw Complaint(lines(word + QStringLiteral("を変更して下さい。"),
-                              QStringLiteral("名称「%1」は使用できません。").arg(name)));
-    if (isTooLong(name)) throw Complaint(word + QStringLiteral("が不正です。") + lengthDemand(sheet.page));
+        throw FieldComplaint(lines(word + QStringLiteral("を変更して下さい。"),
+                                   QStringLiteral("名称「%1」は使用できません。").arg(name)),
+                             nameBox(sheet.page));
+    if (isTooLong(name))
+        throw FieldComplaint(word + QStringLiteral("が不正です。") + lengthDemand(sheet.page), nameBox(sheet.page));
     if (sheet.code == 0) refuseTakenName(connection, sheet.page, name);
 }
 
@@ -41,8 +52,9 @@ void checkFilled(const TimeSheet& sheet) {
         const QString start = sheet.start(row, slot);
         if (weekday ? minuteOfDay(start).has_value() : !start.isEmpty()) return;
     }
-    throw Complaint(flexible ? QStringLiteral("フレキシブルタイムが入力されていません。")
-                             : QStringLiteral("就業時間が入力されていません。"));
+    throw FieldComplaint(flexible ? QStringLiteral("フレキシブルタイムが入力されていません。")
+                                  : QStringLiteral("就業時間が入力されていません。"),
+                         cellOf(sheet, row, 0));
 }
 
 // Why a slot with a start can't be stored; empty when it can.
@@ -58,7 +70,9 @@ void checkSlots(const TimeSheet& sheet) {
             const QString start = sheet.start(row, slot);
             const QString refusal =
                 start.isEmpty() ? QString() : slotRefusal(start, sheet.end(row, slot), sheet.isLate(row));
-            if (!refusal.isEmpty()) throw Complaint(sheet.label(row) + QStringLiteral("が不正です。") + refusal);
+            if (!refusal.isEmpty())
+                throw FieldComplaint(sheet.label(row) + QStringLiteral("が不正です。") + refusal,
+                                     cellOf(sheet, row, slot));
         }
     }
 }
@@ -68,8 +82,9 @@ void checkPairedWithWeekday(const TimeSheet& weekday) {
     for (int row = weekday.page.firstRow; row < weekday.rowEnd(); ++row) {
         const QString text = weekday.start(row, 0);
         if (!text.isEmpty() && !isLimit(text))
-            throw Complaint(weekday.label(row) +
-                            QStringLiteral("の調整時間が不正です。時間をhh:mm形式で入力して下さい。"));
+            throw FieldComplaint(weekday.label(row) +
+                                     QStringLiteral("の調整時間が不正です。時間をhh:mm形式で入力して下さい。"),
+                                 cellOf(weekday, row, 0));
     }
 }
 

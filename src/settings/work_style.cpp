@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "screen/field_tests.h"
+#include "settings/settings_steps.h"
 #include "store/record_set.h"
 
 namespace kurbo {
@@ -78,10 +79,11 @@ void readDisplay(const RecordSet& row, WorkStyle& style) {
         if (item != unused) style.display[item] = row.value(QString::fromUtf16(displayFields[item])).yes();
 }
 
-void checkStandard(const QString& time, const QString& name) {
-    if (isBlank(time)) throw Complaint(name + QStringLiteral("の標準労働時間が入力されていません。"));
+void checkStandard(const QString& time, const QString& name, const QString& control) {
+    if (isBlank(time)) throw FieldComplaint(name + QStringLiteral("の標準労働時間が入力されていません。"), {control});
     if (!isTimeText(time))
-        throw Complaint(name + QStringLiteral("の標準労働時間が不正です。時間をhh:mm形式で入力します。"));
+        throw FieldComplaint(name + QStringLiteral("の標準労働時間が不正です。時間をhh:mm形式で入力します。"),
+                             {control});
 }
 
 bool isRoundUnit(const QString& text) {
@@ -129,13 +131,17 @@ QString roundUnitRefusal(const QString& text) {
 }
 
 void checkWorkStyle(const WorkStyle& style) {
-    if (style.flex) checkStandard(style.standard, QStringLiteral("平日勤務"));
-    if (style.am.exists && style.am.flex) checkStandard(style.am.standard, QStringLiteral("午前休日"));
-    if (style.pm.exists && style.pm.flex) checkStandard(style.pm.standard, QStringLiteral("午後休日"));
+    if (style.flex) checkStandard(style.standard, QStringLiteral("平日勤務"), QStringLiteral("mskTime"));
+    if (style.am.exists && style.am.flex)
+        checkStandard(style.am.standard, QStringLiteral("午前休日"), QStringLiteral("mskAmTime"));
+    if (style.pm.exists && style.pm.flex)
+        checkStandard(style.pm.standard, QStringLiteral("午後休日"), QStringLiteral("mskPmTime"));
     const QString unit = style.roundUnit.trimmed();
-    if (unit.isEmpty()) throw Complaint(QStringLiteral("端数処理単位が入力されていません。"));
+    const FieldPlace unitBox{QStringLiteral("txtUnit")};
+    if (unit.isEmpty()) throw FieldComplaint(QStringLiteral("端数処理単位が入力されていません。"), unitBox);
     if (!isRoundUnit(unit))
-        throw Complaint(QStringLiteral("端数処理単位が不正です。端数処理単位は1～60の範囲で入力します。"));
+        throw FieldComplaint(QStringLiteral("端数処理単位が不正です。端数処理単位は1～60の範囲で入力します。"),
+                             unitBox);
 }
 
 void writeWorkStyle(Connection& connection, const WorkStyle& style) {

@@ -142,7 +142,7 @@ void Connection::close() {
 }
 
 bool Connection::readOnly() const {
-    return (!alone_ && !lock_.joined()) || sqlite3_db_readonly(database_, "main") == 1;
+    return database_ && ((!alone_ && !lock_.joined()) || sqlite3_db_readonly(database_, "main") == 1);
 }
 
 void Connection::fail(int result) {

@@ -32,7 +32,7 @@ class Connection final {
     // False also after the disk or the network under the file has failed, so that the next command opens it anew.
     [[nodiscard]] bool isOpen() const { return database_ && !lost_; }
     [[nodiscard]] const QString& path() const { return path_; }
-    // True where the file or its folder can't be written.
+    // True where the file or its folder can't be written; false while no file is open.
     [[nodiscard]] bool readOnly() const;
 
     [[nodiscard]] Rows rows(const QString& statement, const Values& values = {});

@@ -40,8 +40,13 @@ TEST_F(CardFile, ShowsAgainWhatWasSavedAndForbidsTheRest) {
     desk.prompts.expectFile(file);
     EXPECT_TRUE(screen.saveKrb(april, endOfApril));
     EXPECT_EQ(ArchiveCount(file), 2) << "saved again, it keeps its two members";
-    ASSERT_TRUE(screen.chooseStaff(u"1003"_q));
+    connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Year, F_Month, F_PersonalApproval, "
+                       "F_SuperiorApproval) VALUES ('1003', '2026', '03', True, True)"_q);
+    ASSERT_TRUE(screen.chooseStaff(u"1003"_q) && screen.chooseMonth(3) && screen.superiorApproval());
+    const int before = screen.periodChanges();
     ASSERT_TRUE(load(file));
+    EXPECT_GT(screen.periodChanges(), before) << "the boxes show the file's dates";
+    EXPECT_FALSE(screen.personalApproval() || screen.superiorApproval()) << "marks of the card before";
     EXPECT_EQ(shown(), u"S01 1001 2026/04/01 08:52"_q);
     EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, 4) || screen.mayUpdateMonthly());
     const std::pair<QString, std::function<bool()>> refusals[] = {
@@ -77,7 +82,12 @@ TEST_F(CardFile, AFileOfNobodyKnownIsShownAndNoWayToOthersCards) {
     saveSheet(file, u"Kurbo.tmp"_q, grid, {u"S99"_q, u"9999"_q, selection[2], selection[3]});
     ASSERT_TRUE(load(file));
     EXPECT_EQ(shown(), u"S99 9999 2026/04/01 08:52"_q);
+    connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName, F_Section, F_Display) "
+                       "VALUES ('9999', '工藤四郎', 'S99', True)"_q);
+    ASSERT_TRUE(load(file));
+    EXPECT_EQ(screen.people().last().name, u"工藤四郎"_q);
     EXPECT_TRUE(screen.chooseStaff(u"1003"_q)) << "back to the own card";
+    EXPECT_NE(screen.people().last().code, u"9999"_q);
     EXPECT_EQ(screen.section(), u"S01"_q);
 }
 

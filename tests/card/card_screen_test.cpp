@@ -73,6 +73,17 @@ TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
     }
 }
 
+TEST_F(CardScreenTest, AYearStepKeepsAFebruaryWhole) {
+    for (const Day last : {*makeDay(2027, 2, 28), *makeDay(2028, 2, 29)})
+        connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES (?, ?)"_q, {dateId(last), last});
+    logIn(u"1001"_q);
+    ASSERT_TRUE(screen.load() && screen.chooseMonth(2));
+    EXPECT_TRUE(screen.moveYears(2, u"2026/02/01"_q, u"2026/02/28"_q));
+    EXPECT_EQ(period(), u"2028/02/01-2028/02/29"_q);
+    EXPECT_TRUE(screen.moveYears(-1, u"2028/02/01"_q, u"2028/02/29"_q));
+    EXPECT_EQ(period(), u"2027/02/01-2027/02/28"_q);
+}
+
 TEST_F(CardScreenTest, AnotherPersonHasAnotherPeriodAndOtherRights) {
     logIn(u"1002"_q);
     ASSERT_TRUE(screen.load());
@@ -106,7 +117,10 @@ TEST_F(CardScreenTest, UpdatesAndDeletesWhatIsShown) {
     EXPECT_EQ(cell(1, CardColumn::FullEnter), u"2026/04/01 08:52:17"_q) << "the enter keeps its seconds";
     EXPECT_EQ(cell(6, CardColumn::Id), u"4"_q);
     EXPECT_FALSE(screen.sheet.blnCardChanged);
-    desk.prompts.expect(u"表示期間(2026/04/01～2026/04/02)の"_q);
+    type(7, CardColumn::Plan, u"出張"_q);
+    desk.prompts.expect(discard, Answer::No);
+    EXPECT_FALSE(screen.deletePeriod(u"2026/04/01"_q, u"2026/04/02"_q));
+    desk.prompts.expect(discard, Answer::Yes).expect(u"表示期間(2026/04/01～2026/04/02)の"_q);
     EXPECT_TRUE(screen.deletePeriod(u"2026/04/01"_q, u"2026/04/02"_q));
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(count(u"T02_Kurbo"_q), 2);
@@ -137,9 +151,11 @@ TEST_F(CardScreenTest, WhatIsStoredIsNotWrittenAgainWhenItCannotBeDrawn) {
 TEST_F(CardScreenTest, AnotherSitesSectionIsReadAndWrittenThere) {
     const QString other = addOtherSite();
     logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load());
+    ASSERT_TRUE(screen.load() && screen.chooseMonth(3));
+    EXPECT_TRUE(screen.mayApprovePersonal() && screen.mayAdjust() && screen.mayUpdateMonthly());
     EXPECT_TRUE(screen.chooseSection(u"S02"_q));
     EXPECT_EQ(screen.staff() + screen.people().first().code, u"2001"_q);
+    EXPECT_FALSE(screen.mayApprovePersonal() || screen.mayAdjust() || screen.mayUpdateMonthly()) << "no name is chosen";
     EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, static_cast<int>(CardColumn::Enter)))
         << "the old card is only seen";
     ASSERT_TRUE(screen.chooseStaff(u"2001"_q));

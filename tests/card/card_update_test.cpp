@@ -109,6 +109,9 @@ TEST_F(CardUpdate, ATakenIdIsTriedFourTimesInAll) {
 
 TEST_F(CardUpdate, FailsWhole) {
     expectFailure(u"エラー番号：3197"_q, u"1002"_q); // not that person's row
+    connection.execute(u"UPDATE T02_Kurbo SET F_DateID = '20260420' WHERE F_KurboID = 5"_q);
+    expectFailure(u"エラー番号：3197"_q); // the number is another day's by now
+    connection.execute(u"UPDATE T02_Kurbo SET F_DateID = '20260401' WHERE F_KurboID = 5"_q);
     connection.execute(u"DELETE * FROM T02_Kurbo WHERE F_KurboID = 7"_q);
     type(sheet, 2, CardColumn::Plan, u"会議"_q);
     expectFailure(u"エラー番号：3197\r\n変更するレコードが見つかりません。"_q);

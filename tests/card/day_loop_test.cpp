@@ -186,7 +186,9 @@ TEST_F(DayLoop, Leaves) {
 TEST_F(DayLoop, AbsenceIsThePastsOnly) {
     EXPECT_EQ(first(u"- - -"_q).absent, 450);
     EXPECT_EQ(first(u"- - -"_q).absentDays, 1);
-    EXPECT_EQ(first(u"1 - -"_q).absent, 270);
+    setBand(u"AmHolidayWork", 0, u"13:00", u"19:00");
+    setBand(u"PmHolidayWork", 0, u"08:00", u"12:00");
+    EXPECT_EQ(first(u"1 - -"_q).absent, 270) << "no more than the weekday's business hours";
     EXPECT_EQ(first(u"- - - 2--"_q).absent, 180);
     EXPECT_EQ(first(u"- 09:00 -"_q), Figures()) << "half a stay shows nothing";
     EXPECT_EQ(first(u"- - 17:00"_q), Figures());

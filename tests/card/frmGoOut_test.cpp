@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 
 namespace kurbo::test {
 namespace {
@@ -91,6 +92,8 @@ class FrmGoOut : public CardOffice {
 TEST_F(FrmGoOut, OutingsAreTypedAndStored) {
     open();
     EXPECT_EQ(form()->windowTitle(), u"Kurbo－外出明細"_q);
+    EXPECT_EQ(form()->windowHandle()->transientParent(), card->windowHandle()) << "it stays above its card";
+    EXPECT_EQ(form()->focusWidget(), &grid());
     EXPECT_EQ(of<MaskedBox>(*form(), "mskStart").maskText() + of<MaskedBox>(*form(), "mskEnd").maskText(),
               u"2026/04/012026/04/30"_q);
     EXPECT_EQ(total(), u"26/04/01(水)  合計¥1,200"_q);
@@ -198,6 +201,14 @@ TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     EXPECT_EQ(previewOf(*card), u"Kurbo－外出出張明細"_q);
     of<QPushButton>(*card, "cmdPrint").click();
     EXPECT_EQ(previewOf(*card), u"Kurbo－タイムカード"_q);
+}
+
+TEST_F(FrmGoOut, ItGoesBeforeOutingsThatMayNotBeSeen) {
+    open();
+    connection.execute(u"UPDATE M08_Access SET F_ReadMyGoOut = False WHERE (F_AccessCode = 2)"_q);
+    logIn(u"1002"_q);
+    choose(u"1002"_q);
+    EXPECT_FALSE(form());
 }
 
 // Not only when the form is opened anew.

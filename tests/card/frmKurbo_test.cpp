@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStatusBar>
 
 namespace kurbo::test {
 namespace {
@@ -11,7 +12,12 @@ namespace {
 constexpr int plan = static_cast<int>(CardColumn::Plan);
 constexpr int enter = static_cast<int>(CardColumn::Enter);
 
-class FrmKurbo : public CardWindow {};
+class FrmKurbo : public CardWindow {
+  protected:
+    [[nodiscard]] QString heading(int day) const {
+        return cells().headerData(firstCardDay + day - 1, Qt::Vertical, Qt::DisplayRole).toString();
+    }
+};
 
 TEST_F(FrmKurbo, AnOrdinaryPersonSeesTheOwnCardOnly) {
     openAs(u"1001"_q);
@@ -34,6 +40,9 @@ TEST_F(FrmKurbo, ACorrectionIsTypedCheckedAndStored) {
     type(1, plan, u"Osaka"_q);
     press(Qt::Key_Tab);
     EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled() && find<QAction>("mnuUpdate")->isEnabled());
+    EXPECT_EQ(heading(1), u"*1"_q);
+    type(1, static_cast<int>(CardColumn::Date), u"x"_q);
+    EXPECT_TRUE(form->statusBar()->currentMessage().startsWith(u"編集できません"_q));
     type(6, enter, u"9;00"_q);
     desk.prompts.expect(u"出社時刻はhh:mm形式(半角)で入力します。"_q);
     trigger("mnuUpdate");
@@ -41,7 +50,11 @@ TEST_F(FrmKurbo, ACorrectionIsTypedCheckedAndStored) {
     grid().cancelEdit();
     type(6, enter, u"09:00"_q);
     desk.prompts.expect(u"追加・変更を更新します。"_q);
-    trigger("mnuUpdate");
+    press(Qt::Key_Return);
+    find<QPushButton>("cmdUpdate")->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(form->focusWidget(), &grid()) << "not on the next button";
+    EXPECT_EQ(heading(1), u"1"_q);
     EXPECT_EQ(asked(u"SELECT F_Plan FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"Osaka"_q);
     EXPECT_EQ(cell(6, static_cast<int>(CardColumn::Id)), u"4"_q);
     EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled());
@@ -67,8 +80,9 @@ TEST_F(FrmKurbo, APersonAMonthAndARangeAreChosen) {
     EXPECT_EQ(shown(), u"1002 2026/03/21-2026/04/20"_q);
     choose("dcbStaff", u"1001"_q);
     EXPECT_EQ(shown(), u"1001 2026/04/01-2026/04/30"_q);
+    grid().Select(firstCardDay + 20, plan);
     find<QRadioButton>("optMonth_2")->click();
-    EXPECT_EQ(shown(), u"1001 2026/02/01-2026/02/28"_q);
+    EXPECT_EQ(shown() + QString::number(grid().Row()), u"1001 2026/02/01-2026/02/284"_q) << "from its top";
     type(1, plan, u"x"_q);
     press(Qt::Key_Return);
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
@@ -92,6 +106,27 @@ TEST_F(FrmKurbo, APersonAMonthAndARangeAreChosen) {
     EXPECT_FALSE(form->close());
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
     EXPECT_TRUE(form->close());
+}
+
+TEST_F(FrmKurbo, AFileIsNamedWithItsDates) {
+    openAs(u"1001"_q);
+    for (int i = 0; i < 2; ++i) desk.prompts.expectFile(desk.file(u"april.krb"_q));
+    trigger("mnuSaveKrb");
+    find<QRadioButton>("optMonth_2")->click();
+    trigger("mnuLoadKrb");
+    EXPECT_EQ(form->windowTitle() + shown(), u"Kurbo－タイムカード（april.krb）1001 2026/04/01-2026/04/30"_q);
+    find<QPushButton>("cmdDisplay")->click();
+    EXPECT_EQ(form->windowTitle(), u"Kurbo－タイムカード"_q);
+}
+
+TEST_F(FrmKurbo, ALowWindowOpensAtToday) {
+    logIn(u"1001"_q);
+    form = new frmKurbo(client);
+    form->resize(form->width(), 420);
+    form->load();
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    EXPECT_LE(grid().cellRect(firstCardDay + 14, plan).bottom(), grid().height());
 }
 
 TEST_F(FrmKurbo, AnotherSiteGoneMidwayIsToldAndTheScreenStays) {

@@ -25,7 +25,8 @@ class GoOutTest : public CardOffice {
         connection.execute(add + u"VALUES (1, 1, #2026/04/01 10:05:31#, #2026/04/01 11:20:00#, 5, 1200)"_q);
         connection.execute(add + u"VALUES (2, 1, Null, #2026/04/02 09:00:00#, 5, Null)"_q);
         connection.execute(add + u"VALUES (3, 1, Null, Null, 3, 0)"_q);
-        connection.execute(u"UPDATE M08_Access SET F_WriteMyGoOut = True WHERE (F_AccessCode = 1)"_q);
+        connection.execute(
+            u"UPDATE M08_Access SET F_ReadMyGoOut = True, F_WriteMyGoOut = True WHERE (F_AccessCode = 1)"_q);
         logIn(u"1001"_q);
         goOut.setPerson(u"1001"_q, true);
         goOut.ShowGoOut(u"1"_q, day);
@@ -69,10 +70,12 @@ TEST_F(GoOutTest, ADayWithoutACardRowOrARightIsClosed) {
     }
     goOut.setPerson(u"1002"_q, false);
     goOut.ShowGoOut(u"1"_q, day);
+    EXPECT_EQ(shown(2), u"1    "_q) << "no right to see others' outings";
     type(2, GoOutColumn::Expense, u"1"_q);
-    EXPECT_FALSE(goOut.sheet.changed || goOut.deleteRow(2)) << "no right to others' outings";
+    EXPECT_FALSE(goOut.sheet.changed || goOut.deleteRow(2));
     EXPECT_FALSE(grid().Editable(1, 6));
     goOut.setPerson({}, true);
+    goOut.ShowGoOut(u"1"_q, day);
     desk.prompts.expect(u"タイムカードの氏名が未入力のため、外出明細を更新できません。"_q);
     EXPECT_FALSE(goOut.update());
 }
@@ -150,6 +153,7 @@ TEST_F(GoOutTest, AnUpdateReplacesTheDayAndLearnsItsPlaces) {
     type(5, GoOutColumn::Out, u"00:15"_q);
     type(5, GoOutColumn::Destination, u"空港"_q);
     type(7, GoOutColumn::Destination, u"空港"_q);
+    client.HomeConnection.close(); // the disk has gone and come back
     desk.prompts.expect(update);
     ASSERT_TRUE(goOut.update());
     EXPECT_EQ(stored(), u"1 2026/04/01 10:05:31 2026/04/01 11:30:00 倉庫 1200 / 2 2026/04/01 14:00:09  銀行 380 / "

@@ -85,7 +85,7 @@ TEST_F(Monthly, ARecordHoldsTheFinalSums) {
     rules.plngCountUnit = 0;
     ASSERT_TRUE(save(3, u"20.5|1,000.5||+9.5|45.02|||||||||||||"_q));
     EXPECT_EQ(saved(u"03"_q), u"S01 2026 20 60030 - - 2701 - - - - - 2026/03/01-2026/03/28 0 0"_q);
-    EXPECT_EQ(balance(), u"-"_q);
+    EXPECT_EQ(balance(), u"18.5"_q) << "without a balance the person's stays";
     EXPECT_EQ(count(u"T05_Approved"_q), 1);
 }
 
@@ -130,6 +130,9 @@ TEST_F(Monthly, EachMarkStandsAlone) {
     EXPECT_EQ(saved(u"04"_q).section(u' ', -2), u"0 0"_q);
 }
 
+const QString adjusting = u"集計結果の調整を行います。"_q;
+const QString saving = u"月次集計の最終保存データを更新します。"_q;
+
 // The commands of the screen. 1002 looks at 1001's March of 2026.
 class MonthlyScreen : public CardOffice {
   protected:
@@ -171,15 +174,16 @@ TEST_F(MonthlyScreen, RefusesWhatIsNotReady) {
 
 TEST_F(MonthlyScreen, QuestionsWarnOfMissingPunches) {
     const QString missing = u"よろしいですか？\r\n\r\n注意! 下記日付の打刻がありません。\r\n26/03/01(日), "_q;
-    desk.prompts.expect(u"集計結果の調整を行います。\r\n\r\n"_q + missing, Answer::Cancel);
+    desk.prompts.expect(adjusting + u"\r\n\r\n"_q + missing, Answer::Cancel);
     EXPECT_FALSE(screen.adjust());
-    desk.prompts.expect(u"月次集計の最終保存データを更新します。\r\n\r\n"_q + missing, Answer::Cancel);
+    desk.prompts.expect(u"時間調整が行われていないため、合計(最終)が空のまま保存されます。"_q, Answer::Cancel);
     EXPECT_FALSE(screen.updateMonthly());
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(count(u"T05_Approved"_q), 0);
     for (int row = firstCardDay; row < screen.sheet.grid.Rows(); ++row)
         screen.sheet.grid.TextMatrix(row, static_cast<int>(CardColumn::AbsentDay), {});
-    desk.prompts.expect(u"よろしいですか？"_q);
-    EXPECT_TRUE(screen.updateMonthly());
+    desk.prompts.expect(adjusting).expect(saving + u"\r\n\r\nよろしいですか？"_q);
+    EXPECT_TRUE(screen.adjust() && screen.updateMonthly());
     EXPECT_TRUE(desk.prompts.last().text.endsWith(u"よろしいですか？\r\n\r\n"_q));
     EXPECT_FALSE(screen.mayUpdateMonthly());
     edit(finalSumRow, CardColumn::Over, u"1:00"_q);
@@ -207,18 +211,34 @@ TEST_F(MonthlyScreen, AFailureIsToldTwiceAndChangesNothing) {
 
 TEST_F(MonthlyScreen, TheChosenMonthCountsAndNotTheRangeInView) {
     ASSERT_TRUE(screen.display(u"2026/02/01"_q, u"2026/02/28"_q));
-    EXPECT_TRUE(screen.mayAdjust());
-    EXPECT_FALSE(screen.mayUpdateMonthly()) << "it would be saved as March";
-    desk.prompts.expect(u"よろしいですか？"_q);
-    ASSERT_TRUE(screen.adjust());
-    EXPECT_EQ(screen.period(), (Period{*makeDay(2026, 3, 1), *makeDay(2026, 3, 31)}));
-    EXPECT_EQ(cardText(screen.sheet.grid, finalSumRow, CardColumn::AbsentDay), u"31"_q);
-    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
-    ASSERT_TRUE(screen.display(u"2026/03/02"_q, u"2026/03/31"_q));
-    EXPECT_FALSE(screen.mayAdjust() || screen.mayUpdateMonthly() || screen.mayApproveSuperior());
+    const auto refused = [this] {
+        EXPECT_FALSE(screen.mayAdjust() || screen.mayUpdateMonthly());
+        for (const QString& name : {u"時間調整"_q, u"月次更新"_q})
+            desk.prompts.expect(u"選択した月の期間が表示されていないため、%1はできません。"_q.arg(name));
+        EXPECT_FALSE(screen.adjust() || screen.updateMonthly());
+    };
+    refused();
     desk.prompts.expect(u"データを承認します。"_q);
-    EXPECT_TRUE(screen.approveSuperior(true, u"____/__/__"_q, u"2026/03/31"_q));
+    EXPECT_TRUE(screen.approveSuperior(true, u"____/__/__"_q, u"2026/02/28"_q));
     EXPECT_EQ(screen.period().from, *makeDay(2026, 3, 1));
+    refused(); // the dates have changed, the sums in view have not
+    EXPECT_EQ(count(u"T05_Approved"_q), 0);
+}
+
+TEST_F(MonthlyScreen, ASavedMonthsLeaveIsDeductedOnce) {
+    addCard(30, *makeDay(2026, 3, 10), {}, {}, u"0"_q);
+    const auto save = [this] {
+        desk.prompts.expect(adjusting).expect(saving);
+        EXPECT_TRUE(screen.chooseMonth(3) && screen.adjust() && screen.updateMonthly());
+        return asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q);
+    };
+    EXPECT_EQ(save() + u' ' + save(), u"19 19"_q);
+    ASSERT_TRUE(screen.chooseStaff(u"1001"_q));
+    EXPECT_EQ(cardText(screen.sheet.grid, daySumRow, CardColumn::Leave), u"19.0"_q);
+    connection.execute(u"UPDATE T02_Kurbo SET F_Paid = '1' WHERE (F_KurboID = 30)"_q);
+    EXPECT_EQ(save(), u"19.5"_q);
+    ASSERT_TRUE(screen.chooseMonth(2));
+    EXPECT_EQ(cardText(screen.sheet.grid, daySumRow, CardColumn::Leave), u"19.5"_q) << "another month's start";
 }
 
 } // namespace kurbo::test

@@ -39,6 +39,15 @@ TEST_F(RptGoOut, ListsAPersonsOutingsOfThePeriod) {
     expectClean(*report);
 }
 
+TEST_F(RptGoOut, OutingsWithoutAPlaceAreCounted) {
+    connection.execute(u"INSERT INTO T03_GoOut (F_KurboID, F_Order, F_Expense) VALUES (1, 3, 500)"_q);
+    connection.execute(u"INSERT INTO T03_GoOut (F_KurboID, F_Order) VALUES (2, 6)"_q);
+    const QStringList shown = linesOf(april()->page(0));
+    EXPECT_EQ(
+        shown.mid(shown.size() - 3, 2).join(u'|'),
+        u"合計|¥3,006|外出先の登録が無い外出が2件あります（交通費 ¥500）。上の一覧と合計には含まれていません。"_q);
+}
+
 TEST_F(RptGoOut, AStoreThatCantBeReadIsTold) {
     connection.close();
     desk.prompts.expect(u"エラー番号"_q);

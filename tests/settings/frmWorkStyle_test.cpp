@@ -67,6 +67,12 @@ TEST_F(frmWorkStyleTest, ABadFieldKeepsTheFocus) {
     EXPECT_EQ(QApplication::focusWidget(), &of<QWidget>("txtUnit"));
     desk.prompts.expect(u"端数処理単位が不正です。"_q);
     click("cmdUpdate");
+    of<QLineEdit>("txtUnit").clear();
+    of<QTabWidget>("tabStyle").setCurrentIndex(0);
+    desk.prompts.expect(u"端数処理単位が入力されていません。"_q);
+    click("cmdUpdate");
+    EXPECT_EQ(of<QTabWidget>("tabStyle").currentIndex(), 1) << "the page comes forward";
+    EXPECT_EQ(form->focusWidget(), &of<QWidget>("txtUnit"));
 }
 
 TEST_F(frmWorkStyleTest, TheListingHoldsWhatIsNotYetStored) {
