@@ -209,11 +209,8 @@ TEST_F(Kurboctl, PunchTellsHowItWent) {
     EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"ADMIN"_q, u"--password"_q, u"ADMIN"_q, u"enter"_q}).err,
               u"アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。\n"_q);
     sql(u"UPDATE C02_Section SET F_Display = False"_q);
-    for (const QString& word : {u"kurbo1"_q, u"x"_q}) {
-        const Outcome hidden = punched({u"--password"_q, word, u"enter"_q}, u"2026/04/17 09:00"_q);
-        EXPECT_EQ(hidden.exit, 1);
-        EXPECT_EQ(hidden.err, u"不正な入力です。リストから選択して下さい。\n"_q);
-    }
+    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2026/04/17 09:00"_q).err,
+              u"不正な入力です。リストから選択して下さい。\n"_q);
 }
 
 TEST_F(Kurboctl, MovesOldDays) {

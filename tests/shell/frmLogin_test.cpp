@@ -102,8 +102,7 @@ TEST_F(FrmLogin, ASessionEndsWithItsScreensOrGoesOn) {
     settle();
     EXPECT_FALSE(window.isLoggedIn() || card.isVisible() || client.session.access.CanPunch);
     EXPECT_EQ(window.focusWidget(), staff());
-    EXPECT_EQ(staff()->boundText(), u"P1");
-    EXPECT_TRUE(password()->text().isEmpty());
+    EXPECT_TRUE(staff()->boundText() == u"P1" && password()->text().isEmpty());
     logInAsAdmin();
     password()->setFocus();
     EXPECT_TRUE(staff()->currentText().isEmpty() && !window.isLoggedIn());
@@ -167,12 +166,6 @@ TEST_F(FrmLogin, ThePersonsRightsOpenTheCommands) {
     close("frmDeleteDest");
     window.HideTimeRecorder();
     EXPECT_EQ(window.height(), shortHeight);
-}
-
-TEST_F(FrmLogin, WithoutAccessRightsTheWindowStaysLoggedOff) {
-    prompts.expect(QStringLiteral("鈴木 さんのアクセス権が設定されていません。"));
-    logInAs("P2", "pw2");
-    EXPECT_FALSE(window.isLoggedIn());
 }
 
 TEST_F(FrmLogin, TheAdministratorGetsTheSettingsInTheirOrder) {
@@ -305,13 +298,6 @@ TEST_F(FrmLogin, TheThirdWrongPasswordInARowEndsTheClient) {
     EXPECT_TRUE(password()->text().isEmpty());
     EXPECT_EQ(window.focusWidget(), password());
     give("no");
-    give("pw1");
-    ASSERT_TRUE(window.isLoggedIn());
-    password()->setFocus();
-    prompts.expect(QStringLiteral("正しいパスワードを")).expect(QStringLiteral("正しいパスワードを"));
-    give("no");
-    give("no");
-    EXPECT_TRUE(window.isVisible());
     OtherScreen card;
     prompts.expect(QStringLiteral("強制終了します。")).expect(QStringLiteral("他のメニューが開いているので"));
     give("no");
