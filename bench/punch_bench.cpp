@@ -66,7 +66,9 @@ int main() {
         const QString staff = staffCode(i);
         const QByteArray user = staff.toLatin1();
         commits.add(timed([&] { bare.run(i + 1, day, user); }));
-        punches.add(timed([&] { (void)punch(office.context, connection, {staff, 30, 0}, Punch::Enter); }));
+        punches.add(timed([&] {
+            (void)punch(office.context, connection, {{}, staff, {true, true, false, {}}, 30, 0}, Punch::Enter);
+        }));
     }
     std::printf("punch / bare commit: %.2f in the middle, %.2f at the 95th of 100 (limit 1.30)\n",
                 punches.at(50) / commits.at(50), punches.at(95) / commits.at(95));

@@ -28,7 +28,9 @@ std::vector<double> punchesOf(const QString& path, const QString& folder, int nu
     while (std::chrono::steady_clock::now() < end) {
         // A new person each time, so that every punch is written.
         const QString staff = QString::number(number) + u'-' + QString::number(times.size());
-        times.push_back(timed([&] { (void)punch(office.context, connection, {staff, 0, 0}, Punch::Enter); }));
+        times.push_back(timed([&] {
+            (void)punch(office.context, connection, {{}, staff, {true, true, false, {}}, 0, 0}, Punch::Enter);
+        }));
     }
     return times;
 }

@@ -2,8 +2,6 @@
 #include "ctl/console.h"
 #include "punch/punch_clock.h"
 #include "shell/login.h"
-#include "store/database_file.h"
-#include "store/readers.h"
 
 #include <algorithm>
 #include <array>
@@ -33,19 +31,11 @@ std::optional<Answer> continuedAnswer(const Options& options) {
     throw WrongUse{QStringLiteral("--continued takes yes or no")};
 }
 
-// The name shown in the login list, for messages; the code where there is none.
-QString nameOf(Connection& connection, const QString& staff) {
-    const auto name =
-        connection.firstValue(QStringLiteral("SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = ?);"), {staff});
-    return name && !name->isNull() ? name->text() : staff;
-}
-
-// Who is not in the login list can't log in.
-void refuseHidden(Connection& connection, const QString& staff) {
-    const bool hidden = connection.hasRow(QStringLiteral("SELECT F_StaffCode FROM C03_Staff WHERE (F_StaffCode = ?) "
-                                                         "AND (F_Display = False) AND (F_StaffCode <> 'ADMIN');"),
-                                          {staff});
-    if (hidden) throw Complaint(QStringLiteral("不正な入力です。リストから選択して下さい。"));
+// The section in whose login list the person may stand.
+QString sectionOf(Connection& connection, const QString& staff) {
+    const auto section =
+        connection.firstValue(QStringLiteral("SELECT F_Section FROM C03_Staff WHERE (F_StaffCode = ?);"), {staff});
+    return section ? section->text() : QString();
 }
 
 Exit logInAndPunch(const Console& console, const Options& options, Punch kind) {
@@ -53,16 +43,13 @@ Exit logInAndPunch(const Console& console, const Options& options, Punch kind) {
     Client client(console.context());
     client.DbPath = options.place(0);
     client.openHome();
-    refuseHidden(client.HomeConnection, staff);
     Login login(client);
-    const Credentials credentials{
-        {}, staff, nameOf(client.HomeConnection, staff), options.value(QStringLiteral("password"))};
+    const Credentials credentials{sectionOf(client.HomeConnection, staff), staff,
+                                  options.value(QStringLiteral("password"))};
     if (login.attempt(credentials) != LoginResult::Open) return console.refused();
-    if (!client.session.access.CanPunch)
-        throw Complaint(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
-    const Puncher puncher{client.session.SessionStaff, client.session.EnterDelay, client.session.LeaveGain};
-    return punch(console.context(), client.HomeConnection, puncher, kind) == PunchResult::Done ? Exit::Done
-                                                                                               : console.refused();
+    return punch(console.context(), client.HomeConnection, client.session, kind) == PunchResult::Done
+               ? Exit::Done
+               : console.refused();
 }
 
 } // namespace

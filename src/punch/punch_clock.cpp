@@ -33,6 +33,12 @@ PunchResult ended(bool written) {
     return written ? PunchResult::Done : PunchResult::Stopped;
 }
 
+bool mayPunch(const Context& context, const Session& session) {
+    if (!session.access.CanPunch)
+        context.prompts.exclaim(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
+    return session.access.CanPunch;
+}
+
 // Has the connection's turn among the writers until a message comes up: nobody else waits while a person reads.
 class TurnUntilMessage final : public Prompts {
   public:
@@ -105,19 +111,20 @@ struct Press {
     }
 };
 
-Moment punchTime(const Context& context, const Puncher& puncher, Punch kind) {
+Moment punchTime(const Context& context, const Session& session, Punch kind) {
     const Moment now = context.clock.now();
-    if (kind == Punch::Enter) return now - std::chrono::seconds(puncher.EnterDelay);
-    if (kind == Punch::Leave) return now + std::chrono::seconds(puncher.LeaveGain);
+    if (kind == Punch::Enter) return now - std::chrono::seconds(session.EnterDelay);
+    if (kind == Punch::Leave) return now + std::chrono::seconds(session.LeaveGain);
     return now;
 }
 
 } // namespace
 
-PunchResult punch(const Context& surroundings, Connection& connection, const Puncher& puncher, Punch kind) {
+PunchResult punch(const Context& surroundings, Connection& connection, const Session& session, Punch kind) {
+    if (!mayPunch(surroundings, session)) return PunchResult::Stopped;
     TurnUntilMessage prompts(surroundings.prompts, connection);
     const Context context{prompts, surroundings.clock, surroundings.paths, surroundings.progress};
-    return Press{context, connection, puncher.staff, punchTime(context, puncher, kind)}.run(kind);
+    return Press{context, connection, session.SessionStaff, punchTime(context, session, kind)}.run(kind);
 }
 
 } // namespace kurbo

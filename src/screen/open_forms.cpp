@@ -3,9 +3,13 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <array>
 
 namespace kurbo {
 namespace {
+
+// They show the client's own progress, or texts that are only read.
+constexpr std::array workless{u"frmSplash", u"frmWaiting", u"frmHelp", u"frmListing", u"frmAbout"};
 
 bool isForm(const QWidget* window) {
     return window->objectName().startsWith(QStringLiteral("frm"));
@@ -28,9 +32,8 @@ bool IsFormLoaded(const QString& name) {
 QWidgetList openScreens() {
     QWidgetList screens;
     for (QWidget* const window : QApplication::topLevelWidgets()) {
-        const QString name = window->objectName();
-        if (window->isVisible() && isForm(window) && name != u"frmSplash" && name != u"frmWaiting")
-            screens.append(window);
+        const auto isIt = [name = window->objectName()](const char16_t* other) { return name == other; };
+        if (window->isVisible() && isForm(window) && std::ranges::none_of(workless, isIt)) screens.append(window);
     }
     return screens;
 }
@@ -41,11 +44,14 @@ int openForms() {
 
 bool activateForm(const QString& name) {
     QWidget* const form = loadedForm(name);
-    if (!form) return false;
-    form->setWindowState(form->windowState() & ~Qt::WindowMinimized);
-    form->raise();
-    form->activateWindow();
-    return true;
+    if (form) bringToFront(*form);
+    return form;
+}
+
+void bringToFront(QWidget& form) {
+    form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
+    form.raise();
+    form.activateWindow();
 }
 
 bool isBoxUp() {

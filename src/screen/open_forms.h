@@ -8,12 +8,14 @@ namespace kurbo {
 // A form is a window whose name begins with "frm"; it is loaded while it is on the screen or minimised.
 
 [[nodiscard]] bool IsFormLoaded(const QString& name);
-// The forms that are open in which people work; frmSplash and frmWaiting are none of them.
+// The forms that are open in which people work; the progress windows and those that only show a text are none of them.
 [[nodiscard]] QWidgetList openScreens();
-// How many forms are open in which people work; frmSplash and frmWaiting are none of them.
+// How many these are.
 [[nodiscard]] int openForms();
 // Brings a loaded form to the front; false when it isn't loaded.
 [[nodiscard]] bool activateForm(const QString& name);
+// Out of its icon, above the other windows, with the focus.
+void bringToFront(QWidget& form);
 
 // Whether a message box or a file dialog is up, that is a modal window which is no form.
 [[nodiscard]] bool isBoxUp();

@@ -133,8 +133,7 @@ void frmLogin::databaseChanged() {
         ui_->dcbStaff->clearEditText();
     }
     guarded(client_.context, u"frmLogin", u"databaseChanged", [this] { fillLists(); });
-    HideTimeRecorder();
-    ui_->txtPassWord->clear();
+    (void)endSession();
 }
 
 void frmLogin::tick() {
@@ -166,9 +165,16 @@ bool frmLogin::event(QEvent* event) {
     if (event->type() == QEvent::WindowDeactivate) leftForBox_ = isBoxUp();
     // Coming back from a message box is no new beginning: a failed connection would be reported without end.
     if (event->type() == QEvent::WindowActivate && !leftForBox_ && !isBoxUp() && openForms() == 1)
-        QMetaObject::invokeMethod(
-            this, [this] { (void)ReConnect(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &frmLogin::comeBack, Qt::QueuedConnection);
     return QMainWindow::event(event);
+}
+
+// Whom an open screen has kept from being thrown out goes now.
+void frmLogin::comeBack() {
+    if (login_.isThrown())
+        close();
+    else
+        (void)ReConnect();
 }
 
 void frmLogin::closeEvent(QCloseEvent* event) {

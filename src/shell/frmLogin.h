@@ -6,6 +6,7 @@
 #include "store/client.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
@@ -56,6 +57,7 @@ class frmLogin final : public QMainWindow {
     [[nodiscard]] bool ReConnect();
     void fillLists();
     void letGo();
+    void comeBack();
     void databaseChanged();
 
     void tick();
@@ -68,10 +70,12 @@ class frmLogin final : public QMainWindow {
     [[nodiscard]] bool isLoginField(const QWidget* field) const;
     [[nodiscard]] bool refuses(const QWidget* field) const;
     void refuse(DataCombo* field);
+    void backTo(DataCombo* field);
     void enterLoginField(QWidget* field);
+    void beginAnew();
 
     void logIn();
-    void admit(const Session& before);
+    [[nodiscard]] bool endSession();
     [[nodiscard]] bool closeScreens();
     void ShowTimeRecorder();
     void showRecorder(bool shown);
@@ -102,6 +106,9 @@ class frmLogin final : public QMainWindow {
     bool listsOpen_ = false;
     bool ending_ = false;
     bool connecting_ = false;
+    // A field's text is being refused.
+    bool refusing_ = false;
+    QPointer<QWidget> leftForMenus_;
     // The program moves the focus, not the person.
     bool quietFocus_ = false;
     // The window lost the person's attention to a message box only.

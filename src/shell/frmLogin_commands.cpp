@@ -93,14 +93,15 @@ void frmLogin::openParm() {
     if (!ReConnect() || !closeScreens()) return;
     tmrTimer_->stop();
     frmParm form(client_, this);
-    connect(&form, &frmParm::databaseChosen, this, &frmLogin::databaseChanged);
+    bool chosen = false;
+    connect(&form, &frmParm::databaseChosen, this, [&chosen] { chosen = true; });
     form.exec();
+    if (chosen) databaseChanged();
     (void)ReConnect();
 }
 
 void frmLogin::showVersion() {
     if (!ReConnect()) return;
-    tmrTimer_->stop();
     frmAbout(client_.helpPath(), this).exec();
     (void)ReConnect();
 }

@@ -45,12 +45,17 @@ void frmLogin::checkInput() {
         CheckLoginInput(ui_->dcbSection->currentText(), ui_->dcbStaff->currentText(), ui_->txtPassWord->text()));
 }
 
-// Nothing at either end: the window itself won or lost the focus.
+// Nothing at either end: the window itself won or lost the focus. The way over the menus is one move.
 void frmLogin::focusMoved(QWidget* from, QWidget* to) {
     if (quietFocus_ || !from || !to || from->window() != this || to->window() != this) return;
-    if (from == ui_->menus || to == ui_->menus) return;
-    if (refuses(from))
-        refuse(static_cast<DataCombo*>(from));
+    if (to == ui_->menus) {
+        leftForMenus_ = from;
+        return;
+    }
+    QWidget* const left = from == ui_->menus ? leftForMenus_.data() : from;
+    if (left == to) return;
+    if (refuses(left))
+        refuse(static_cast<DataCombo*>(left));
     else if (isLoginField(to))
         enterLoginField(to);
 }
@@ -65,65 +70,81 @@ bool frmLogin::refuses(const QWidget* field) const {
     return combo != ui_->dcbStaff || !isAdminCode(combo->currentText());
 }
 
-// The click that moved the focus is let to its end first.
+// The click that moved the focus is let to its end first; where it was on the login button, it logs nobody in.
 void frmLogin::refuse(DataCombo* field) {
+    refusing_ = true;
     const auto goBack = [this, field] {
-        {
-            const QScopedValueRollback quiet(quietFocus_, true);
-            field->setFocus();
-            SelectAllText(field->lineEdit());
-        }
+        backTo(field);
         client_.context.prompts.exclaim(QStringLiteral("不正な入力です。リストから選択して下さい。"));
+        refusing_ = false;
     };
     QMetaObject::invokeMethod(this, goBack, Qt::QueuedConnection);
 }
 
-// Whoever touches a login field begins anew: the session of the one before ends.
+void frmLogin::backTo(DataCombo* field) {
+    const QScopedValueRollback quiet(quietFocus_, true);
+    field->setFocus();
+    SelectAllText(field->lineEdit());
+}
+
+// A screen may ask: the click that moved the focus is let to its end first.
 void frmLogin::enterLoginField(QWidget* field) {
     if (!ReConnect()) return;
     if (field != ui_->txtPassWord) SetImeOpen(field, true);
-    if (!isLoggedIn()) return;
-    HideTimeRecorder();
-    ui_->txtPassWord->clear();
-    if (!isAdminCode(ui_->dcbStaff->currentText())) return;
-    ui_->dcbSection->clearEditText();
-    ui_->dcbStaff->clearEditText();
+    const auto how = openForms() > 1 ? Qt::QueuedConnection : Qt::DirectConnection;
+    if (isLoggedIn()) QMetaObject::invokeMethod(this, &frmLogin::beginAnew, how);
+}
+
+// Whoever touches a login field ends the session of the one before.
+void frmLogin::beginAnew() {
+    const bool admin = isAdminCode(client_.session.SessionStaff);
+    if (!endSession()) {
+        const QScopedValueRollback quiet(quietFocus_, true);
+        ui_->txtClock->setFocus();
+    } else if (admin) {
+        ui_->dcbSection->clearEditText();
+        ui_->dcbStaff->clearEditText();
+    }
 }
 
 void frmLogin::logIn() {
-    if (isLoggedIn() || !ReConnect()) return;
-    const Session before = client_.session;
-    const LoginResult result = login_.attempt({ui_->dcbSection->boundText(), ui_->dcbStaff->boundText(),
-                                               ui_->dcbStaff->currentText(), ui_->txtPassWord->text()});
-    if (result == LoginResult::Open) return admit(before);
-    if (openForms() > 1) client_.session = before;
-    if (result == LoginResult::Thrown) {
+    if (isLoggedIn() || refusing_) return;
+    // Somebody may have left the lists since they were read.
+    listsOpen_ = false;
+    if (!ReConnect()) return;
+    switch (login_.attempt({ui_->dcbSection->boundText(), ui_->dcbStaff->boundText(), ui_->txtPassWord->text()})) {
+    case LoginResult::Open:
+        return ShowTimeRecorder();
+    case LoginResult::Thrown:
         close();
-    } else if (result == LoginResult::Refused) {
+        return;
+    case LoginResult::Refused:
         ui_->txtPassWord->clear();
-        ui_->txtPassWord->setFocus();
+        return ui_->txtPassWord->setFocus();
+    case LoginResult::Stopped:
+        for (DataCombo* const field : {ui_->dcbStaff, ui_->dcbSection})
+            if (refuses(field)) backTo(field);
     }
 }
 
-// A screen that somebody else has left open shows that person's data, under that person's rights: it closes first.
-// Screens of the same person go on with the rights of the section that they show.
-void frmLogin::admit(const Session& before) {
-    const Session admitted = client_.session;
-    if (openForms() > 1 && admitted.SessionStaff != before.SessionStaff) {
-        client_.session = before;
-        if (!closeScreens()) return ui_->txtPassWord->clear();
-        client_.session = admitted;
-    }
-    ShowTimeRecorder();
-    if (openForms() > 1) client_.session.access = before.access;
+// Every end of a session: its screens close with it, and who keeps one keeps the session. False when it goes on.
+bool frmLogin::endSession() {
+    if (!closeScreens()) return false;
+    client_.session = {};
+    HideTimeRecorder();
+    ui_->txtPassWord->clear();
+    return true;
 }
 
-// All but this window; false when a person wants to keep one.
+// All but this window; false when a person wants to keep one, which comes to the front.
 bool frmLogin::closeScreens() {
     QList<QPointer<QWidget>> screens;
     for (QWidget* const form : openScreens()) screens.append(form);
-    for (const QPointer<QWidget>& form : screens)
-        if (form && form != this && form->isVisible() && !form->close()) return false;
+    for (const QPointer<QWidget>& form : screens) {
+        if (!form || form == this || !form->isVisible() || form->close()) continue;
+        bringToFront(*form);
+        return false;
+    }
     return true;
 }
 
@@ -199,13 +220,11 @@ void frmLogin::press(Punch kind) {
     const Context& context = client_.context;
     const FixedClock atPress(context.clock.now());
     if (!ReConnect()) return;
-    const Session& session = client_.session;
+    // Whoever touches a login field while the database is waited for ends the session only.
+    const Session session = client_.session;
     const PunchResult result =
-        punch({context.prompts, atPress, context.paths, context.progress}, client_.HomeConnection,
-              {session.SessionStaff, session.EnterDelay, session.LeaveGain}, kind);
-    if (result == PunchResult::Stopped) return;
-    HideTimeRecorder();
-    ui_->txtPassWord->clear();
+        punch({context.prompts, atPress, context.paths, context.progress}, client_.HomeConnection, session, kind);
+    if (result == PunchResult::Stopped || !endSession()) return;
     ui_->dcbStaff->setFocus();
     SelectAllText(ui_->dcbStaff->lineEdit());
 }

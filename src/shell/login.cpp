@@ -1,8 +1,24 @@
 #include "shell/login.h"
 
 #include "store/engine_fault.h"
+#include "store/text_order.h"
+
+#include <algorithm>
 
 namespace kurbo {
+namespace {
+
+constexpr int mostWrong = 3;
+
+// The entry of a code in any case; throws the refusal when the list lacks it.
+CodeName entryOf(const QList<CodeName>& list, const QString& code) {
+    const auto found =
+        std::ranges::find_if(list, [&](const CodeName& entry) { return compareText(entry.code, code) == 0; });
+    if (found == list.end()) throw Complaint(QStringLiteral("不正な入力です。リストから選択して下さい。"));
+    return *found;
+}
+
+} // namespace
 
 bool IsPasswordOK(const Context& context, Connection& connection, const QString& staff, const QString& password) {
     return guarded(context, u"frmLogin", u"IsPasswordOK", false, [&] {
@@ -23,34 +39,50 @@ bool GetTimeDiff(const Context& context, Connection& connection, const QString& 
     });
 }
 
+bool Login::isThrown() const {
+    return FailedLogins_ >= mostWrong;
+}
+
 LoginResult Login::attempt(const Credentials& credentials) {
-    if (!IsPasswordOK(client_.context, client_.HomeConnection, credentials.staff, credentials.password))
+    if (isThrown()) return LoginResult::Thrown;
+    const auto person = listed(credentials);
+    if (!person) return LoginResult::Stopped;
+    if (!IsPasswordOK(client_.context, client_.HomeConnection, person->staff.code, credentials.password))
         return wrongPassword();
     FailedLogins_ = 0;
-    return admit(credentials);
+    return admit(*person);
+}
+
+// Comes before the password, of which a refusal tells nothing.
+std::optional<Login::Listed> Login::listed(const Credentials& credentials) const {
+    if (isAdminCode(credentials.staff)) return Listed{adminCode(), {adminCode(), adminCode()}};
+    return guarded(client_.context, u"frmLogin", u"IsListed", std::optional<Listed>(), [&] {
+        const CodeName section = entryOf(loginSections(client_.HomeConnection), credentials.section);
+        return std::optional(
+            Listed{section.code, entryOf(loginStaff(client_.HomeConnection, section.code), credentials.staff)});
+    });
 }
 
 LoginResult Login::wrongPassword() {
-    constexpr int mostWrong = 3;
-    const bool last = ++FailedLogins_ >= mostWrong;
-    client_.context.prompts.exclaim(last ? QStringLiteral("不正なパスワードです。強制終了します。")
-                                         : QStringLiteral("不正なパスワードです。正しいパスワードを入力して下さい。"));
-    return last ? LoginResult::Thrown : LoginResult::Refused;
+    ++FailedLogins_;
+    client_.context.prompts.exclaim(isThrown()
+                                        ? QStringLiteral("不正なパスワードです。強制終了します。")
+                                        : QStringLiteral("不正なパスワードです。正しいパスワードを入力して下さい。"));
+    return isThrown() ? LoginResult::Thrown : LoginResult::Refused;
 }
 
-LoginResult Login::admit(const Credentials& credentials) {
-    Session& session = client_.session;
-    const bool admin = isAdminCode(credentials.staff);
-    session.SessionStaff = admin ? adminCode() : credentials.staff;
-    session.SessionSection = admin ? adminCode() : credentials.section;
+LoginResult Login::admit(const Listed& person) {
+    Session session{person.section, person.staff.code, {}, 0, 0};
     Connection& connection = client_.HomeConnection;
     if (!GetAccess(client_.context, connection, session.SessionStaff, mySection(), session.access) ||
         !GetTimeDiff(client_.context, connection, session.SessionStaff, session.EnterDelay, session.LeaveGain))
         return LoginResult::Stopped;
-    if (session.access.AccessFound) return LoginResult::Open;
-    client_.context.prompts.exclaim(
-        lines(credentials.staffText + QStringLiteral(" さんのアクセス権が設定されていません。"),
-              QStringLiteral("管理者にアクセス権の設定を依頼して下さい。")));
+    if (session.access.AccessFound) {
+        client_.session = session;
+        return LoginResult::Open;
+    }
+    client_.context.prompts.exclaim(lines(person.staff.name + QStringLiteral(" さんのアクセス権が設定されていません。"),
+                                          QStringLiteral("管理者にアクセス権の設定を依頼して下さい。")));
     return LoginResult::Stopped;
 }
 

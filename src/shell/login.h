@@ -1,8 +1,11 @@
 #pragma once
 
 #include "store/client.h"
+#include "store/readers.h"
 
 #include <QString>
+
+#include <optional>
 
 namespace kurbo {
 
@@ -14,30 +17,38 @@ namespace kurbo {
 [[nodiscard]] bool GetTimeDiff(const Context& context, Connection& connection, const QString& staff, int& EnterDelay,
                                int& LeaveGain);
 
-// What was typed into the login fields.
+// What was typed into the login fields. The codes may be in any case; the administrator needs no section.
 struct Credentials {
-    QString section;   // code
-    QString staff;     // code, or "ADMIN" as typed
-    QString staffText; // name shown, for messages
+    QString section;
+    QString staff;
     QString password;
 };
 
 enum class LoginResult {
     Open,    // the session is filled and the punch clock opens
     Refused, // wrong password; it was said
-    Thrown,  // the third wrong password in a row; it was said, and the client ends
-    Stopped, // no access right or a failure; it was said
+    Thrown,  // the third wrong password in a row, which was said, or any attempt after it; the client ends
+    Stopped, // not in the login lists, no access right or a failure; it was said
 };
 
-// The log-in of one window; it counts wrong passwords in a row, over all people.
+// The one way into a session: it admits the administrator and whom the login lists hold. It counts wrong passwords in a
+// row, over all people; after the third nobody is admitted any more.
 class Login final {
   public:
     explicit Login(Client& client) : client_(client) {}
+    // Fills the client's session, with the codes as the store spells them, or leaves it as it is.
     [[nodiscard]] LoginResult attempt(const Credentials& credentials);
+    [[nodiscard]] bool isThrown() const;
 
   private:
+    struct Listed {
+        QString section;
+        CodeName staff;
+    };
+
+    [[nodiscard]] std::optional<Listed> listed(const Credentials& credentials) const;
     [[nodiscard]] LoginResult wrongPassword();
-    [[nodiscard]] LoginResult admit(const Credentials& credentials);
+    [[nodiscard]] LoginResult admit(const Listed& person);
 
     Client& client_;
     int FailedLogins_ = 0;

@@ -53,7 +53,7 @@ constexpr std::array screens{
     Screen{u"frmCalendar", &made<frmCalendar>},
     Screen{u"frmPassword", &madeModal<frmPassword>},
     Screen{u"frmMaintainance", &madeModal<frmMaintainance>},
-    Screen{u"frmDeleteDest", &made<frmDeleteDest>},
+    Screen{u"frmDeleteDest", &madeModal<frmDeleteDest>},
 };
 
 } // namespace

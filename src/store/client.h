@@ -41,7 +41,7 @@ class Client final {
     // The same for the home file.
     [[nodiscard]] bool hasHome(QStringView form);
     void closeConnections();
-    // The help of the person who logged in last; that for people at first.
+    // The administrator's help in the administrator's session; else that for people.
     [[nodiscard]] const QString& helpPath() const;
 };
 

@@ -206,9 +206,11 @@ TEST_F(Kurboctl, PunchTellsHowItWent) {
     EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2031/01/01 09:00"_q).exit, 1) << "no calendar";
     EXPECT_EQ(sql(u"SELECT F_DateID, F_Enter, F_Leave FROM T02_Kurbo ORDER BY F_KurboID"_q),
               u"F_DateID\tF_Enter\tF_Leave\n20260415\t2026-04-15 08:54:40\t2026-04-16 07:01:00\n20260416\t\t\n"_q);
-    EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"1004"_q, u"--password"_q, u"kurbo1"_q, u"enter"_q}).exit, 1)
-        << "not in the list";
-    EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"ADMIN"_q, u"--password"_q, u"ADMIN"_q, u"enter"_q}).exit, 1);
+    EXPECT_EQ(kurboctl({u"punch"_q, path, u"--staff"_q, u"ADMIN"_q, u"--password"_q, u"ADMIN"_q, u"enter"_q}).err,
+              u"アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。\n"_q);
+    sql(u"UPDATE C02_Section SET F_Display = False"_q);
+    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2026/04/17 09:00"_q).err,
+              u"不正な入力です。リストから選択して下さい。\n"_q);
 }
 
 TEST_F(Kurboctl, MovesOldDays) {

@@ -20,10 +20,13 @@ class ManyClients : public SampleCompany {
   protected:
     ManyClients() {
         Transaction transaction(connection);
-        for (int i = 0; i < clients; ++i)
+        for (int i = 0; i < clients; ++i) {
+            connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_Section, F_Display) VALUES (?, 'S01', True)"_q,
+                               {code(i)});
             connection.execute(u"INSERT INTO M02_StaffInfo (F_StaffCode, F_Password, F_CloseDay, F_Access) "
                                "VALUES (?, 'pw', 31, 1)"_q,
                                {code(i)});
+        }
         transaction.commit();
         connection.close();
     }

@@ -8,7 +8,8 @@ namespace {
 class PunchClock : public SampleCompany {
   protected:
     PunchResult press(Punch kind, int enterDelay = 0, int leaveGain = 0) {
-        return punch(desk.context, connection, {u"1001"_q, enterDelay, leaveGain}, kind);
+        return punch(desk.context, connection, {u"S01"_q, u"1001"_q, {true, true, false, {}}, enterDelay, leaveGain},
+                     kind);
     }
     void noRowToday(const QString& enter, const QString& leave) { addCard(1, yesterday, enter, leave); }
     // Day, enter and leave of every row, "-" for Null.
