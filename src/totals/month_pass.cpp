@@ -197,7 +197,7 @@ class MonthPass final {
     using Place = std::vector<CalendarDay>::const_iterator;
 
     // A row found by the index on people lies on a page of its own, and costs as much as so many that lie together.
-    static constexpr std::int64_t scattered = 8;
+    static constexpr std::int64_t scattered = 12;
 
     [[nodiscard]] bool areFew() {
         const auto all = connection_.firstValue(QStringLiteral("SELECT Count(*) FROM C03_Staff;"));
