@@ -5,6 +5,8 @@
 #include "ctl/result_output.h"
 #include "store/database_file.h"
 
+#include <array>
+
 namespace kurbo {
 namespace {
 
@@ -16,24 +18,34 @@ void printCard(const Card& card, const QString& staff, Period span, Format forma
                  jsonTexts(card.headings), jsonTable(rows), jsonTable(card.days)));
 }
 
-} // namespace
-
-Exit runCard(const QStringList& arguments) {
-    Options options;
-    options.add(QStringLiteral("staff"), QStringLiteral("staff code"));
-    options.add(QStringLiteral("month"), QStringLiteral("the month in which the period ends, yyyy/mm"));
-    options.add(QStringLiteral("from"), QStringLiteral("first day, yyyy/mm/dd"));
-    options.add(QStringLiteral("to"), QStringLiteral("last day, yyyy/mm/dd"));
-    options.read(arguments, 1);
-    (void)options.needed(QStringLiteral("staff"));
+Exit runCard(const Options& options) {
     const Format format = formatNamed(options.value(QStringLiteral("format")));
     const Console console(options);
     Connection connection;
     connection.open(options.place(0), databasePassword());
     const auto asked = askedCard(console.context(), connection, options);
     if (!asked) return console.refused();
-    printCard(asked->card, asked->staff, asked->span, format);
+    printCard(asked->card, asked->who.staff.code, asked->span, format);
     return Exit::Done;
 }
+
+constexpr std::array cardOptions{
+    OptionText{u"staff", u"CODE", u"the person", true},
+    OptionText{u"month", u"yyyy/mm", u"the month in which the period ends; this, or --from and --to"},
+    OptionText{u"from", u"yyyy/mm/dd", u"first day"},
+    OptionText{u"to", u"yyyy/mm/dd", u"last day"},
+};
+
+} // namespace
+
+const Command cardCommand{
+    .name = u"card",
+    .run = runCard,
+    .places = u"FILE",
+    .summary = u"Prints the time card of a person, worked out from the stored punches.",
+    .more = u"",
+    .options = cardOptions,
+    .example = u"card demo.mdb --staff 1003 --month 2026/10 --format tsv",
+};
 
 } // namespace kurbo

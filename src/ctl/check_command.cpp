@@ -4,10 +4,9 @@
 #include "store/database_file.h"
 
 namespace kurbo {
+namespace {
 
-Exit runCheck(const QStringList& arguments) {
-    Options options;
-    options.read(arguments, 1);
+Exit runCheck(const Options& options) {
     const QStringList wrong = checkDatabase(options.place(0));
     if (wrong.isEmpty()) {
         say(QStringLiteral("OK"));
@@ -16,5 +15,17 @@ Exit runCheck(const QStringList& arguments) {
     complain(wrong.join(u'\n'));
     return Exit::Refused;
 }
+
+} // namespace
+
+const Command checkCommand{
+    .name = u"check",
+    .run = runCheck,
+    .places = u"FILE",
+    .summary = u"Prints OK, or what is wrong with the file.",
+    .more = u"",
+    .options = {},
+    .example = u"check store.mdb",
+};
 
 } // namespace kurbo

@@ -1,25 +1,23 @@
 #pragma once
 
-#include "ctl/console.h"
-
-#include <QStringList>
+#include "ctl/options.h"
 
 namespace kurbo {
 
-// One command each. `arguments` stands behind the command's name; failures are thrown.
-[[nodiscard]] Exit runNew(const QStringList& arguments);
-[[nodiscard]] Exit runDemo(const QStringList& arguments);
-[[nodiscard]] Exit runCard(const QStringList& arguments);
-[[nodiscard]] Exit runTotals(const QStringList& arguments);
-[[nodiscard]] Exit runExport(const QStringList& arguments);
-[[nodiscard]] Exit runImport(const QStringList& arguments);
-[[nodiscard]] Exit runMove(const QStringList& arguments);
-[[nodiscard]] Exit runReport(const QStringList& arguments);
-[[nodiscard]] Exit runSql(const QStringList& arguments);
-[[nodiscard]] Exit runPunch(const QStringList& arguments);
-[[nodiscard]] Exit runCheck(const QStringList& arguments);
-[[nodiscard]] Exit runHolidays(const QStringList& arguments);
-[[nodiscard]] Exit runCompact(const QStringList& arguments);
+// One file each. What they run throws its failures.
+extern const Command newCommand;
+extern const Command demoCommand;
+extern const Command cardCommand;
+extern const Command totalsCommand;
+extern const Command reportCommand;
+extern const Command exportCommand;
+extern const Command importCommand;
+extern const Command moveCommand;
+extern const Command sqlCommand;
+extern const Command punchCommand;
+extern const Command checkCommand;
+extern const Command compactCommand;
+extern const Command holidaysCommand;
 
 // Complains when there is something under the name of a file to be made.
 void refuseExisting(const QString& path);

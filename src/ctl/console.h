@@ -1,14 +1,13 @@
 #pragma once
 
 #include "base/guard.h"
+#include "ctl/command.h"
 #include "ctl/options.h"
 
 #include <memory>
 #include <optional>
 
 namespace kurbo {
-
-enum class Exit { Done = 0, Refused = 1, WrongUse = 2, Fault = 3 };
 
 // A question came up that no option answers.
 struct Unanswered {};

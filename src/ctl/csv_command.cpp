@@ -1,10 +1,12 @@
 #include "base/files.h"
 #include "ctl/commands.h"
 #include "ctl/console.h"
-#include "ctl/options.h"
+#include "ctl/questions.h"
 #include "store/database_file.h"
 #include "totals/csv_exchange.h"
 #include "totals/csv_file.h"
+
+#include <array>
 
 namespace kurbo {
 namespace {
@@ -22,22 +24,15 @@ CsvSpan spanOf(const Options& options) {
     return span;
 }
 
-} // namespace
-
-Exit runExport(const QStringList& arguments) {
-    Options options;
-    options.add(QStringLiteral("section"), QStringLiteral("section code"));
-    options.add(QStringLiteral("staff"), QStringLiteral("staff code, for one person alone"));
-    options.add(QStringLiteral("from"), QStringLiteral("first month, yyyy/mm"));
-    options.add(QStringLiteral("to"), QStringLiteral("last month, yyyy/mm"));
-    options.add(QStringLiteral("out"), QStringLiteral("the CSV file, replaced when it is there"));
-    options.read(arguments, 1);
+Exit runExport(const Options& options) {
     const CsvSpan span = spanOf(options);
     const QString out = options.needed(QStringLiteral("out"));
     if (isSameFile(out, options.place(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
     const Console console(options);
     Connection connection;
     connection.open(options.place(0), databasePassword());
+    (void)askedSection(connection, span.section);
+    if (!span.staff.isEmpty()) (void)askedPerson(connection, span.staff);
     const QList<MonthRecord> months = savedMonths(connection, span);
     connection.close();
     if (months.isEmpty()) throw Complaint(QStringLiteral("更新済の月次集計データがありません。"));
@@ -46,10 +41,7 @@ Exit runExport(const QStringList& arguments) {
     return Exit::Done;
 }
 
-Exit runImport(const QStringList& arguments) {
-    Options options;
-    options.addSwitch(QStringLiteral("overwrite"), QStringLiteral("replace months that are there already"));
-    options.readMany(arguments, 2);
+Exit runImport(const Options& options) {
     const Console console(options);
     const auto loaded = loadCsv(console.context(), options.placesFrom(1));
     if (!loaded) return console.refused();
@@ -64,5 +56,39 @@ Exit runImport(const QStringList& arguments) {
     say(QStringLiteral("登録：%1件、スキップ：%2件").arg(added.stored).arg(added.skipped));
     return Exit::Done;
 }
+
+constexpr std::array exportOptions{
+    OptionText{u"section", u"CODE", u"the section", true},
+    OptionText{u"staff", u"CODE", u"one of its people alone"},
+    OptionText{u"from", u"yyyy/mm", u"first month", true},
+    OptionText{u"to", u"yyyy/mm", u"last month", true},
+    OptionText{u"out", u"X.csv", u"the CSV file, replaced when it is there", true},
+};
+
+constexpr std::array importOptions{
+    OptionText{u"overwrite", u"", u"replaces months that are there already; without it they are skipped"},
+};
+
+} // namespace
+
+const Command exportCommand{
+    .name = u"export",
+    .run = runExport,
+    .places = u"FILE",
+    .summary = u"Writes the saved months of a section to a CSV file.",
+    .more = u"The file is in code page 932.",
+    .options = exportOptions,
+    .example = u"export demo.mdb --section S01 --from 2026/04 --to 2026/09 --out months.csv",
+};
+
+const Command importCommand{
+    .name = u"import",
+    .run = runImport,
+    .places = u"FILE X.csv...",
+    .summary = u"Reads saved months out of CSV files into the database.",
+    .more = u"It takes up to 100 files with up to 200 months together: all or nothing.",
+    .options = importOptions,
+    .example = u"import other.mdb months.csv",
+};
 
 } // namespace kurbo

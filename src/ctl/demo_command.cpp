@@ -6,10 +6,12 @@
 
 #include <QFile>
 
+#include <array>
+
 namespace kurbo {
 namespace {
 
-DemoOptions demoOptions(const Options& options) {
+DemoOptions demoOf(const Options& options) {
     DemoOptions demo;
     demo.people = options.number(QStringLiteral("people"), demo.people, 1, 3600);
     demo.sections = options.number(QStringLiteral("sections"), demo.sections, 1, 200);
@@ -39,23 +41,34 @@ void sayPeople(const DemoOptions& demo) {
     say(QStringLiteral("\tADMIN\tADMIN\tADMIN\t管理者"));
 }
 
-} // namespace
-
-Exit runDemo(const QStringList& arguments) {
-    Options options;
-    for (const auto& [name, description] : {std::pair{u"people", u"number of people"},
-                                            {u"sections", u"number of sections"},
-                                            {u"months", u"months of cards"},
-                                            {u"seed", u"another number makes another company"},
-                                            {u"until", u"the day before which the cards end, yyyy/mm/dd"}})
-        options.add(QString::fromUtf16(name), QString::fromUtf16(description));
-    options.addSwitch(QStringLiteral("flexible"), QStringLiteral("a company with flexible working time"));
-    options.read(arguments, 1);
-    const DemoOptions demo = demoOptions(options);
+Exit runDemo(const Options& options) {
+    const DemoOptions demo = demoOf(options);
     refuseExisting(options.place(0));
     fill(options.place(0), demo);
     sayPeople(demo);
     return Exit::Done;
 }
+
+constexpr std::array demoOptions{
+    OptionText{u"people", u"N", u"number of people, 1 to 3600; 12 without it"},
+    OptionText{u"sections", u"N", u"number of sections, 1 to 200; 3 without it"},
+    OptionText{u"months", u"N", u"whole months of cards before the current one, 0 to 240; 4 without it"},
+    OptionText{u"seed", u"N", u"another number makes another company"},
+    OptionText{u"until", u"yyyy/mm/dd", u"the day before which the cards end; today without it"},
+    OptionText{u"flexible", u"", u"a company with flexible working time"},
+};
+
+} // namespace
+
+const Command demoCommand{
+    .name = u"demo",
+    .run = runDemo,
+    .places = u"FILE",
+    .summary = u"Makes a database with a believable company.",
+    .more = u"Prints section, code, name, password and role of its people, parted by tabs.\n"
+            u"The same options make the same company. A file that is there already is refused.",
+    .options = demoOptions,
+    .example = u"demo demo.mdb --people 30 --flexible",
+};
 
 } // namespace kurbo

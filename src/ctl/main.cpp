@@ -14,49 +14,17 @@
 namespace kurbo {
 namespace {
 
-struct Command {
-    const char16_t* name;
-    Exit (*run)(const QStringList&);
-    const char16_t* usage;
-};
-
-constexpr std::array commands{
-    Command{u"new", runNew, u"new FILE"},
-    Command{u"demo", runDemo,
-            u"demo FILE [--people N] [--sections N] [--months N] [--seed N] [--until yyyy/mm/dd] [--flexible]"},
-    Command{u"card", runCard,
-            u"card FILE --staff CODE (--month yyyy/mm | --from yyyy/mm/dd --to yyyy/mm/dd) [--format ...]"},
-    Command{u"totals", runTotals,
-            u"totals FILE (--section CODE | --staff CODE) --from yyyy/mm --to yyyy/mm [--by staff|month] "
-            u"[--format ...]"},
-    Command{u"export", runExport, u"export FILE --section CODE [--staff CODE] --from yyyy/mm --to yyyy/mm --out X.csv"},
-    Command{u"import", runImport, u"import FILE X.csv... [--overwrite]"},
-    Command{u"move", runMove,
-            u"move FILE --dest DEST.mdb --from yyyy/mm/dd --to yyyy/mm/dd [--month-from yyyy/mm --month-to yyyy/mm]"},
-    Command{u"report", runReport,
-            u"report FILE card|totals|goout (options as card and totals have them; goout as card) --out X.pdf"},
-    Command{u"sql", runSql, u"sql FILE [--format table|tsv|csv|json]  < statements, each ended by \";\""},
-    Command{u"punch", runPunch,
-            u"punch FILE --staff CODE --password PW enter|leave|out|in [--continued yes|no] [--at \"yyyy/mm/dd "
-            u"hh:nn:ss\"]"},
-    Command{u"check", runCheck, u"check FILE"},
-    Command{u"compact", runCompact, u"compact FILE"},
-    Command{u"holidays", runHolidays, u"holidays Holiday.txt --year YYYY [--overwrite]"},
-};
-
-QString usage() {
-    QString text = QStringLiteral("usage: kurboctl COMMAND FILE ...\n");
-    for (const Command& command : commands) text += QStringLiteral("  ") + QString::fromUtf16(command.usage) + u'\n';
-    return text + QStringLiteral("every command: --today yyyy/mm/dd, --at \"yyyy/mm/dd hh:nn:ss\", --app-folder DIR\n"
-                                 "exit status: 0 done, 1 refused, 2 wrong use, 3 fault");
-}
+constexpr std::array commands{&newCommand,    &demoCommand,    &cardCommand,    &totalsCommand, &reportCommand,
+                              &exportCommand, &importCommand,  &moveCommand,    &sqlCommand,    &punchCommand,
+                              &checkCommand,  &compactCommand, &holidaysCommand};
 
 // The failures that reach the top are said here, once.
 Exit run(const Command& command, const QStringList& arguments) {
     try {
-        return command.run(arguments);
+        return command.run(Options(command, arguments));
     } catch (const WrongUse& wrong) {
-        complain(QStringLiteral("kurboctl: ") + wrong.what + u'\n' + usage());
+        complain(QStringLiteral("kurboctl: %1\nusage: %2\nkurboctl %3 --help tells more.")
+                     .arg(wrong.what, usageOf(command), QString::fromUtf16(command.name)));
         return Exit::WrongUse;
     } catch (const Complaint& complaint) {
         complain(complaint.description());
@@ -70,19 +38,26 @@ Exit run(const Command& command, const QStringList& arguments) {
     }
 }
 
+const Command* commandNamed(const QString& name) {
+    const auto* const known =
+        std::ranges::find_if(commands, [&](const Command* command) { return name == QStringView(command->name); });
+    return known == commands.end() ? nullptr : *known;
+}
+
 Exit runNamed(const QStringList& arguments) {
-    const QString name = arguments.value(1);
-    if (name == u"--help" || name == u"help") {
-        say(usage());
+    const bool asksHelp = arguments.value(1) == u"help" || arguments.mid(1).contains(u"--help");
+    const QString name = arguments.value(arguments.value(1) == u"help" ? 2 : 1);
+    const Command* const command = commandNamed(name);
+    if (asksHelp && (command || name.isEmpty() || name == u"--help")) {
+        say(command ? helpOf(*command) : helpOf(commands));
         return Exit::Done;
     }
     if (name == u"--version") {
         say(QStringLiteral("kurboctl ") + productVersion());
         return Exit::Done;
     }
-    const auto known = std::ranges::find_if(commands, [&](const Command& c) { return name == QStringView(c.name); });
-    if (known != commands.end()) return run(*known, arguments.mid(2));
-    complain(usage());
+    if (command) return run(*command, arguments.mid(2));
+    complain(helpOf(commands));
     return Exit::WrongUse;
 }
 

@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+#include <array>
+
 namespace kurbo {
 namespace {
 
@@ -27,16 +29,7 @@ MoveOrder orderOf(const Options& options) {
     return order;
 }
 
-} // namespace
-
-Exit runMove(const QStringList& arguments) {
-    Options options;
-    options.add(QStringLiteral("dest"), QStringLiteral("the database that gets the days, replaced when it is there"));
-    options.add(QStringLiteral("from"), QStringLiteral("first day, yyyy/mm/dd"));
-    options.add(QStringLiteral("to"), QStringLiteral("last day, yyyy/mm/dd"));
-    options.add(QStringLiteral("month-from"), QStringLiteral("first month of the monthly records, yyyy/mm"));
-    options.add(QStringLiteral("month-to"), QStringLiteral("last month of the monthly records, yyyy/mm"));
-    options.read(arguments, 1);
+Exit runMove(const Options& options) {
     const MoveOrder order = orderOf(options);
     const Console console(options);
     const QString database = options.place(0);
@@ -51,5 +44,28 @@ Exit runMove(const QStringList& arguments) {
     complain(word);
     return Exit::Refused;
 }
+
+constexpr std::array moveOptions{
+    OptionText{u"dest", u"DEST.mdb", u"the database that gets the days, replaced when it is there", true},
+    OptionText{u"from", u"yyyy/mm/dd", u"first day", true},
+    OptionText{u"to", u"yyyy/mm/dd", u"last day", true},
+    OptionText{u"month-from", u"yyyy/mm", u"first of the saved months that move as well"},
+    OptionText{u"month-to", u"yyyy/mm", u"last of them"},
+};
+
+} // namespace
+
+const Command moveCommand{
+    .name = u"move",
+    .run = runMove,
+    .places = u"FILE",
+    .summary = u"Moves old days, with their cards and outings, to a database of their own.",
+    .more = u"At least 31 days lie between the first and the last. Without the two months the saved months stay.\n"
+            u"It needs the database for itself, can't be undone, and leaves every day in one of both files, whatever\n"
+            u"happens.",
+    .options = moveOptions,
+    .example =
+        u"move store.mdb --dest 2025.mdb --from 2025/01/01 --to 2025/12/31 --month-from 2025/01 --month-to 2025/12",
+};
 
 } // namespace kurbo

@@ -4,33 +4,25 @@
 
 namespace kurbo {
 
-Options::Options() {
+Options::Options(const Command& command, const QStringList& arguments) {
     parser_.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    add(QStringLiteral("format"), QStringLiteral("table, tsv, csv or json"));
-    add(QStringLiteral("today"), QStringLiteral("the day that counts as today, yyyy/mm/dd"));
-    add(QStringLiteral("at"), QStringLiteral("the moment that counts as now, yyyy/mm/dd hh:nn:ss"));
-    add(QStringLiteral("app-folder"), QStringLiteral("folder of Error.log"));
-}
-
-void Options::add(const QString& name, const QString& description) {
-    parser_.addOption(QCommandLineOption(name, description, QStringLiteral("value")));
-}
-
-void Options::addSwitch(const QString& name, const QString& description) {
-    parser_.addOption(QCommandLineOption(name, description));
-}
-
-void Options::read(const QStringList& arguments, qsizetype places) {
-    readMany(arguments, places);
-    if (!placesFrom(places).isEmpty())
-        throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
-}
-
-void Options::readMany(const QStringList& arguments, qsizetype places) {
+    add(commonOptions());
+    add(command.options);
     if (!parser_.parse(QStringList(QStringLiteral("kurboctl")) + arguments)) throw WrongUse{parser_.errorText()};
+    const qsizetype places = command.placeCount();
     if (parser_.positionalArguments().size() < places) throw WrongUse{QStringLiteral("an argument is missing")};
+    if (!command.takesMorePlaces() && !placesFrom(places).isEmpty())
+        throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
+    for (const OptionText& option : command.options)
+        if (option.needed) (void)needed(QString::fromUtf16(option.name));
     (void)clock();
     (void)formatNamed(value(QStringLiteral("format")));
+}
+
+void Options::add(std::span<const OptionText> options) {
+    for (const OptionText& option : options)
+        parser_.addOption(QCommandLineOption(QString::fromUtf16(option.name), QString::fromUtf16(option.text),
+                                             QString::fromUtf16(option.value)));
 }
 
 QString Options::needed(const QString& name) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/clock.h"
+#include "ctl/command.h"
 
 #include <QCommandLineParser>
 #include <QStringList>
@@ -14,18 +15,11 @@ struct WrongUse {
     QString what;
 };
 
-// The options of one command, and those that every command takes: --format, --today, --at, --app-folder.
+// The arguments of one command, and the options that every command takes.
 class Options final {
   public:
-    Options();
-    // An option with a value.
-    void add(const QString& name, const QString& description);
-    // An option without one.
-    void addSwitch(const QString& name, const QString& description);
-    // Reads the arguments, of which `places` are no options. Throws WrongUse.
-    void read(const QStringList& arguments, qsizetype places);
-    // The same for `places` and any number more.
-    void readMany(const QStringList& arguments, qsizetype places);
+    // Throws WrongUse when they aren't those of the command.
+    Options(const Command& command, const QStringList& arguments);
 
     [[nodiscard]] QString place(qsizetype index) const { return parser_.positionalArguments().at(index); }
     [[nodiscard]] QStringList placesFrom(qsizetype index) const { return parser_.positionalArguments().mid(index); }
@@ -45,6 +39,8 @@ class Options final {
     [[nodiscard]] std::unique_ptr<Clock> clock() const;
 
   private:
+    void add(std::span<const OptionText> options);
+
     QCommandLineParser parser_;
 };
 

@@ -3,6 +3,8 @@
 #include "punch/punch_clock.h"
 #include "shell/login.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <array>
 
@@ -31,6 +33,18 @@ std::optional<Answer> continuedAnswer(const Options& options) {
     throw WrongUse{QStringLiteral("--continued takes yes or no")};
 }
 
+// On the command line it could be seen in the list of processes.
+QString passwordOf(const Options& options) {
+    const char* const variable = "KURBO_PASSWORD";
+    if (!options.has(QStringLiteral("password")) && qEnvironmentVariableIsSet(variable))
+        return qEnvironmentVariable(variable);
+    const QString password = options.needed(QStringLiteral("password"));
+    if (password != u"-") return password;
+    QFile input;
+    const QByteArray line = input.open(stdin, QIODevice::ReadOnly) ? input.readLine() : QByteArray();
+    return QString::fromUtf8(line).remove(u'\r').remove(u'\n');
+}
+
 // The section in whose login list the person may stand.
 QString sectionOf(Connection& connection, const QString& staff) {
     const auto section =
@@ -38,37 +52,49 @@ QString sectionOf(Connection& connection, const QString& staff) {
     return section ? section->text() : QString();
 }
 
-Exit logInAndPunch(const Console& console, const Options& options, Punch kind) {
+Exit logInAndPunch(const Console& console, const Options& options, const QString& password, Punch kind) {
     const QString staff = options.value(QStringLiteral("staff"));
     Client client(console.context());
     client.DbPath = options.place(0);
     client.openHome();
     Login login(client);
-    const Credentials credentials{sectionOf(client.HomeConnection, staff), staff,
-                                  options.value(QStringLiteral("password"))};
+    const Credentials credentials{sectionOf(client.HomeConnection, staff), staff, password};
     if (login.attempt(credentials) != LoginResult::Open) return console.refused();
     return punch(console.context(), client.HomeConnection, client.session, kind) == PunchResult::Done
                ? Exit::Done
                : console.refused();
 }
 
-} // namespace
-
-Exit runPunch(const QStringList& arguments) {
-    Options options;
-    options.add(QStringLiteral("staff"), QStringLiteral("staff code"));
-    options.add(QStringLiteral("password"), QStringLiteral("the person's password"));
-    options.add(QStringLiteral("continued"), QStringLiteral("yes or no: the open day goes on"));
-    options.read(arguments, 2);
+Exit runPunch(const Options& options) {
     const Punch kind = punchNamed(options.place(1));
-    for (const char16_t* name : {u"staff", u"password"}) (void)options.needed(QString::fromUtf16(name));
+    const QString password = passwordOf(options);
     const Console console(options, continuedAnswer(options));
     try {
-        return logInAndPunch(console, options, kind);
+        return logInAndPunch(console, options, password, kind);
     } catch (const Unanswered&) {
         complain(QStringLiteral("--continued yes または --continued no を指定して下さい。"));
         return Exit::Refused;
     }
 }
+
+constexpr std::array punchOptions{
+    OptionText{u"staff", u"CODE", u"the person", true},
+    OptionText{u"password", u"PW|-", u"the password, or - to read it from the first line of standard input"},
+    OptionText{u"continued", u"yes|no", u"answers the question whether a day that is still open goes on"},
+};
+
+} // namespace
+
+const Command punchCommand{
+    .name = u"punch",
+    .run = runPunch,
+    .places = u"FILE enter|leave|out|in",
+    .summary = u"Punches for a person as the window does, with the same messages.",
+    .more = u"Without --password the environment variable KURBO_PASSWORD holds the password. One that stands on the\n"
+            u"command line is seen by whoever may list the processes.\n"
+            u"When the question of --continued comes up without it, the punch is refused.",
+    .options = punchOptions,
+    .example = u"punch demo.mdb enter --staff 1003 --password - < password.txt",
+};
 
 } // namespace kurbo

@@ -34,11 +34,7 @@ void runStatement(Connection& connection, const QString& statement, Format forma
     print(rows, format);
 }
 
-} // namespace
-
-Exit runSql(const QStringList& arguments) {
-    Options options;
-    options.read(arguments, 1);
+Exit runSql(const Options& options) {
     const Format format = formatNamed(options.value(QStringLiteral("format")));
     const QStringList statements = splitStatements(standardInput());
     const auto reads = [](const QString& statement) { return translated(statement).reads; };
@@ -55,5 +51,17 @@ Exit runSql(const QStringList& arguments) {
     transaction.commit();
     return Exit::Done;
 }
+
+} // namespace
+
+const Command sqlCommand{
+    .name = u"sql",
+    .run = runSql,
+    .places = u"FILE",
+    .summary = u"Runs the statements of standard input and prints the rows of those that read.",
+    .more = u"They are in the dialect of the system and in UTF-8, each ended by a semicolon, and are one transaction.",
+    .options = {},
+    .example = u"sql demo.mdb --format json < questions.sql",
+};
 
 } // namespace kurbo

@@ -5,6 +5,8 @@
 #include "store/database_file.h"
 #include "totals/total_lines.h"
 
+#include <array>
+
 namespace kurbo {
 namespace {
 
@@ -21,24 +23,38 @@ void printTotals(const Totals& totals, Format format) {
     say(QStringLiteral("{\"headings\":%1,\"rows\":%2}").arg(jsonTexts(headings), jsonTable(rows)));
 }
 
-} // namespace
-
-Exit runTotals(const QStringList& arguments) {
-    Options options;
-    options.add(QStringLiteral("section"), QStringLiteral("section code"));
-    options.add(QStringLiteral("staff"), QStringLiteral("staff code"));
-    options.add(QStringLiteral("from"), QStringLiteral("first month, yyyy/mm"));
-    options.add(QStringLiteral("to"), QStringLiteral("last month, yyyy/mm"));
-    options.add(QStringLiteral("by"), QStringLiteral("the order of the rows, staff or month"));
-    options.read(arguments, 1);
+Exit runTotals(const Options& options) {
     const TotalsQuestion question = askedTotals(options);
     const Console console(options);
     Connection connection;
     connection.open(options.place(0), databasePassword());
+    (void)askedPeople(connection, question);
     const auto totals = calculateTotals(console.context(), connection, question);
     if (!totals) return console.refused();
     printTotals(*totals, formatNamed(options.value(QStringLiteral("format"))));
-    return Exit::Done;
+    return totals->faults.isEmpty() ? Exit::Done : Exit::Refused;
 }
+
+constexpr std::array totalsOptions{
+    OptionText{u"from", u"yyyy/mm", u"first month", true},
+    OptionText{u"to", u"yyyy/mm", u"last month", true},
+    OptionText{u"section", u"CODE", u"the people shown in a section; this or --staff"},
+    OptionText{u"staff", u"CODE", u"one person"},
+    OptionText{u"by", u"staff|month", u"the order of the rows; staff without it"},
+};
+
+} // namespace
+
+const Command totalsCommand{
+    .name = u"totals",
+    .run = runTotals,
+    .places = u"FILE",
+    .summary = u"Prints the months of a section's people, or of one person.",
+    .more = u"Saved months stand as they were saved, the others are calculated. When the rules of somebody are at "
+            u"fault, the\n"
+            u"months of that person stand empty, the name is told on standard error, and the exit status is 1.",
+    .options = totalsOptions,
+    .example = u"totals demo.mdb --section S01 --from 2026/04 --to 2026/09 --by month",
+};
 
 } // namespace kurbo

@@ -106,6 +106,13 @@ QList<MonthRecord> savedMonths(Connection& connection, const CsvSpan& span) {
     return months;
 }
 
+QString addedText(const CsvAdded& added) {
+    const QString stored = QStringLiteral("%1件の月次集計データを登録しました。").arg(added.stored);
+    return added.skipped == 0
+               ? stored
+               : lines(stored, QStringLiteral("既に登録されている%1件はスキップしました。").arg(added.skipped));
+}
+
 CsvAdded addToDatabase(const Context& context, Connection& connection, const QList<MonthRecord>& months,
                        OnExisting onExisting, const TakeStop& takeStop) {
     CsvAdded added = guarded(context, u"frmCsv", u"AddToDatabase", CsvAdded(), [&]() -> CsvAdded {

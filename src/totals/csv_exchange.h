@@ -32,6 +32,9 @@ struct CsvAdded {
     int skipped = 0;
 };
 
+// What has been done, for the person.
+[[nodiscard]] QString addedText(const CsvAdded& added);
+
 // Whether the person has asked for a stop since the last call. It is called before each month, while other clients
 // wait: it lets the screen breathe and looks, and asks nothing.
 using TakeStop = std::function<bool()>;

@@ -111,7 +111,7 @@ void frmCsv::addToDatabase() {
         ui_->optMethod_0->isChecked() ? OnExisting::Overwrite : OnExisting::Skip, [this] { return takeStop(); });
     if (result.end != CsvAdded::End::Done) return;
     added_ = true;
-    prompts.inform(QStringLiteral("%1件の月次集計データを登録しました。").arg(result.stored));
+    prompts.inform(addedText(result));
     hide();
 }
 

@@ -57,26 +57,31 @@ void frmTotal::connectSelection() {
     connect(ui_->dcbStaff->lineEdit(), &QLineEdit::editingFinished, this, &frmTotal::staffChosen);
     for (int month = 1; month <= months; ++month)
         connect(findChild<QRadioButton*>(QStringLiteral("optMonth_%1").arg(month)), &QRadioButton::clicked, this,
-                [this, month] { run([this, month] { screen_.chooseMonth(month); }); });
+                [this, month] { run(withMonths([this, month] { screen_.chooseMonth(month); })); });
     for (const auto& [option, byStaff] : {std::pair{ui_->optMethod_0, true}, {ui_->optMethod_1, false}})
         connect(option, &QRadioButton::clicked, this,
-                [this, order = byStaff] { run([this, order] { screen_.chooseOrder(order); }); });
-    connect(ui_->udcYear, &UpDown::UpClick, this, [this] { run([this] { screen_.moveYears(1); }); });
-    connect(ui_->udcYear, &UpDown::DownClick, this, [this] { run([this] { screen_.moveYears(-1); }); });
+                [this, order = byStaff] { run(withMonths([this, order] { screen_.chooseOrder(order); })); });
+    connect(ui_->udcYear, &UpDown::UpClick, this, [this] { run(withMonths([this] { screen_.moveYears(1); })); });
+    connect(ui_->udcYear, &UpDown::DownClick, this, [this] { run(withMonths([this] { screen_.moveYears(-1); })); });
 }
 
 void frmTotal::connectCommands() {
-    const auto dates = [this](bool (TotalScreen::*command)(const QString&, const QString&)) {
-        return [this, command] { (screen_.*command)(ui_->mskStart->maskText(), ui_->mskEnd->maskText()); };
-    };
-    onCommand(ui_->cmdDisplay, ui_->mnuDisplay, dates(&TotalScreen::display));
-    onCommand(ui_->cmdUpdate, ui_->mnuUpdate, [this] { screen_.update(); });
+    onCommand(ui_->cmdDisplay, ui_->mnuDisplay, withMonths([this] { screen_.display(); }));
+    onCommand(ui_->cmdUpdate, ui_->mnuUpdate, withMonths([this] { screen_.update(); }));
     onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { print(); });
-    onCommand(nullptr, ui_->mnuDelete, dates(&TotalScreen::deleteMonths));
-    onCommand(nullptr, ui_->mnuSaveKrb, dates(&TotalScreen::saveKrb));
+    onCommand(nullptr, ui_->mnuDelete, withMonths([this] { screen_.deleteMonths(); }));
+    onCommand(nullptr, ui_->mnuSaveKrb, withMonths([this] { screen_.saveKrb(); }));
     onCommand(nullptr, ui_->mnuLoadKrb, [this] { screen_.loadKrb(); });
     onCommand(nullptr, ui_->mnuSaveCsv, [this] { screen_.saveCsv(); });
-    onCommand(nullptr, ui_->mnuLoadCsv, [this] { loadCsv(); });
+    onCommand(nullptr, ui_->mnuLoadCsv, withMonths([this] { loadCsv(); }));
+}
+
+// The command with what stands in the two boxes for the months.
+ScreenForm::Command frmTotal::withMonths(const Command& command) {
+    return [this, command] {
+        screen_.boxes = {ui_->mskStart->maskText(), ui_->mskEnd->maskText()};
+        command();
+    };
 }
 
 void frmTotal::load() {
@@ -85,11 +90,11 @@ void frmTotal::load() {
 }
 
 void frmTotal::print() {
-    const TotalHeading heading{ui_->mskStart->maskText(),
-                               ui_->mskEnd->maskText(),
+    if (!checkedMonths(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText())) return;
+    const TotalHeading heading{slashMonth(screen_.span().from),
+                               slashMonth(screen_.span().to),
                                {ui_->dcbSection->boundText(), ui_->dcbSection->currentText()},
                                {ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText()}};
-    if (!checkedMonths(client_.context, heading.start, heading.end)) return;
     guarded(client_.context, u"rptTotal", u"ActiveReport_ReportStart", [&] {
         showPreview(std::make_unique<rptTotal>(screen_.sheet.grid, heading, client_.context.clock.today()),
                     client_.context, this);
@@ -108,7 +113,7 @@ void frmTotal::sectionChosen() {
     if (blnShowing_) return;
     const QString code = ui_->dcbSection->isInList() ? ui_->dcbSection->boundText() : QString();
     if (code.isEmpty() || (code == screen_.section() && !screen_.sheet.blnFileMode)) return showNames();
-    run([this, &code] { screen_.chooseSection(code); });
+    run(withMonths([this, &code] { screen_.chooseSection(code); }));
 }
 
 void frmTotal::staffChosen() {
@@ -116,7 +121,7 @@ void frmTotal::staffChosen() {
     const bool known = code.isEmpty() || ui_->dcbStaff->isInList();
     if (blnShowing_ || !known) return;
     if (code == screen_.staff()) return showNames();
-    run([this, &code] { screen_.chooseStaff(code); });
+    run(withMonths([this, &code] { screen_.chooseStaff(code); }));
 }
 
 void frmTotal::showState() {

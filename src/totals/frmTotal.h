@@ -33,6 +33,7 @@ class frmTotal final : public ScreenForm {
     void connectSelection();
     void connectCommands();
 
+    [[nodiscard]] Command withMonths(const Command& command);
     void showState() override;
     void showNames();
     void showSpan();

@@ -161,17 +161,6 @@ Period wholeSpan(const std::vector<PersonMonths>& people) {
     return span;
 }
 
-// By day: that order is nearly the order of the file, and its index costs little more than reading the file as it lies.
-// The rows of one person are found by the index on people.
-Rows cardRows(Connection& connection, const std::vector<PersonMonths>& people, Period span) {
-    const QString fields =
-        QStringLiteral("SELECT F_DateID, F_User, F_Enter, F_Leave, F_Paid, F_Special, F_Compens FROM T02_Kurbo WHERE ");
-    const QString days = QStringLiteral("(F_DateID BETWEEN ? AND ?) ORDER BY F_DateID;");
-    if (people.size() > 1) return connection.rows(fields + days, {dateId(span.from), dateId(span.to)});
-    return connection.rows(fields + QStringLiteral("(F_User = ?) AND ") + days,
-                           {people.front().staff, dateId(span.from), dateId(span.to)});
-}
-
 void readRow(DayFacts& row, const CalendarDay& day, const Rows& rows) {
     row.date = day.date;
     row.type = day.type;
@@ -182,29 +171,100 @@ void readRow(DayFacts& row, const CalendarDay& day, const Rows& rows) {
     row.compens = code(rows, 6);
 }
 
+// All people over the span, by one of two ways that hand each person the same rows in the same order.
+class MonthPass final {
+  public:
+    MonthPass(Connection& connection, std::vector<PersonMonths>& people, Day today, const PassNotice& notice)
+        : connection_(connection),
+          people_(people),
+          notice_(notice),
+          span_(wholeSpan(people)),
+          calendar_(readCalendar(connection, span_)) {
+        makers_.reserve(people.size());
+        for (PersonMonths& person : people) makers_.emplace_back(connection, calendar_, person, today);
+    }
+
+    void run() {
+        if (areFew())
+            readEach();
+        else
+            readAll();
+        for (MonthMaker& maker : makers_) maker.finish();
+        tell(100);
+    }
+
+  private:
+    using Place = std::vector<CalendarDay>::const_iterator;
+
+    // A row found by the index on people lies on a page of its own, and costs as much as so many that lie together.
+    static constexpr std::int64_t scattered = 12;
+
+    [[nodiscard]] bool areFew() {
+        const auto all = connection_.firstValue(QStringLiteral("SELECT Count(*) FROM C03_Staff;"));
+        return people_.size() == 1 || std::ssize(people_) * scattered <= all->integer();
+    }
+
+    // Person by person, each by the index.
+    void readEach() {
+        const QString statement = fields() + QStringLiteral("(F_User = ?) AND (F_DateID BETWEEN ? AND ?) "
+                                                            "ORDER BY F_DateID;");
+        for (std::size_t i = 0; i < people_.size(); ++i) {
+            const PersonMonths& person = people_[i];
+            Rows rows = connection_.rows(
+                statement, {person.staff, dateId(person.periods.front().from), dateId(person.periods.back().to)});
+            auto day = calendar_.cbegin();
+            while (rows.next())
+                if (goTo(day, rows.bytes(0), i, people_.size())) readRow(makers_[i].rowOn(day->date), *day, rows);
+        }
+    }
+
+    // All rows by day: that order is nearly the order of the file, and its index costs little more than reading the
+    // file as it lies.
+    void readAll() {
+        Directory directory(people_);
+        Rows rows = connection_.rows(fields() + QStringLiteral("(F_DateID BETWEEN ? AND ?) ORDER BY F_DateID;"),
+                                     {dateId(span_.from), dateId(span_.to)});
+        auto day = calendar_.cbegin();
+        while (rows.next()) {
+            if (!goTo(day, rows.bytes(0), 0, 1)) continue;
+            const std::size_t person = directory.find(rows.bytes(1));
+            if (person != Directory::stranger) readRow(makers_[person].rowOn(day->date), *day, rows);
+        }
+    }
+
+    static QString fields() {
+        return QStringLiteral("SELECT F_DateID, F_User, F_Enter, F_Leave, F_Paid, F_Special, F_Compens "
+                              "FROM T02_Kurbo WHERE ");
+    }
+
+    // On to the day of the row, in this round of so many; false when the calendar lacks it.
+    bool goTo(Place& day, std::string_view id, std::size_t round, std::size_t rounds) {
+        for (; day != calendar_.cend() && day->id < id; ++day) {
+            const auto passed = static_cast<std::size_t>(day - calendar_.cbegin());
+            tell(static_cast<int>((round * calendar_.size() + passed) * 100 / (rounds * calendar_.size())));
+        }
+        return day != calendar_.cend() && day->id == id;
+    }
+
+    void tell(int percent) {
+        if (percent > told_) notice_(told_ = percent);
+    }
+
+    Connection& connection_;
+    std::vector<PersonMonths>& people_;
+    const PassNotice& notice_;
+    const Period span_;
+    const std::vector<CalendarDay> calendar_;
+    std::vector<MonthMaker> makers_;
+    int told_ = -1;
+};
+
 } // namespace
 
 void makeMonths(Connection& connection, std::vector<PersonMonths>& people, Day today, const PassNotice& notice) {
     if (people.empty()) return;
-    const Period span = wholeSpan(people);
     const Reading reading(connection);
-    const std::vector<CalendarDay> calendar = readCalendar(connection, span);
-    std::vector<MonthMaker> makers;
-    makers.reserve(people.size());
-    for (PersonMonths& person : people) makers.emplace_back(connection, calendar, person, today);
-    Directory directory(people);
-    auto day = calendar.begin();
-    Rows rows = cardRows(connection, people, span);
-    while (rows.next()) {
-        const std::string_view id = rows.bytes(0);
-        for (; day != calendar.end() && day->id < id; ++day)
-            notice(static_cast<int>((day - calendar.begin()) * 100 / std::ssize(calendar)));
-        if (day == calendar.end() || day->id != id) continue;
-        const std::size_t person = directory.find(rows.bytes(1));
-        if (person != Directory::stranger) readRow(makers[person].rowOn(day->date), *day, rows);
-    }
-    for (MonthMaker& maker : makers) maker.finish();
-    notice(100);
+    MonthPass(connection, people, today, notice).run();
 }
 
 } // namespace kurbo

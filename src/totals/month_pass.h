@@ -20,8 +20,9 @@ struct PersonMonths {
 // Told how much of the span has been read, 0 to 100; it may throw to give the pass up.
 using PassNotice = std::function<void(int percent)>;
 
-// Makes the sums of all people, each the same as that of the person's card. All card rows of the whole span are read
-// once, by day, and no more of them is kept than a period of each person. Throws a Fault.
+// Makes the sums of all people, each the same as that of the person's card. The card rows of the whole span are read
+// once by day, or where the people are few among those of the file only their own, by the index; no more of them is
+// kept than a period of each person. Throws a Fault.
 void makeMonths(Connection& connection, std::vector<PersonMonths>& people, Day today, const PassNotice& notice);
 
 } // namespace kurbo

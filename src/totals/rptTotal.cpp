@@ -13,12 +13,15 @@ constexpr int at(TotalColumn column) {
 }
 
 constexpr int quantity = 775;
-// The detail's name or month stands in front of the figures; of the two fields the group shows the other.
+// The detail's name or month stands in front of the figures.
 constexpr int labelWidth = 1760;
-constexpr std::size_t firstColumn = 2;
+constexpr int nameBytes = 20;
+constexpr std::size_t firstColumn = 3;
 constexpr std::array columns{
     ReportColumn{u"F_YearMonth", 11, -1, 0},
-    ReportColumn{u"F_StaffName", 20, -1, 0},
+    ReportColumn{u"F_StaffName", nameBytes, -1, 0},
+    // A month, or a name with its code where others have the same.
+    ReportColumn{u"F_Group", 60, -1, 0},
     ReportColumn{u"F_WorkDay", 4, at(TotalColumn::WorkDay), 740},
     ReportColumn{u"F_Work", 8, at(TotalColumn::Work), 840},
     ReportColumn{u"F_PaidTotal", 6, at(TotalColumn::PaidTotal), 739},
@@ -51,13 +54,23 @@ bool isSum(const GridModel& grid, int row) {
     return grid.TextMatrix(row, at(TotalColumn::Staff)).isEmpty();
 }
 
-// The group and the line's own words. A sub-total belongs to the group above it.
+QString subTotal() {
+    return QStringLiteral("小計");
+}
+
+// The group and the line's own words.
 std::pair<QString, QString> wordsOf(const GridModel& grid, int row) {
-    static const QString subTotal = QStringLiteral("小計");
     QString first = grid.TextMatrix(row, at(TotalColumn::First));
-    if (!isSum(grid, row) || !first.endsWith(subTotal)) return {first, grid.TextMatrix(row, at(TotalColumn::Second))};
-    first.chop(subTotal.size() + 1);
-    return {first, subTotal};
+    if (!isSum(grid, row) || !first.endsWith(subTotal())) return {first, grid.TextMatrix(row, at(TotalColumn::Second))};
+    first.chop(subTotal().size() + 1);
+    return {first, subTotal()};
+}
+
+// Of a name that is too long for its field the code behind it stays.
+QString groupText(const QString& group, const QString& staff) {
+    const QString code = QStringLiteral(" (%1)").arg(staff);
+    return group.endsWith(code) ? cutToBytes(group.chopped(code.size()), nameBytes) + code
+                                : cutToBytes(group, nameBytes);
 }
 
 // A bracket that would be cut open says nothing.
@@ -67,12 +80,13 @@ QString withoutOpenBracket(const QString& cell, int bytes) {
 }
 
 // Figures of a person's month are as long as their fields; sums may be longer.
-QStringList recordOf(const GridModel& grid, int row, bool byMonth) {
+QStringList recordOf(const GridModel& grid, int row, bool byMonth, const QString& groupAbove) {
     const bool whole = isSum(grid, row);
     const auto [group, line] = wordsOf(grid, row);
     QStringList cells;
     cells.reserve(std::ssize(columns));
     cells << (byMonth ? group : line) << (byMonth ? line : group);
+    cells << (line == subTotal() ? groupAbove : groupText(group, grid.TextMatrix(row, at(TotalColumn::Staff))));
     for (const ReportColumn& column : figures) {
         const QString cell = grid.TextMatrix(row, column.column);
         cells.append(whole ? cell : withoutOpenBracket(cell, column.bytes));
@@ -102,11 +116,15 @@ ReportSection pageHeader(const GridModel& grid, const TotalHeading& heading) {
     return header;
 }
 
-ReportSection groupHeader(const QString& field) {
+QString groupField() {
+    return QStringLiteral("F_Group");
+}
+
+ReportSection groupHeader() {
     constexpr RowLook look{.height = 270, .fontSize = 175, .bold = true, .fill = sumPaper};
     ReportSection section{.height = look.height};
     section.controls.push_back(label(QStringLiteral("txtGroup"), {}, 0, labelWidth + widthOf(figures), look));
-    section.controls.back().dataField = field;
+    section.controls.back().dataField = groupField();
     return section;
 }
 
@@ -139,7 +157,8 @@ void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeadin
     ReportRecords records(fieldsOf(columns));
     for (int row = 1; row < grid.Rows(); ++row) {
         sums_.push_back(isSum(grid, row));
-        records.AddNew(recordOf(grid, row, byMonth), sums_.back() ? firstColumn : columns.size());
+        const QString above = records.text(records.count() - 1, groupField());
+        records.AddNew(recordOf(grid, row, byMonth, above), sums_.back() ? firstColumn : columns.size());
     }
     const QString month = QStringLiteral("F_YearMonth");
     const QString name = QStringLiteral("F_StaffName");
@@ -150,8 +169,8 @@ void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeadin
                                     heading.staff.code.isEmpty() ? heading.section.code : heading.staff.code,
                                     heading.start, heading.end),
          .PageHeader = pageHeader(grid, heading),
-         .GroupHeader = groupHeader(byMonth ? month : name),
-         .groupField = byMonth ? month : name,
+         .GroupHeader = groupHeader(),
+         .groupField = groupField(),
          .Detail = detail(byMonth ? name : month),
          .closing = sums_,
          .ReportFooter = reportFooter()},

@@ -44,12 +44,13 @@ void fillTotalGrid(GridModel& grid, const Totals& totals) {
     if (row > 0) grid.RowBackColor(row, totalPaper);
 }
 
-bool ShowTotal(const Context& context, Connection& connection, TotalsQuestion& question, GridModel& grid) {
-    const auto totals = calculateTotals(context, connection, question);
-    if (!totals) return false;
+std::optional<Totals> ShowTotal(const Context& context, Connection& connection, TotalsQuestion& question,
+                                GridModel& grid) {
+    auto totals = calculateTotals(context, connection, question);
+    if (!totals) return {};
     question.byStaff = totals->byStaff;
     fillTotalGrid(grid, *totals);
-    return true;
+    return totals;
 }
 
 } // namespace kurbo

@@ -3,6 +3,9 @@
 #include "card/card_cells.h"
 #include "engine/hours.h"
 
+#include <QHash>
+#include <QSet>
+
 #include <map>
 
 namespace kurbo {
@@ -12,13 +15,17 @@ constexpr int at(TotalColumn column) {
     return static_cast<int>(column);
 }
 
-// Added figures; a column of Nulls adds to 0.
+// Added figures; a column of Nulls adds to 0, rows without any figure add to nothing.
 struct Sum {
     std::array<std::int64_t, totalFigures> figures{};
     std::optional<std::int64_t> difference;
+    bool empty = true;
 
     void add(const TotalRow& row) {
-        for (std::size_t i = 0; i < totalFigures; ++i) figures[i] += row.figures[i].value_or(0);
+        for (std::size_t i = 0; i < totalFigures; ++i) {
+            figures[i] += row.figures[i].value_or(0);
+            empty = empty && !row.figures[i];
+        }
         if (row.difference) difference = difference.value_or(0) + *row.difference;
     }
 };
@@ -34,17 +41,36 @@ QString halfDays(std::int64_t hundredths) {
     return known ? halves[hundredths / 50] : daysText(static_cast<double>(hundredths) / 100);
 }
 
+QSet<QString> namesOfSeveral(const std::vector<TotalRow>& rows) {
+    QHash<QString, QString> codes;
+    QSet<QString> several;
+    const TotalRow* before = nullptr;
+    for (const TotalRow& row : rows) {
+        if (before && before->staff == row.staff) continue;
+        before = &row;
+        const auto known = codes.constFind(row.name);
+        if (known == codes.cend())
+            codes.insert(row.name, row.staff);
+        else if (*known != row.staff)
+            several.insert(row.name);
+    }
+    return several;
+}
+
 class LineWriter final {
   public:
-    explicit LineWriter(const Totals& totals) : totals_(totals) {}
+    explicit LineWriter(const Totals& totals) : totals_(totals), several_(namesOfSeveral(totals.rows)) {}
 
-    [[nodiscard]] QString caption(const TotalRow& row) { return totals_.byStaff ? row.name : monthText(row.month); }
+    [[nodiscard]] bool isOneGroup(const TotalRow& one, const TotalRow& other) const {
+        return totals_.byStaff ? one.staff == other.staff : one.month == other.month;
+    }
+    [[nodiscard]] QString caption(const TotalRow& row) { return totals_.byStaff ? nameOf(row) : monthText(row.month); }
 
     [[nodiscard]] TotalLine month(const TotalRow& row, const QString& caption) {
         TotalLine line{QStringList(totalColumns), &row};
         QString* const cells = line.cells.data();
         cells[at(TotalColumn::First)] = caption;
-        cells[at(TotalColumn::Second)] = totals_.byStaff ? monthText(row.month) : row.name;
+        cells[at(TotalColumn::Second)] = totals_.byStaff ? monthText(row.month) : nameOf(row);
         for (std::size_t i = 0; i < totalFigures; ++i)
             if (row.figures[i]) cells[firstFigure + i] = figureText(i, *row.figures[i]);
         if (row.saved) {
@@ -62,12 +88,17 @@ class LineWriter final {
         TotalLine line{QStringList(totalColumns), nullptr};
         QString* const cells = line.cells.data();
         cells[at(TotalColumn::First)] = caption;
+        if (sum.empty) return line;
         for (std::size_t i = 0; i < totalFigures; ++i) cells[firstFigure + i] = figureText(i, sum.figures[i]);
         if (sum.difference) cells[at(TotalColumn::Work)] += u'(' + hours(*sum.difference, true) + u')';
         return line;
     }
 
   private:
+    [[nodiscard]] QString nameOf(const TotalRow& row) const {
+        return several_.contains(row.name) ? QStringLiteral("%1 (%2)").arg(row.name, row.staff) : row.name;
+    }
+
     // Written once and shared by all people.
     QString monthText(std::chrono::year_month month) {
         QString& text = months_[month];
@@ -103,6 +134,7 @@ class LineWriter final {
     }
 
     const Totals& totals_;
+    const QSet<QString> several_;
     std::map<std::chrono::year_month, QString> months_;
     std::vector<QString> hours_ = std::vector<QString>(std::size_t{250} * 60);
 };
@@ -122,17 +154,18 @@ std::vector<TotalLine> totalLines(const Totals& totals) {
     lines.reserve(totals.rows.size() + totals.rows.size() / 8 + 2);
     Sum group;
     Sum all;
+    const TotalRow* before = nullptr;
     QString caption;
     const auto endGroup = [&] {
-        if (!lines.empty()) lines.push_back(writer.sum(group, caption + QStringLiteral(" 小計")));
+        if (before) lines.push_back(writer.sum(group, caption + QStringLiteral(" 小計")));
         group = {};
     };
     for (const TotalRow& row : totals.rows) {
-        const QString own = writer.caption(row);
-        if (lines.empty() || own != caption) {
+        if (!before || !writer.isOneGroup(*before, row)) {
             endGroup();
-            caption = own;
+            caption = writer.caption(row);
         }
+        before = &row;
         lines.push_back(writer.month(row, caption));
         group.add(row);
         all.add(row);

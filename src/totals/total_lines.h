@@ -16,8 +16,9 @@ struct TotalLine {
 // The headings parted by "|", each behind the sign of its alignment; the first column has none.
 [[nodiscard]] QString totalHeadings(bool byStaff);
 
-// The months in their order, a sub-total wherever the text of column 1 changes, and the total; nothing without months.
-// The rows belong to `totals`.
+// The months in their order, a sub-total of each person or month by whom they stand, and the total; nothing without
+// months. A name that several of these people have stands with the code behind it, "name (code)". The rows belong to
+// `totals`.
 [[nodiscard]] std::vector<TotalLine> totalLines(const Totals& totals);
 
 // "2026年 04月"

@@ -70,6 +70,11 @@ QString totalKey(const QString& order, std::chrono::year_month month, bool bySta
     return byStaff ? order + monthId(month) : monthId(month) + order;
 }
 
+QStringView orderIn(const QString& key) {
+    constexpr int monthDigits = 6;
+    return QStringView(key).chopped(monthDigits);
+}
+
 std::int32_t hundredths(double days) {
     return static_cast<std::int32_t>(std::lround(days * 100));
 }

@@ -22,6 +22,14 @@ QString TotalSheet::staffOf(int row) const {
     return row > 0 ? grid.TextMatrix(row, static_cast<int>(TotalColumn::Staff)) : QString();
 }
 
+bool TotalSheet::isSaved(int row) const {
+    return !grid.TextMatrix(row, static_cast<int>(TotalColumn::Personal)).isEmpty();
+}
+
+bool TotalSheet::hasFigures(int row) const {
+    return isSaved(row) || !grid.TextMatrix(row, static_cast<int>(TotalColumn::Term)).isEmpty();
+}
+
 bool isFigure(int column, int countUnit, const QString& text) {
     const SumForm form = formOf(column, countUnit);
     return isSum(form, form == SumForm::Hours ? withoutMark(text) : text);
@@ -30,7 +38,7 @@ bool isFigure(int column, int countUnit, const QString& text) {
 bool TotalRules::mayEdit(int row, int column) const {
     const QString staff = sheet_.staffOf(row);
     const bool figure = column >= firstFigure && column < firstFigure + static_cast<int>(totalFigures);
-    if (sheet_.blnFileMode || staff.isEmpty() || !figure) return false;
+    if (sheet_.blnFileMode || staff.isEmpty() || !figure || !sheet_.hasFigures(row)) return false;
     return session_.access.has(staff == session_.SessionStaff ? Right::WriteMyMonthly : Right::WriteOtherMonthly);
 }
 

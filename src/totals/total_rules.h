@@ -17,6 +17,10 @@ struct TotalSheet {
 
     // The staff code of a person's month; empty on other rows.
     [[nodiscard]] QString staffOf(int row) const;
+    // Whether the month came out of the store, where it may be corrected.
+    [[nodiscard]] bool isSaved(int row) const;
+    // A calculated month always names its period; without one there are no figures.
+    [[nodiscard]] bool hasFigures(int row) const;
 };
 
 // The cells of the totals: the figures of a person's month, for those who may correct it.

@@ -26,6 +26,7 @@ TotalScreen::TotalScreen(Client& client) : client_(client), rules_(sheet, client
 bool TotalScreen::load() {
     question_.section = client_.session.SessionSection;
     question_.from = question_.to = monthOf(client_.context.clock.today());
+    boxes = {slashMonth(question_.from), slashMonth(question_.to)};
     ++spanChanges_;
     return readLists() && ShowTotal(question_);
 }
@@ -47,24 +48,37 @@ void TotalScreen::readPeople() {
     people_ = displayedStaff(connection(), listSection_);
 }
 
+// What every drawing from the store begins with: the selection, over the months of the boxes.
+std::optional<TotalsQuestion> TotalScreen::asked() const {
+    const auto span = checkedMonths(client_.context, boxes.start, boxes.end);
+    if (!span) return {};
+    TotalsQuestion question = question_;
+    question.from = span->from;
+    question.to = span->to;
+    return question;
+}
+
+bool TotalScreen::draw(const std::optional<TotalsQuestion>& question) {
+    return question && mayDiscard() && leaveFile() && ShowTotal(*question);
+}
+
 bool TotalScreen::ShowTotal(TotalsQuestion question) {
-    const auto totals = calculateTotals(client_.context, connection(), question);
+    const auto totals = kurbo::ShowTotal(client_.context, connection(), question, sheet.grid);
     if (!totals) return false;
-    question.byStaff = totals->byStaff;
-    fillTotalGrid(sheet.grid, *totals);
     sheet.grid.clearRowStatus();
     sheet.changed = sheet.blnFileMode = false;
     sheet.plngCountUnit = totals->countUnit;
     hasSaved_ = std::ranges::any_of(totals->rows, &TotalRow::saved);
     question_ = question;
+    boxes = {slashMonth(question.from), slashMonth(question.to)};
     alive_ = true;
     ++spanChanges_;
     return true;
 }
 
 // What stood in the grid no longer holds: without new totals it is empty.
-bool TotalScreen::ShowTotalOrNothing() {
-    if (ShowTotal(question_)) return true;
+bool TotalScreen::ShowTotalOrNothing(const TotalsQuestion& question) {
+    if (ShowTotal(question)) return true;
     fillTotalGrid(sheet.grid, {});
     sheet.grid.clearRowStatus();
     sheet.changed = hasSaved_ = false;
@@ -72,7 +86,7 @@ bool TotalScreen::ShowTotalOrNothing() {
 }
 
 bool TotalScreen::reload() {
-    return leaveFile() && ShowTotalOrNothing();
+    return leaveFile() && ShowTotalOrNothing(asked().value_or(question_));
 }
 
 bool TotalScreen::mayDiscard() const {
@@ -81,93 +95,113 @@ bool TotalScreen::mayDiscard() const {
 }
 
 bool TotalScreen::chooseSection(const QString& section) {
-    if (!mayDiscard()) return false;
+    auto question = asked();
+    if (!question || !mayDiscard()) return false;
+    question->section = section;
+    question->staff.clear();
     const bool there = guarded(client_.context, u"frmTotal", u"dcbSection_Change", false, [&] {
-        const Day last = addMonths(firstDayOf(question_.to), 1) - std::chrono::days(1);
-        if (!switchSection(client_, section, firstDayOf(question_.from), last)) return false;
+        const Day last = addMonths(firstDayOf(question->to), 1) - std::chrono::days(1);
+        if (!switchSection(client_, section, firstDayOf(question->from), last)) return false;
         question_.section = section;
         question_.staff.clear();
         readPeople();
         return true;
     });
-    return there && ShowTotalOrNothing();
+    return there && ShowTotalOrNothing(*question);
 }
 
 bool TotalScreen::chooseStaff(const QString& staff) {
-    if (!mayDiscard()) return false;
-    TotalsQuestion question = question_;
-    question.section = listSection_;
-    question.staff = staff;
-    return ShowTotal(question);
+    auto question = asked();
+    if (!question || !mayDiscard()) return false;
+    question->section = listSection_;
+    question->staff = staff;
+    return ShowTotal(*question);
 }
 
 bool TotalScreen::chooseMonth(int month) {
-    if (!mayDiscard() || !leaveFile()) return false;
     TotalsQuestion question = question_;
     question.from = question.to = question.to.year() / std::chrono::month(static_cast<unsigned>(month));
-    return ShowTotal(question);
+    return draw(question);
 }
 
 bool TotalScreen::moveYears(int years) {
-    if (!mayDiscard() || !leaveFile()) return false;
-    TotalsQuestion question = question_;
-    question.from += std::chrono::years(years);
-    question.to += std::chrono::years(years);
-    return ShowTotal(question);
+    auto question = asked();
+    if (!question) return false;
+    question->from += std::chrono::years(years);
+    question->to += std::chrono::years(years);
+    return draw(question);
 }
 
 bool TotalScreen::chooseOrder(bool byStaff) {
-    if (refusesFileMode(QStringLiteral("集計方法の選択")) || !mayDiscard()) return false;
-    TotalsQuestion question = question_;
-    question.byStaff = byStaff;
-    return ShowTotal(question);
+    if (refusesFileMode(QStringLiteral("集計方法の選択"))) return false;
+    auto question = asked();
+    if (question) question->byStaff = byStaff;
+    return draw(question);
 }
 
-bool TotalScreen::display(const QString& start, const QString& end) {
-    const auto span = checkedMonths(client_.context, start, end);
-    if (!span || !mayDiscard() || !leaveFile()) return false;
-    TotalsQuestion question = question_;
-    question.from = span->from;
-    question.to = span->to;
-    return ShowTotal(question);
+bool TotalScreen::display() {
+    return draw(asked());
 }
 
 bool TotalScreen::update() {
-    Prompts& prompts = client_.context.prompts;
     if (!CheckData(client_.context, sheet)) return false;
-    const QString question =
-        lines(QStringLiteral("追加・変更を更新します。"), QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return false;
+    const auto question = asked();
+    if (!question || !confirmsUpdate()) return false;
     if (!UpdateTotal(client_.context, connection(), sheet, question_.byStaff)) {
-        prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
+        client_.context.prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;
     }
-    return ShowTotalOrNothing();
+    return ShowTotalOrNothing(*question);
 }
 
-bool TotalScreen::deleteMonths(const QString& start, const QString& end) {
+// Corrections of months that were only calculated go with the new drawing: that is told before.
+bool TotalScreen::confirmsUpdate() const {
+    Prompts& prompts = client_.context.prompts;
+    const ChangedMonths changed = changedMonths(sheet);
+    if (changed.saved == 0 && changed.unsaved > 0) {
+        prompts.exclaim(lines(QStringLiteral("変更した月は月次更新されていないため、保存できません。"),
+                              QStringLiteral("タイムカードで月次更新を行ってから変更して下さい。")));
+        return false;
+    }
+    QString what = QStringLiteral("追加・変更を更新します。");
+    if (changed.unsaved > 0)
+        what = lines(what,
+                     QStringLiteral("月次更新されていない%1件の変更は保存されず、失われます。").arg(changed.unsaved));
+    const QString question = lines(what, QString(), QStringLiteral("よろしいですか？"));
+    const Answer preset = changed.unsaved > 0 ? Answer::Cancel : Answer::Ok;
+    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, preset}) == Answer::Ok;
+}
+
+bool TotalScreen::deleteMonths() {
     Prompts& prompts = client_.context.prompts;
     if (refusesFileMode(QStringLiteral("削除"))) return false;
-    const auto span = checkedMonths(client_.context, start, end);
-    if (!span) return false;
-    const SavedMonths months{question_.staff, question_.section, *span};
+    const auto question = asked();
+    if (!question) return false;
+    const SavedMonths months{question->staff, question->section, {question->from, question->to}};
     const int count = CountTotal(client_.context, connection(), months);
     if (count < 0) return false;
     if (count == 0) {
-        prompts.exclaim(lines(QStringLiteral("表示期間(%1～%2)には").arg(start, end),
+        prompts.exclaim(lines(QStringLiteral("表示期間(%1～%2)には").arg(boxes.start, boxes.end),
                               QStringLiteral("保存された月次集計データが無いため、"),
                               QStringLiteral("データを削除できません。")));
         return false;
     }
-    const QString question =
-        lines(QStringLiteral("表示されている月次集計データを削除します。"),
-              QStringLiteral("削除したデータは復活できません。"), QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) != Answer::Ok) return false;
+    if (!mayDiscard() || !confirmsDelete(*question)) return false;
     if (!DeleteTotal(client_.context, connection(), months)) {
         prompts.exclaim(QStringLiteral("月次集計データの削除に失敗しました。"));
         return false;
     }
-    return ShowTotalOrNothing();
+    return ShowTotalOrNothing(*question);
+}
+
+// Months that were typed and not shown yet are named.
+bool TotalScreen::confirmsDelete(const TotalsQuestion& question) const {
+    QString what = lines(QStringLiteral("表示されている月次集計データを削除します。"),
+                         QStringLiteral("削除したデータは復活できません。"));
+    if (question.from != question_.from || question.to != question_.to)
+        what = lines(what, QStringLiteral("期間：%1～%2").arg(boxes.start, boxes.end));
+    what = lines(what, QString(), QStringLiteral("よろしいですか？"));
+    return client_.context.prompts.ask({{}, what, Icon::Question, Buttons::OkCancel, Answer::Cancel}) == Answer::Ok;
 }
 
 bool TotalScreen::refusesFileMode(const QString& command) const {

@@ -8,6 +8,12 @@
 
 namespace kurbo {
 
+// The two boxes for the months, "yyyy/mm", as they stand.
+struct MonthBoxes {
+    QString start;
+    QString end;
+};
+
 // What frmTotal works on, without its window: which months of whom stand in the grid, and the commands. A refusal or a
 // failure is told here and leaves everything as it was; the window then shows again what stands here.
 class TotalScreen final {
@@ -21,6 +27,9 @@ class TotalScreen final {
     // The question before changes are lost; true to go on.
     [[nodiscard]] bool mayDiscard() const;
 
+    // What the person has typed there, told before each command: it works on these months. Drawing sets them.
+    MonthBoxes boxes;
+
     // Each shows the totals anew. An empty staff code stands for the whole section.
     bool chooseSection(const QString& section);
     bool chooseStaff(const QString& staff);
@@ -28,17 +37,17 @@ class TotalScreen final {
     bool chooseMonth(int month);
     bool moveYears(int years);
     bool chooseOrder(bool byStaff);
-    // The span as it stands in the two boxes, "yyyy/mm".
-    bool display(const QString& start, const QString& end);
+    bool display();
 
     // The same totals once more, after the store has changed.
     bool reload();
 
-    // The changed figures into the saved months; and the saved months of the span out of the store.
+    // The changed figures into the saved months; and the saved months of the boxes out of the store.
     bool update();
-    bool deleteMonths(const QString& start, const QString& end);
-    // The shown grid into a card file, and one out of a file, which is only looked at until totals are drawn again.
-    bool saveKrb(const QString& start, const QString& end);
+    bool deleteMonths();
+    // The shown grid with its span into a card file, and one out of a file, which is only looked at until totals are
+    // drawn again.
+    bool saveKrb();
     bool loadKrb();
     // The saved months of the shown span into a CSV file.
     bool saveCsv();
@@ -64,8 +73,12 @@ class TotalScreen final {
     [[nodiscard]] Connection& connection() const { return *client_.CurrentConnection; }
     [[nodiscard]] bool readLists();
     void readPeople();
+    [[nodiscard]] std::optional<TotalsQuestion> asked() const;
+    [[nodiscard]] bool draw(const std::optional<TotalsQuestion>& question);
     [[nodiscard]] bool ShowTotal(TotalsQuestion question);
-    [[nodiscard]] bool ShowTotalOrNothing();
+    [[nodiscard]] bool ShowTotalOrNothing(const TotalsQuestion& question);
+    [[nodiscard]] bool confirmsUpdate() const;
+    [[nodiscard]] bool confirmsDelete(const TotalsQuestion& question) const;
     [[nodiscard]] bool leaveFile();
     [[nodiscard]] bool refusesFileMode(const QString& command) const;
 

@@ -29,16 +29,17 @@ void checkMonths(const QStringList& selection) {
 
 } // namespace
 
-bool TotalScreen::saveKrb(const QString& start, const QString& end) {
+bool TotalScreen::saveKrb() {
     Prompts& prompts = client_.context.prompts;
     if (question_.section.isEmpty()) {
         prompts.exclaim(QStringLiteral("部課が入力されていません。"));
         return false;
     }
-    if (!checkedMonths(client_.context, start, end)) return false;
+    if (!asked()) return false;
     const auto file = prompts.saveFile(sheetFilter(), QStringLiteral("krb"));
     return file && guarded(client_.context, u"frmTotal", u"SaveTotal", false, [&] {
-               saveSheet(*file, totalMember(), sheet.grid, {question_.section, question_.staff, start, end});
+               saveSheet(*file, totalMember(), sheet.grid,
+                         {question_.section, question_.staff, slashMonth(question_.from), slashMonth(question_.to)});
                return true;
            });
 }
@@ -57,6 +58,7 @@ bool TotalScreen::loadKrb() {
                question.from = monthOf(selection[2]);
                question.to = monthOf(selection[3]);
                question_ = question;
+               boxes = {selection[2], selection[3]};
                ++spanChanges_;
                return true;
            });
@@ -79,6 +81,7 @@ bool TotalScreen::leaveFile() {
 
 bool TotalScreen::saveCsv() {
     Prompts& prompts = client_.context.prompts;
+    if (refusesFileMode(QStringLiteral("CSVﾌｧｲﾙの保存"))) return false;
     if (!hasSaved_) {
         prompts.exclaim(QStringLiteral("更新済の月次集計データがありません。"));
         return false;

@@ -108,12 +108,19 @@ bool CheckData(const Context& context, const TotalSheet& sheet) {
     });
 }
 
+ChangedMonths changedMonths(const TotalSheet& sheet) {
+    ChangedMonths changed;
+    for (int row = 1; row < sheet.grid.Rows(); ++row)
+        if (isChanged(sheet, row)) ++(sheet.isSaved(row) ? changed.saved : changed.unsaved);
+    return changed;
+}
+
 bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet, bool byStaff) {
     constexpr int monthDigits = 6;
     return guarded(context, u"frmTotal", u"UpdateTotal", false, [&] {
         Transaction transaction(connection);
         for (int row = 1; row < sheet.grid.Rows(); ++row) {
-            if (!isChanged(sheet, row)) continue;
+            if (!isChanged(sheet, row) || !sheet.isSaved(row)) continue;
             const QString key = cellOf(sheet, row, static_cast<int>(TotalColumn::Order));
             updateMonth(connection, sheet, row, byStaff ? key.right(monthDigits) : key.left(monthDigits));
         }

@@ -22,6 +22,13 @@ struct MonthSpan {
 // The rows that the person has changed; shows its first refusal and then gives false.
 [[nodiscard]] bool CheckData(const Context& context, const TotalSheet& sheet);
 
+// How many rows of saved months are changed, and how many of others, which an update passes over.
+struct ChangedMonths {
+    int saved = 0;
+    int unsaved = 0;
+};
+[[nodiscard]] ChangedMonths changedMonths(const TotalSheet& sheet);
+
 // Writes the changed rows into the saved months, all or none, and takes their approvals away; a month that isn't saved
 // is passed over. The balance of paid leave follows the newest month. False after a reported failure.
 [[nodiscard]] bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet, bool byStaff);

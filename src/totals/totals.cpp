@@ -15,17 +15,19 @@ using std::chrono::year_month;
 namespace kurbo {
 namespace {
 
-// The person has closed the progress, or a loader has said why it failed.
+// The person has closed the progress, or the loader has said why it failed.
 struct GivenUp {};
-// The rules of the last person can't be loaded.
-struct BadRules {};
-
 struct StaffMember {
     QString code;
     QString name;
     QString section;
     QString order; // at least four digits
 };
+
+void refuseOutside(const TotalsQuestion& question) {
+    if (question.from < firstTotalMonth || question.to > lastTotalMonth)
+        throw Complaint(QStringLiteral("集計できるのは1000年1月から9999年12月までです。"));
+}
 
 int numberOf(std::chrono::year year) {
     return static_cast<int>(year);
@@ -53,6 +55,7 @@ class Calculation final {
         }
         std::vector<Missing> missing = missingMonths();
         loadRules(missing);
+        totals_.faults = faults_.text();
         makeMonths(connection_, people_, context_.clock.today(),
                    [this](int percent) { step(loaded + percent * (whole - loaded) / 100); });
         totals_.rows.reserve(totals_.rows.size() + missing.size());
@@ -66,10 +69,13 @@ class Calculation final {
     static constexpr int whole = 1000;
     static constexpr int loaded = 200;
 
+    // The place of those whose rules can't be loaded.
+    static constexpr auto nowhere = static_cast<std::size_t>(-1);
+
     struct Missing {
         std::size_t member;
         year_month month;
-        std::size_t person = 0; // the place among those whose rules are loaded
+        std::size_t person = nowhere; // the place among those whose rules are loaded
         std::size_t period = 0;
     };
 
@@ -113,41 +119,25 @@ class Calculation final {
     // Of everybody who misses a month, once and in one lock.
     void loadRules(std::vector<Missing>& missing) {
         if (missing.empty()) return;
-        try {
-            const Reading reading(connection_);
-            PeopleRules rules(connection_, style_);
-            std::vector<std::optional<std::size_t>> places(staff_.size());
-            for (Missing& month : missing) {
-                auto& place = places[month.member];
-                if (!place) {
-                    place = people_.size();
-                    addPerson(staff_[month.member].code, rules);
-                }
-                addPeriod(month, *place);
+        const Reading reading(connection_);
+        PeopleRules rules(connection_, style_);
+        std::vector<std::optional<std::size_t>> places(staff_.size());
+        int tried = 0;
+        for (Missing& month : missing) {
+            auto& place = places[month.member];
+            if (!place) {
+                place = addPerson(staff_[month.member], rules);
+                step(static_cast<int>(++tried * loaded / std::ssize(staff_)));
             }
-        } catch (const BadRules&) {
-            sayBadRules(people_.back().staff);
+            if (*place != nowhere) addPeriod(month, *place);
         }
     }
 
-    void addPerson(const QString& code, PeopleRules& rules) {
-        PersonMonths& person = people_.emplace_back();
-        person.staff = code;
-        try {
-            person.rules = rules.read(code);
-        } catch (const Complaint&) {
-            throw BadRules();
-        } catch (const Fault&) {
-            throw BadRules();
-        }
-        step(static_cast<int>(people_.size() * loaded / staff_.size()));
-    }
-
-    // The loaders say what is wrong, now that no other client waits for the person to read it.
-    void sayBadRules(const QString& code) {
-        clsWorkTime rules = style_;
-        if (GetStaffInfo(context_, connection_, rules, code)) (void)GetWorkTime(context_, connection_, rules, code);
-        throw GivenUp();
+    std::size_t addPerson(const StaffMember& member, PeopleRules& rules) {
+        const auto own = rules.tryRead({member.code, member.name}, faults_);
+        if (!own) return nowhere;
+        people_.push_back({.staff = member.code, .rules = *own, .periods = {}, .sums = {}});
+        return people_.size() - 1;
     }
 
     void addPeriod(Missing& month, std::size_t place) {
@@ -160,18 +150,26 @@ class Calculation final {
 
     void addCalculated(const Missing& month) {
         const StaffMember& member = staff_[month.member];
-        const PersonMonths& person = people_[month.person];
-        const Period& period = person.periods[month.period];
-        const Figures& sum = person.sums[month.period];
         TotalRow row;
         row.staff = member.code;
         row.name = member.name;
         row.section = member.section;
         row.month = month.month;
-        row.term = termOf(period);
         row.key = totalKey(member.order, month.month, totals_.byStaff);
-        setFigures(row, sum, person.rules);
+        if (month.person != nowhere) {
+            const PersonMonths& person = people_[month.person];
+            row.term = termOf(person.periods[month.period]);
+            setFigures(row, person.sums[month.period], person.rules);
+        }
         totals_.rows.push_back(std::move(row));
+    }
+
+    // By staff, two people of one place stay apart.
+    [[nodiscard]] bool isBefore(const TotalRow& one, const TotalRow& other) const {
+        if (!totals_.byStaff) return one.key < other.key;
+        const int place = orderIn(one.key).compare(orderIn(other.key));
+        const int order = place != 0 ? place : one.staff.compare(other.staff);
+        return order != 0 ? order < 0 : one.month < other.month;
     }
 
     // The rows are large: their places are sorted, and each is moved once.
@@ -179,7 +177,8 @@ class Calculation final {
         std::vector<TotalRow*> places;
         places.reserve(totals_.rows.size());
         for (TotalRow& row : totals_.rows) places.push_back(&row);
-        std::ranges::stable_sort(places, {}, &TotalRow::key);
+        std::ranges::stable_sort(places,
+                                 [this](const TotalRow* one, const TotalRow* other) { return isBefore(*one, *other); });
         std::vector<TotalRow> sorted;
         sorted.reserve(places.size());
         for (TotalRow* row : places) sorted.push_back(std::move(*row));
@@ -211,6 +210,7 @@ class Calculation final {
     clsWorkTime style_;
     std::vector<StaffMember> staff_;
     std::vector<PersonMonths> people_;
+    RuleFaults faults_;
     std::map<std::pair<Day, Day>, QString> terms_;
     Totals totals_;
 };
@@ -226,8 +226,11 @@ FigureForm figureForm(std::size_t figure) {
 
 std::optional<Totals> calculateTotals(const Context& context, Connection& connection, const TotalsQuestion& question) {
     return guarded(context, u"frmTotal", u"ShowTotal", std::optional<Totals>(), [&]() -> std::optional<Totals> {
+        refuseOutside(question);
         try {
-            return Calculation(context, connection, question).run();
+            Totals totals = Calculation(context, connection, question).run();
+            if (!totals.faults.isEmpty()) context.prompts.exclaim(totals.faults);
+            return totals;
         } catch (const GivenUp&) {
             return {};
         }

@@ -73,7 +73,13 @@ struct Totals {
     int countUnit = 1; // 0 decimal, 1 h:mm
     std::array<bool, totalColumns> hidden{};
     std::vector<TotalRow> rows;
+    // Whose rules can't be loaded, and why; empty when all could. Their months stand without figures and period.
+    QString faults;
 };
+
+// The months that can be asked for: those whose texts have four digits for the year, and whose days can be counted.
+inline constexpr std::chrono::year_month firstTotalMonth{std::chrono::year(1000), std::chrono::January};
+inline constexpr std::chrono::year_month lastTotalMonth{std::chrono::year(9999), std::chrono::December};
 
 // What is asked for: one person, or with an empty staff code the people shown in a section; from month to month, both
 // included.
@@ -85,9 +91,10 @@ struct TotalsQuestion {
     bool byStaff = true;
 };
 
-// The saved months as they were saved, and the others calculated; the months of one person are always by staff. Nothing
-// when the person closes the progress, and after a failure: it is reported under "ShowTotal", or by the loader whose
-// rules were at fault.
+// The saved months as they were saved, and the others calculated; the months of one person are always by staff. Those
+// whose rules are at fault are told in one message, the totals of the others stand. Nothing for months that can't be
+// asked for, when the person closes the progress, and after a failure, which is reported under "ShowTotal" or by the
+// loader of the company's style.
 [[nodiscard]] std::optional<Totals> calculateTotals(const Context& context, Connection& connection,
                                                     const TotalsQuestion& question);
 

@@ -4,6 +4,8 @@
 #include "support/sample_company.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -46,7 +48,6 @@ TEST_F(Kurboctl, WrongUseIsTwo) {
         EXPECT_TRUE(outcome.err.contains(u"usage: kurboctl"_q));
         EXPECT_EQ(outcome.out, QString());
     }
-    EXPECT_EQ(kurboctl({u"--help"_q}).exit, 0);
     EXPECT_EQ(kurboctl({u"check"_q, path, u"--at"_q, u"noon"_q}).exit, 2);
     EXPECT_EQ(kurboctl({u"check"_q, path, u"--format"_q, u"xml"_q}).exit, 2);
     EXPECT_EQ(kurboctl({u"punch"_q, desk.file(u"none.mdb"_q), u"enter"_q, u"--staff"_q, u"1"_q}).exit, 2);
@@ -153,13 +154,60 @@ TEST_F(Kurboctl, TotalsComeInEveryForm) {
     EXPECT_TRUE(tsv[9].startsWith(u"\t合計\t"_q));
     const Outcome one = totals(spring + QStringList{u"--staff"_q, u"1001"_q, u"--by"_q, u"month"_q});
     EXPECT_TRUE(one.out.contains(u"山田太郎 小計"_q)) << "a person's months are by staff";
-    EXPECT_EQ(totals(spring + QStringList{u"--section"_q, u"S09"_q}).exit, 0);
     EXPECT_EQ(totals(spring).exit, 2);
     EXPECT_EQ(totals(section + QStringList{u"--staff"_q, u"1001"_q}).exit, 2);
     EXPECT_EQ(totals({u"--section"_q, u"S01"_q, u"--from"_q, u"2026/13"_q, u"--to"_q, u"2026/14"_q}).exit, 2);
     EXPECT_EQ(totals({u"--section"_q, u"S01"_q, u"--from"_q, u"2026/04"_q, u"--to"_q, u"2026/03"_q}).exit, 2);
     sql(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode = '1001');"_q);
-    EXPECT_EQ(totals(section).exit, 1);
+    const Outcome partly = totals(section);
+    EXPECT_EQ(partly.exit, 1);
+    EXPECT_TRUE(partly.err.contains(u"山田太郎 (1001)"_q) && partly.out.contains(u"鈴木花子"_q)) << partly.err;
+    const QString pdf = desk.file(u"r.pdf"_q);
+    EXPECT_EQ(kurboctl(QStringList{u"report"_q, path, u"totals"_q, u"--out"_q, pdf} + section).exit, 1);
+    EXPECT_TRUE(QFile::exists(pdf));
+}
+
+TEST_F(Kurboctl, WhoIsNotRegisteredIsRefused) {
+    const QStringList spring{u"--from"_q, u"2026/03"_q, u"--to"_q, u"2026/04"_q};
+    const QStringList out{u"--out"_q, desk.file(u"x"_q)};
+    // Left over after the person has gone from the list of people.
+    sql(u"DELETE FROM C03_Staff WHERE (F_StaffCode = '1004');"_q);
+    for (const QString& who : {u"--section S09"_q, u"--staff 9999"_q, u"--staff 1004"_q})
+        for (const QStringList& command :
+             {QStringList{u"totals"_q, path} + spring, QStringList{u"export"_q, path} + spring + out,
+              QStringList{u"report"_q, path, u"totals"_q} + spring + out,
+              QStringList{u"card"_q, path, u"--month"_q, u"2026/03"_q}}) {
+            QStringList arguments = command + who.split(u' ');
+            if (command[0] == u"card" && !who.contains(u"staff"_q)) continue;
+            if (command[0] == u"export" && who.contains(u"staff"_q)) arguments += {u"--section"_q, u"S01"_q};
+            const Outcome outcome = kurboctl(arguments);
+            EXPECT_EQ(outcome.exit, 1) << arguments.join(u' ');
+            EXPECT_TRUE(outcome.err.contains(who.section(u' ', 1) + u"」は登録されていません。"_q)) << outcome.err;
+            EXPECT_EQ(outcome.out, QString());
+        }
+}
+
+TEST_F(Kurboctl, HelpAndManualNameTheSameOptions) {
+    const QString manual = QString::fromUtf8(readFile(QStringLiteral(KURBO_DATA "/man/kurboctl.1"))).remove(u'\\');
+    const auto optionsIn = [](const QString& text) {
+        static const QRegularExpression form(u"--[a-z-]+"_q);
+        QSet<QString> found;
+        for (const auto& match : form.globalMatch(text)) found.insert(match.captured());
+        return found;
+    };
+    const QStringList list = kurboctl({u"--help"_q}).out.split(u'\n').filter(QRegularExpression(u"^  [a-z]"_q));
+    EXPECT_EQ(list.size(), 13);
+    for (const QString& line : list) {
+        const QString name = line.simplified().section(u' ', 0, 0);
+        const Outcome help = kurboctl({name, u"--help"_q});
+        EXPECT_EQ(help.exit, 0);
+        EXPECT_TRUE(help.out.contains(u"\n  kurboctl "_q + name)) << "an example";
+        EXPECT_TRUE(help.out.contains(line.mid(2).simplified().section(u' ', 1))) << help.out;
+        // Of the manual what stands between this command and the next.
+        QString told = manual.section(u".BI "_q + name + u" \" "_q, 1);
+        told.truncate(told.indexOf(QRegularExpression(u"\n\\.TP\n\\.BI [a-z]|\n\\.SH"_q)));
+        EXPECT_EQ(optionsIn(told), optionsIn(help.out.section(u"every command:"_q, 0, 0))) << name;
+    }
 }
 
 TEST_F(Kurboctl, MonthsTravelAsFiles) {
@@ -211,6 +259,17 @@ TEST_F(Kurboctl, PunchTellsHowItWent) {
     sql(u"UPDATE C02_Section SET F_Display = False"_q);
     EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2026/04/17 09:00"_q).err,
               u"不正な入力です。リストから選択して下さい。\n"_q);
+}
+
+TEST_F(Kurboctl, PasswordsNeedNotBeSeen) {
+    const QStringList enter{u"punch"_q, path, u"enter"_q, u"--staff"_q, u"1001"_q, u"--at"_q, u"2026/04/15 08:55"_q};
+    const QStringList piped = enter + QStringList{u"--password"_q, u"-"_q};
+    EXPECT_EQ(kurboctl(piped, u"wrong\nkurbo1\n"_q).exit, 1);
+    EXPECT_EQ(kurboctl(piped, u"kurbo1\r\nmore"_q).exit, 0);
+    EXPECT_EQ(kurboctl(enter).exit, 2);
+    qputenv("KURBO_PASSWORD", "kurbo1");
+    EXPECT_EQ(kurboctl(enter).err, u"既に出社打刻済です。打刻できません。\n"_q);
+    qunsetenv("KURBO_PASSWORD");
 }
 
 TEST_F(Kurboctl, MovesOldDays) {

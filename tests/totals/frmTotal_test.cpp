@@ -56,11 +56,10 @@ TEST_F(FrmTotal, IsWorkedByItsControls) {
     find<QRadioButton>("optMonth_5")->click();
     EXPECT_EQ(span(), u"2026/05-2026/05"_q);
     QTest::keyClick(find<QWidget>("mskStart"), Qt::Key_Down);
-    find<QPushButton>("cmdDisplay")->click();
-    EXPECT_EQ(span(), u"2026/04-2026/05"_q);
     auto* const names = find<DataCombo>("dcbStaff");
     names->setBoundText(u"1001"_q);
     Q_EMIT names->activated(names->currentIndex());
+    EXPECT_EQ(span(), u"2026/04-2026/05"_q);
     EXPECT_EQ(cells().Rows(), 1 + 2 + 2);
     Grid& grid = *find<Grid>("vfgKurbo");
     grid.setFocus();
@@ -82,14 +81,18 @@ TEST_F(FrmTotal, MonthsOutOfAFileAreLookedAtAndEntered) {
     MonthRecord record{u"1003"_q, u"S01"_q, u"2026"_q, u"04"_q, {}, true, false, {}};
     record.figures.fill(Value(0));
     record.figures[1] = Value(630);
-    ASSERT_EQ(CsvSaveTotal(desk.context, file, {record}), 1);
+    MonthRecord known = record;
+    known.staff = u"1001"_q;
+    ASSERT_EQ(CsvSaveTotal(desk.context, file, {record, known}), 2);
     QString seen;
     QTimer::singleShot(0, qApp, [&] {
         QWidget* const csv = QApplication::activeModalWidget();
         ASSERT_TRUE(csv);
         const GridModel& grid = *csv->findChild<Grid*>(u"vfgCsv"_q)->grid();
         for (const int column : {0, 1, 2, 3, 4, 6, 23}) seen += grid.CellText(1, column) + u' ';
-        desk.prompts.expect(u"データベースに登録します。"_q).expect(u"1件"_q);
+        desk.prompts.expect(u"データベースに登録します。"_q)
+            .expect(u"1件の月次集計データを登録しました。\r\n既に登録されている1件はスキップしました。"_q);
+        csv->findChild<QRadioButton*>(u"optMethod_1"_q)->click();
         csv->findChild<QPushButton*>(u"cmdAddDB"_q)->click();
     });
     connection.execute(u"UPDATE M08_Access SET F_WriteOtherMonthly = True"_q);

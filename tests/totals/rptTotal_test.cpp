@@ -60,6 +60,9 @@ TEST_F(RptTotal, GroupsAreMonthsOrPeople) {
     EXPECT_EQ(linesOf(page).mid(0, 2), QStringList({u"月次集計"_q, u"2026/01～2026/12    部課：総務部 (S01)"
                                                                    "    氏名：佐藤 (1001)"_q}));
     EXPECT_TRUE(itemOf(page, u"小計"_q).bold);
+    fill({u"一二三四五六七八九十"_q, u"一二三四五六七八九十"_q}, 1, true);
+    EXPECT_EQ(begins(report(), 0).filter(u"十"_q),
+              QStringList({u"一二三四五六七八九十 (1001)"_q, u"一二三四五六七八九十 (1002)"_q}));
     EXPECT_EQ(itemOf(page, u"氏名"_q).left, paperMargin);
     EXPECT_EQ(report().Caption(), u"Kurbo－集計"_q);
 }

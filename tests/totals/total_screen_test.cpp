@@ -33,6 +33,13 @@ class TotalScreenTest : public CardOffice {
                 return row;
         return -1;
     }
+    bool display(const QString& start, const QString& end) {
+        screen.boxes = {start, end};
+        return screen.display();
+    }
+    [[nodiscard]] QString shownMonths() const {
+        return slashMonth(screen.span().from) + u'-' + slashMonth(screen.span().to);
+    }
     void type(int row, int column, const QString& text) { screen.sheet.grid.edit(row, column, text); }
     [[nodiscard]] QString saved(const QString& fields, const QString& staff, const QString& month = u"04"_q) {
         return asked(u"SELECT "_q + fields + u" FROM T05_Approved WHERE (F_Staff = '"_q + staff +
@@ -50,17 +57,17 @@ TEST_F(TotalScreenTest, ShowsAPersonASpanAndAnOrder) {
     EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
     EXPECT_TRUE(screen.byStaff()) << "one person is always by staff";
     EXPECT_EQ(rowOf(u"1002"_q), -1);
-    EXPECT_TRUE(screen.display(u"2026/04"_q, u"2026/06"_q));
+    EXPECT_TRUE(display(u"2026/04"_q, u"2026/06"_q));
     EXPECT_EQ(screen.sheet.grid.Rows(), 1 + 3 + 2);
     EXPECT_TRUE(screen.chooseMonth(5));
-    EXPECT_EQ(slashMonth(screen.span().from) + slashMonth(screen.span().to), u"2026/052026/05"_q);
+    EXPECT_EQ(shownMonths(), u"2026/05-2026/05"_q);
     const std::tuple<QString, QString, QString> refusals[] = {
         {u"2026/13"_q, u"2026/06"_q, u"期間が不正です。開始年月と終了年月を西暦年でyyyy/mm形式(半角)"_q},
         {u"2026/06"_q, u"2026/05"_q, u"開始年月が終了年月以降に設定されています。"_q},
     };
     for (const auto& [start, end, message] : refusals) {
         desk.prompts.expect(message);
-        EXPECT_FALSE(screen.display(start, end));
+        EXPECT_FALSE(display(start, end));
         EXPECT_EQ(slashMonth(screen.span().from), u"2026/05"_q);
     }
 }
@@ -73,8 +80,14 @@ TEST_F(TotalScreenTest, CorrectsSavedMonthsAndWithdrawsTheirApprovals) {
     type(row, 7, u"2:30"_q);
     type(row, 5, u"11"_q);
     type(rowOf(u"1003"_q), 3, u"9"_q);
-    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    desk.prompts.expect(u"追加・変更を更新します。\r\n月次更新されていない1件の変更は保存されず、"_q);
     EXPECT_TRUE(screen.update());
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    type(rowOf(u"1003"_q), 3, u"9"_q);
+    desk.prompts.expect(u"変更した月は月次更新されていないため、保存できません。"_q);
+    EXPECT_FALSE(screen.update());
+    EXPECT_EQ(screen.sheet.grid.TextMatrix(rowOf(u"1003"_q), 3), u"9"_q) << "still there";
+    screen.sheet.changed = false;
     EXPECT_EQ(saved(u"F_Over"_q, u"1001"_q) + u' ' + saved(u"F_PersonalApproval"_q, u"1001"_q), u"150 0"_q);
     EXPECT_EQ(saved(u"F_PersonalApproval"_q, u"1002"_q), u"-1"_q);
     EXPECT_EQ(count(u"T05_Approved"_q), 3) << "a month that isn't saved is passed over";
@@ -117,9 +130,14 @@ TEST_F(TotalScreenTest, AnotherSectionWithoutTotalsLeavesNothingToCorrect) {
                        "VALUES ('2001', '工藤四郎', 'S02', 9, True)"_q);
     connection.execute(u"INSERT INTO M08_Access (F_AccessCode, F_Section, F_ReadOtherKurbo, F_WriteOtherMonthly) "
                        "VALUES (2, 'S02', True, True)"_q);
-    desk.prompts.expect(u"社員設定に不備があります。"_q);
-    EXPECT_FALSE(screen.chooseSection(u"S02"_q));
+    desk.prompts.expect(u"工藤四郎 (2001)\r\n社員設定に不備があります。"_q);
+    EXPECT_TRUE(screen.chooseSection(u"S02"_q));
     EXPECT_EQ(screen.section(), u"S02"_q);
+    EXPECT_GT(rowOf(u"2001"_q), 0);
+    EXPECT_FALSE(screen.sheet.grid.Editable(rowOf(u"2001"_q), 7)) << "there are no figures to correct";
+    connection.execute(u"UPDATE M01_CorpInfo SET F_RoundUnit = Null"_q);
+    desk.prompts.expect(u"時間計算方法設定に不備があります。"_q);
+    EXPECT_FALSE(screen.chooseSection(u"S01"_q));
     EXPECT_EQ(screen.sheet.grid.Rows(), 1) << "the rows of the section before are gone";
 }
 
@@ -136,19 +154,54 @@ TEST_F(TotalScreenTest, TakesHoursWithAMarkBesideThem) {
 
 TEST_F(TotalScreenTest, DeletesTheSavedMonthsOfTheSpan) {
     EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
+    screen.boxes = {u"2026/06"_q, u"2026/07"_q};
     desk.prompts.expect(u"表示期間(2026/06～2026/07)には\r\n保存された月次集計データが無いため、"_q);
-    EXPECT_FALSE(screen.deleteMonths(u"2026/06"_q, u"2026/07"_q));
+    EXPECT_FALSE(screen.deleteMonths());
+    screen.boxes = {u"2026/04"_q, u"2026/05"_q};
     desk.prompts.expect(u"表示されている月次集計データを削除します。"_q, Answer::Ok);
-    EXPECT_TRUE(screen.deleteMonths(u"2026/04"_q, u"2026/05"_q));
+    EXPECT_TRUE(screen.deleteMonths());
     EXPECT_EQ(count(u"T05_Approved"_q), 1);
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    EXPECT_TRUE(desk.prompts.last().text.contains(u"期間：2026/04～2026/05"_q)) << "they weren't shown";
+    EXPECT_EQ(shownMonths(), u"2026/04-2026/05"_q);
+}
+
+TEST_F(TotalScreenTest, EveryDrawingTakesTheMonthsOfTheBoxes) {
+    const std::function<bool()> commands[] = {
+        [this] { return screen.chooseSection(u"S01"_q); },
+        [this] { return screen.chooseStaff(u"1001"_q); },
+        [this] { return screen.chooseOrder(false); },
+        [this] { return screen.reload(); },
+        [this] { return screen.display(); },
+        [this] {
+            desk.prompts.expect(u"追加・変更を更新します。"_q);
+            return screen.update();
+        },
+    };
+    for (const auto& command : commands) {
+        ASSERT_TRUE(display(u"2026/04"_q, u"2026/04"_q));
+        screen.boxes = {u"2026/05"_q, u"2026/06"_q};
+        EXPECT_TRUE(command());
+        EXPECT_EQ(shownMonths(), u"2026/05-2026/06"_q);
+        EXPECT_EQ(screen.boxes.start, u"2026/05"_q);
+    }
+    screen.boxes = {u"9998/12"_q, u"9999/01"_q};
+    EXPECT_TRUE(screen.moveYears(-1));
+    EXPECT_EQ(shownMonths(), u"9997/12-9998/01"_q);
+    EXPECT_TRUE(screen.moveYears(1));
+    desk.prompts.expect(u"集計できるのは1000年1月から9999年12月までです。"_q);
+    EXPECT_FALSE(screen.moveYears(1));
+    EXPECT_EQ(shownMonths(), u"9998/12-9999/01"_q);
+    EXPECT_TRUE(display(u"1000/01"_q, u"1000/01"_q));
+    desk.prompts.expect(u"集計できるのは"_q);
+    EXPECT_FALSE(screen.moveYears(-1));
 }
 
 TEST_F(TotalScreenTest, GoesToFilesAndComesBackOnlyToBeSeen) {
     const QString card = desk.file(u"totals.krb"_q);
     const QString csv = desk.file(u"april.csv"_q);
     desk.prompts.expectFile(card);
-    EXPECT_TRUE(screen.saveKrb(u"2026/04"_q, u"2026/04"_q));
+    EXPECT_TRUE(screen.saveKrb());
     desk.prompts.expect(u"CSV形式で保存します。"_q).expectFile(csv).expect(u"2件の月次集計データを保存しました。"_q);
     EXPECT_TRUE(screen.saveCsv());
     EXPECT_TRUE(QFile::exists(csv));
@@ -161,14 +214,15 @@ TEST_F(TotalScreenTest, GoesToFilesAndComesBackOnlyToBeSeen) {
     EXPECT_FALSE(screen.sheet.grid.Editable(rowOf(u"1001"_q), 7));
     const std::pair<QString, std::function<bool()>> refusals[] = {
         {u"更新は"_q, [this] { return screen.update(); }},
-        {u"削除は"_q, [this] { return screen.deleteMonths(u"2026/04"_q, u"2026/04"_q); }},
+        {u"削除は"_q, [this] { return screen.deleteMonths(); }},
+        {u"CSVﾌｧｲﾙの保存は"_q, [this] { return screen.saveCsv(); }},
         {u"集計方法の選択は"_q, [this] { return screen.chooseOrder(false); }},
     };
     for (const auto& [word, command] : refusals) {
         desk.prompts.expect(u"タイムカードファイルを呼出した状態で"_q + word);
         EXPECT_FALSE(command()) << word;
     }
-    EXPECT_TRUE(screen.display(u"2026/04"_q, u"2026/04"_q));
+    EXPECT_TRUE(screen.display());
     EXPECT_TRUE(screen.sheet.grid.Editable(rowOf(u"1001"_q), 7));
 }
 

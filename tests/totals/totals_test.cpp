@@ -188,6 +188,23 @@ TEST_P(TotalsOfDemo, OfOnePersonAreThoseOfTheSection) {
     EXPECT_EQ(own, 6U);
 }
 
+TEST_P(TotalsOfDemo, AreReadByDayAsByPerson) {
+    const auto totals = [this] {
+        return calculateTotals(desk.context, connection, {u"S03"_q, {}, 2026y / 1, 2026y / 6, true});
+    };
+    connection.execute(u"DELETE FROM T05_Approved WHERE (F_Month <> '03')"_q);
+    const auto byDay = totals();
+    // Among many people those of the section are few.
+    for (int i = 0; i < 100; ++i)
+        connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName) VALUES (?, 'x')"_q, {u"x%1"_q.arg(i)});
+    const auto byPerson = totals();
+    ASSERT_TRUE(byDay && byPerson && byDay->rows.size() == byPerson->rows.size() && byDay->rows.size() > 6);
+    for (std::size_t i = 0; i < byDay->rows.size(); ++i) {
+        EXPECT_EQ(byDay->rows[i].figures, byPerson->rows[i].figures);
+        EXPECT_EQ(byDay->rows[i].difference, byPerson->rows[i].difference);
+    }
+}
+
 TEST_F(TotalsTest, HaveSubTotalsByStaffAndByMonth) {
     connection.execute(u"UPDATE C03_Staff SET F_Display = False WHERE (F_StaffCode = '1003')"_q);
     save(u"1002"_q, u"202605"_q, {}, {});
@@ -313,18 +330,40 @@ TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
     desk.prompts.expect(u"退社時刻が出社時刻より前に設定されています。"_q);
     EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
     EXPECT_EQ(desk.prompts.last().title, u"clsWorkTime－ShowTotal"_q);
-    // Rules are told by their loader; those of a person whose months are all saved are not asked for.
-    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode IN ('1002', '1003'))"_q);
-    desk.prompts.expect(u"平日勤務時間設定に不備があります。"_q);
-    EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
-    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = Null WHERE (F_StaffCode = '1003')"_q);
-    desk.prompts.expect(u"社員設定に不備があります。"_q);
+    connection.execute(u"UPDATE M01_CorpInfo SET F_RoundUnit = Null"_q);
+    desk.prompts.expect(u"時間計算方法設定に不備があります。"_q);
     EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
     EXPECT_TRUE(isOld());
-    other.staff = u"1002"_q;
-    EXPECT_TRUE(ShowTotal(desk.context, connection, other, grid));
-    EXPECT_TRUE(other.byStaff);
-    EXPECT_FALSE(isOld());
+}
+
+TEST_F(TotalsTest, NameThoseWhoseRulesAreAtFaultAndShowTheOthers) {
+    // Those of a person whose months are all saved are not asked for.
+    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode IN ('1002', '1003'))"_q);
+    desk.prompts.expect(u"次の社員の月次集計は計算できません。\r\n\r\n佐藤次郎 (1003)\r\n平日勤務時間設定に不備が"_q);
+    const QStringList rows = shown(everybody);
+    EXPECT_EQ(rows, QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎 小計||8:30|20.0"_q,
+                                 u"鈴木花子|2026年 04月|100:00|12.5"_q, u"鈴木花子 小計||100:00|12.5"_q,
+                                 u"佐藤次郎|2026年 04月||"_q, u"佐藤次郎 小計|||"_q, u"合計||108:30|32.5"_q}));
+    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = Null WHERE (F_StaffCode = '1001')"_q);
+    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 29 WHERE (F_StaffCode = '1003')"_q);
+    everybody.to = 2026y / 5;
+    desk.prompts.expect(u"計算できません。"_q);
+    EXPECT_EQ(shown(everybody).filter(u"|8:30|"_q), QStringList());
+    for (const QString& part :
+         {u"山田太郎 (1001)\r\n社員設定に"_q, u"鈴木花子 (1002)\r\n平日"_q, u"佐藤次郎 (1003)\r\nタイムカード締日"_q})
+        EXPECT_TRUE(desk.prompts.last().text.contains(part)) << part;
+}
+
+TEST_F(TotalsTest, KeepPeopleOfOneNameApart) {
+    connection.execute(u"UPDATE C03_Staff SET F_StaffName = '山田太郎', F_Order = 5 "
+                       "WHERE (F_StaffCode IN ('1001', '1002'))"_q);
+    connection.execute(u"UPDATE C03_Staff SET F_Display = False WHERE (F_StaffCode = '1003')"_q);
+    everybody.to = 2026y / 5;
+    EXPECT_EQ(shown(everybody),
+              QStringList({u"山田太郎 (1001)|2026年 04月|8:30|20.0"_q, u"山田太郎 (1001)|2026年 05月|0:00|20.0"_q,
+                           u"山田太郎 (1001) 小計||8:30|40.0"_q, u"山田太郎 (1002)|2026年 04月|100:00|12.5"_q,
+                           u"山田太郎 (1002)|2026年 05月|0:00|20.0"_q, u"山田太郎 (1002) 小計||100:00|32.5"_q,
+                           u"合計||108:30|72.5"_q}));
 }
 
 } // namespace kurbo::test
