@@ -2,7 +2,6 @@
 
 #include "base/failure.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -123,7 +122,6 @@ QString chosenFile(const QString& path) {
     const QFileInfo info(real);
     if ((info.exists() || info.isSymLink()) && !info.isFile())
         throw Complaint(lines(QStringLiteral("ファイルではないため、保存できません。"), path));
-    if (!info.absoluteDir().exists()) throw fileFault(ENOTDIR, info.absolutePath());
     return real;
 }
 

@@ -38,7 +38,7 @@ void replaceFile(const QString& path, const QByteArray& bytes, mode_t newMode = 
 void replaceAndKeep(const QString& path, const QByteArray& bytes);
 
 // What is to be replaced where a person has chosen `path`: a link stays, and what it leads to goes. Throws a Complaint
-// for anything that is no file, and a Fault where its folder is not there.
+// for anything that is no file.
 [[nodiscard]] QString chosenFile(const QString& path);
 
 // Gives a file the name "PATH.old", or "PATH.old2" and so on: the first one that nothing has. Gives that name; throws a

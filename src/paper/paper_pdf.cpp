@@ -7,11 +7,14 @@
 #include "paper/pdf_letters.h"
 
 #include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace kurbo {
 
@@ -64,6 +67,9 @@ bool paintPages(QPagedPaintDevice& device, const PaperDocument& document, PageRa
 bool writePdf(const PaperDocument& document, PageRange range, QPageLayout layout, const QString& path,
               Progress& progress) {
     const QString target = chosenFile(path);
+    // Told before all the pages are made.
+    const QFileInfo info(target);
+    if (!info.absoluteDir().exists()) throw fileFault(ENOTDIR, info.absolutePath());
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     {

@@ -20,8 +20,9 @@ bool isOfMouse(const QEvent* event) {
            event->type() == QEvent::MouseButtonDblClick || event->type() == QEvent::Wheel;
 }
 
-bool leadsOut(const QWidget* next) {
-    return !next || next->objectName() == u"cmdCancel" || next->objectName() == u"cmdDB";
+bool leadsOut(const QWidget* next, Qt::FocusReason reason) {
+    const bool byTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    return !next || next->objectName() == u"cmdCancel" || (next->objectName() == u"cmdDB" && !byTab);
 }
 
 } // namespace
@@ -41,7 +42,7 @@ bool LeaveCheck::eventFilter(QObject* watched, QEvent* event) {
 // Also hiding and disabling a field move the focus on as the Tab key does.
 void LeaveCheck::left(Qt::FocusReason reason) {
     if (!isPersons(reason) || !field_->isVisible() || !field_->isEnabled()) return;
-    if (leadsOut(QApplication::focusWidget()) || isGood_()) return;
+    if (leadsOut(QApplication::focusWidget(), reason) || isGood_()) return;
     goingBack_ = true;
     qApp->installEventFilter(this);
     QMetaObject::invokeMethod(

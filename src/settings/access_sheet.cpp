@@ -230,15 +230,12 @@ QString accessNameRefusal(const QString& name) {
 void checkAccess(Connection& connection, int code, const QString& name, const AccessSheet& sheet) {
     checkName(connection, code, name);
     bool used = false;
-    for (int row = firstAccessRow; row < sheet.grid.Rows(); ++row) {
-        if (sheet.sectionOf(row).isEmpty()) refuseLostRights(sheet, row);
-        used = used || !sheet.sectionOf(row).isEmpty();
-    }
+    for (int row = firstAccessRow; row < sheet.grid.Rows(); ++row) used = used || !sheet.sectionOf(row).isEmpty();
     if (!used)
         throw Complaint(lines(QStringLiteral("アクセス権を削除する場合は削除ボタンをクリックして下さい。"),
                               QStringLiteral("有効なデータが入力されていません。")));
     for (int row = firstAccessRow; row < sheet.grid.Rows(); ++row)
-        if (!sheet.sectionOf(row).isEmpty()) checkSection(sheet, row);
+        sheet.sectionOf(row).isEmpty() ? refuseLostRights(sheet, row) : checkSection(sheet, row);
 }
 
 int GetNextAccessCode(Connection& connection) {

@@ -16,13 +16,9 @@ frmPassword::frmPassword(Client& client, QWidget* parent)
     dress(QStringLiteral("パスワード変更"));
     for (QLineEdit* const box : {ui_->txtOldPassword, ui_->txtNewPassword, ui_->txtConfirm}) SetImeOpen(box, false);
     checkBoxes();
-    // The window must not jump when they come and go.
-    for (QWidget* const part : {static_cast<QWidget*>(ui_->lblConfirm), static_cast<QWidget*>(ui_->txtConfirm)}) {
-        QSizePolicy policy = part->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        part->setSizePolicy(policy);
-        part->ensurePolished();
-    }
+    // The window must not jump when the confirmation comes and goes.
+    for (QWidget* const part : findChildren<QWidget*>()) part->ensurePolished();
+    setMinimumHeight(sizeHint().height());
     connect(ui_->txtNewPassword, &QLineEdit::textChanged, this, &frmPassword::wantedChanged);
     connect(ui_->txtConfirm, &QLineEdit::textChanged, this,
             [this](const QString& text) { ui_->cmdOK->setEnabled(!text.trimmed().isEmpty()); });

@@ -113,7 +113,7 @@ bool settingAllowed(const Context& context, Connection& connection, Setting sett
 void greetNewSite(const Context& context, Connection& connection) {
     const bool isNew = guarded(context, u"frmLogin", u"Form_Load", false, [&] {
         const QString first = QStringLiteral("ADMIN");
-        return !connection.hasRow(QString::fromUtf16(corp.statement)) && isPasswordOf(connection, first, first);
+        return !connection.hasRow(QString::fromUtf16(staff.statement)) && isPasswordOf(connection, first, first);
     });
     if (!isNew) return;
     context.prompts.inform(

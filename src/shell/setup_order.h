@@ -20,7 +20,7 @@ enum class Setting { Corp, Section, Staff, WorkStyle, WorkTime, Access, User, Ca
 // Whether the screen may open. What has to be set before it is told otherwise.
 [[nodiscard]] bool settingAllowed(const Context& context, Connection& connection, Setting setting);
 
-// Says on a new site how the administrator logs in, as long as the password is the delivered one.
+// Says on a site without people how the administrator logs in, as long as the password is the delivered one.
 void greetNewSite(const Context& context, Connection& connection);
 
 // Whether the card and totals screens may open: the calendar's first month must have more than 30 days. Says so if not.

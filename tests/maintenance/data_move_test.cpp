@@ -86,6 +86,7 @@ TEST_F(DataMove, MovesEachRowOfTheRangeAndRenumbersTheOthers) {
     const Contents before = contentsOf(path);
     for (const bool withMonths : {false, true}) {
         replaceFile(path, whole);
+        QFile::remove(destination + u".old"_q);
         replaceFile(destination, "replaced without a question");
         connection.open(path, databasePassword());
         EXPECT_EQ(run(order(withMonths)), u"OK"_q);

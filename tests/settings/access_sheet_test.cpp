@@ -48,11 +48,12 @@ TEST_F(AccessSheetTest, TheFirstRuleThatFailsIsTold) {
     is(0, QString(16, u'権'), u"アクセス権名称が不正です。アクセス権名称は全角15文字(半角30文字)以内で入力します。"_q);
     is(0, QString(15, u'権'),
        u"アクセス権を削除する場合は削除ボタンをクリックして下さい。\r\n有効なデータが入力されていません。"_q);
-    fillRow(3, {}, {4});
-    is(1, u"所属長"_q,
-       u"2行目で部課が選択されていません。\r\n部課を選択するか、その行のチェックを全て外して下さい。"_q);
     fillRow(3, u"MySection"_q, {4});
     fillRow(5, u"s01"_q, {4});
+    fillRow(4, {}, {4});
+    is(1, u"所属長"_q,
+       u"3行目で部課が選択されていません。\r\n部課を選択するか、その行のチェックを全て外して下さい。"_q);
+    sheet.grid.CellChecked(4, 4, false);
     is(1, u"所属長"_q, {});
     fillRow(9, u"S01"_q, {});
     is(0, u"新任"_q, u"１つの部課に複数のアクセス権が設定されています。"_q);

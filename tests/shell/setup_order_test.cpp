@@ -59,7 +59,7 @@ TEST_F(SetupOrder, ANewSiteIsToldOfItsAdministrator) {
     connection.execute(u"UPDATE M02_StaffInfo SET F_Password = 'other'"_q);
     greetNewSite(desk.context, connection);
     connection.execute(u"UPDATE M02_StaffInfo SET F_Password = 'ADMIN'"_q);
-    connection.execute(u"INSERT INTO C01_Corp (F_Corp) VALUES ('見本')"_q);
+    connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName) VALUES ('1', '山田')"_q);
     greetNewSite(desk.context, connection);
 }
 
