@@ -15,6 +15,9 @@ namespace kurbo {
 // Brings a loaded form to the front; false when it isn't loaded.
 [[nodiscard]] bool activateForm(const QString& name);
 
+// Esc closes the list or the menu that is open, and then the form. An open cell of a grid takes the key itself.
+void wireEscape(QWidget& form);
+
 // Whether a message box or a file dialog is up, that is a modal window which is no form.
 [[nodiscard]] bool isBoxUp();
 

@@ -37,6 +37,8 @@ class ScreenForm : public QMainWindow {
     [[nodiscard]] bool finishEdits() const;
     // The tip of the current cell stands in the status line.
     void tellTips(Grid& grid);
+    // For a grid that has come into view in the place of another one.
+    void showTip(const Grid& grid);
     // For a destructor: the window goes, with the events of its going, before what its controls and grids work on.
     void putAway();
     // Opens the file again that the window works on, if the disk has taken it away; false after a reported failure.

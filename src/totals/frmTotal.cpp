@@ -91,8 +91,8 @@ void frmTotal::print() {
                                {ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText()}};
     if (!checkedMonths(client_.context, heading.start, heading.end)) return;
     guarded(client_.context, u"rptTotal", u"ActiveReport_ReportStart", [&] {
-        showPreview(std::make_unique<rptTotal>(screen_.sheet.grid, heading, client_.context.clock.today()),
-                    client_.context, this);
+        showPreview(std::make_unique<rptTotal>(screen_.sheet.grid, heading, client_.context.clock.today()), client_,
+                    this);
     });
 }
 
