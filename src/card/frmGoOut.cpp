@@ -6,12 +6,12 @@
 #include "paper/frmPreview.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
+#include "screen/open_forms.h"
 #include "screen/show_now.h"
 #include "screen/vfg_copy.h"
 #include "ui_frmGoOut.h"
 
 #include <QCloseEvent>
-#include <QShortcut>
 
 namespace kurbo {
 
@@ -63,7 +63,7 @@ void frmGoOut::connectCommands() {
     connect(ui_->cmdPrint, &QPushButton::clicked, this, &frmGoOut::print);
     connect(ui_->mnuPrint, &QAction::triggered, this, &frmGoOut::print);
     connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    wireEscape(*this);
     connect(ui_->mnuGInsert, &QAction::triggered, this, &frmGoOut::insertRow);
     connect(ui_->mnuGDelete, &QAction::triggered, this, &frmGoOut::deleteRow);
     wireHelp(*this, client_);
@@ -108,7 +108,7 @@ void frmGoOut::print() {
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
     if (!period || !client_.hasConnection(u"frmGoOut")) return;
     auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, section_, staff_, *period);
-    if (report) showPreview(std::move(report), client_.context, this);
+    if (report) showPreview(std::move(report), client_, this);
 }
 
 // The cursor goes to the new row.

@@ -21,8 +21,8 @@ void frmKurbo::print() {
     const CardHeading heading{ui_->mskStart->maskText(), ui_->mskEnd->maskText(), chosenSection(), chosenStaff()};
     if (!checkedPeriod(client_.context, heading.start, heading.end)) return;
     guarded(client_.context, u"rptKurbo", u"ActiveReport_ReportStart", [&] {
-        showPreview(std::make_unique<rptKurbo>(screen_.sheet.grid, heading, client_.context.clock.today()),
-                    client_.context, this);
+        showPreview(std::make_unique<rptKurbo>(screen_.sheet.grid, heading, client_.context.clock.today()), client_,
+                    this);
     });
 }
 
@@ -32,7 +32,7 @@ void frmKurbo::listGoOut() {
         refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細一覧の表示はできません。")))
         return;
     auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, chosenSection(), chosenStaff(), *period);
-    if (report) showPreview(std::move(report), client_.context, this);
+    if (report) showPreview(std::move(report), client_, this);
 }
 
 } // namespace kurbo

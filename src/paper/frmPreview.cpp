@@ -6,6 +6,7 @@
 #include "paper/paper_pdf.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
+#include "screen/open_forms.h"
 #include "screen/show_now.h"
 #include "ui_frmPreview.h"
 
@@ -50,11 +51,11 @@ bool turnsPages(const QKeyEvent& event) {
 
 } // namespace
 
-frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent)
+frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent)
     : QWidget(parent, Qt::Window),
       ui_(std::make_unique<Ui::frmPreview>()),
       document_(std::move(document)),
-      context_(context),
+      client_(client),
       view_(new PageView(*document_)) {
     ui_->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -89,9 +90,8 @@ void frmPreview::connectCommands() {
     connect(ui_->cmdLast, &QPushButton::clicked, this, [this] { showPage(document_->pageCount() - 1); });
     connect(ui_->txtPage, &QSpinBox::valueChanged, this, [this](int page) { showPage(page - 1); });
     connect(ui_->cboZoom, &QComboBox::currentIndexChanged, this, &frmPreview::applyZoom);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { openHelp(context_.prompts, context_.paths.helpPath, *this); });
+    wireEscape(*this);
+    wireHelp(*this, client_);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &frmPreview::print);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, &frmPreview::savePdf);
 }
@@ -239,14 +239,14 @@ void frmPreview::printOn(QPrinter& printer) {
     if (busy_) return;
     const QScopedValueRollback busy(busy_, true);
     printer.setFullPage(true);
-    guarded(context_, u"frmPreview", u"cmdPrint_Click", [&] {
+    guarded(client_.context, u"frmPreview", u"cmdPrint_Click", [&] {
         const Hourglass hourglass;
         const PageRange range = rangeOf(printer);
         const QString file = printer.outputFileName();
         // A printer doesn't tell when the disk under its file is full.
         if (!file.isEmpty())
-            (void)writePdf(*document_, range, printer.pageLayout(), file, context_.progress);
-        else if (!paintPages(printer, *document_, range, context_.progress))
+            (void)writePdf(*document_, range, printer.pageLayout(), file, client_.context.progress);
+        else if (!paintPages(printer, *document_, range, client_.context.progress))
             printer.abort();
     });
 }
@@ -254,12 +254,13 @@ void frmPreview::printOn(QPrinter& printer) {
 void frmPreview::savePdf() {
     if (busy_) return;
     const QScopedValueRollback busy(busy_, true);
-    guarded(context_, u"frmPreview", u"cmdPdf_Click", [&] {
-        const auto path = context_.prompts.saveFile(QStringLiteral("PDFﾌｧｲﾙ(*.pdf)|*.pdf"), QStringLiteral("pdf"),
-                                                    fileName(document_->FileName()) + QStringLiteral(".pdf"));
+    guarded(client_.context, u"frmPreview", u"cmdPdf_Click", [&] {
+        const auto path =
+            client_.context.prompts.saveFile(QStringLiteral("PDFﾌｧｲﾙ(*.pdf)|*.pdf"), QStringLiteral("pdf"),
+                                             fileName(document_->FileName()) + QStringLiteral(".pdf"));
         if (!path) return;
         const Hourglass hourglass;
-        (void)writePdf(*document_, *path, context_.progress);
+        (void)writePdf(*document_, *path, client_.context.progress);
     });
 }
 
@@ -267,9 +268,9 @@ void closePreview(const QWidget* parent) {
     for (frmPreview* const open : parent->findChildren<frmPreview*>(Qt::FindDirectChildrenOnly)) open->close();
 }
 
-void showPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent) {
+void showPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent) {
     closePreview(parent);
-    auto* const preview = new frmPreview(std::move(document), context, parent);
+    auto* const preview = new frmPreview(std::move(document), client, parent);
     preview->show();
     preview->activateWindow();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/guard.h"
 #include "paper/paper_pdf.h"
+#include "store/client.h"
 
 #include <QWidget>
 
@@ -21,7 +21,7 @@ class frmPreview final : public QWidget {
     Q_OBJECT
 
   public:
-    frmPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent);
+    frmPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent);
     ~frmPreview() override;
     frmPreview(const frmPreview&) = delete;
     frmPreview& operator=(const frmPreview&) = delete;
@@ -55,7 +55,7 @@ class frmPreview final : public QWidget {
 
     const std::unique_ptr<Ui::frmPreview> ui_;
     const std::unique_ptr<PaperDocument> document_;
-    Context context_;
+    const Client& client_;
     PageView* view_;
     int page_ = 0;
     bool busy_ = false;
@@ -66,6 +66,6 @@ class frmPreview final : public QWidget {
 // Closes the one that the parent has open.
 void closePreview(const QWidget* parent);
 // Opens the window over its parent, in the place of the one that the parent had open.
-void showPreview(std::unique_ptr<PaperDocument> document, const Context& context, QWidget* parent);
+void showPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent);
 
 } // namespace kurbo

@@ -5,9 +5,10 @@
 
 namespace kurbo {
 
-void PrintGrid(const GridModel& grid, const QString& documentName, const Context& context, QWidget* parent) {
-    guarded(context, u"basGrid", u"PrintGrid", [&] {
-        showPreview(std::make_unique<GridPages>(grid, documentName, slashDate(context.clock.today())), context, parent);
+void PrintGrid(const GridModel& grid, const QString& documentName, const Client& client, QWidget* parent) {
+    guarded(client.context, u"basGrid", u"PrintGrid", [&] {
+        showPreview(std::make_unique<GridPages>(grid, documentName, slashDate(client.context.clock.today())), client,
+                    parent);
     });
 }
 

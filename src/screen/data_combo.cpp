@@ -1,10 +1,27 @@
 #include "screen/data_combo.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QLineEdit>
 #include <QWheelEvent>
+#include <QWindow>
 
 namespace kurbo {
+namespace {
+
+// To the window, which sends the release to the same part.
+void pressAgain(const QMouseEvent& press) {
+    const QPointF place = press.globalPosition();
+    const QWidget* const under = QApplication::widgetAt(place.toPoint());
+    QWindow* const window = under ? under->window()->windowHandle() : nullptr;
+    if (!window) return;
+    QMouseEvent again(press.type(), window->mapFromGlobal(place), place, press.button(), press.buttons(),
+                      press.modifiers());
+    QCoreApplication::sendEvent(window, &again);
+}
+
+} // namespace
 
 DataCombo::DataCombo(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
@@ -14,6 +31,8 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent) {
     matches->setCompletionMode(QCompleter::PopupCompletion);
     matches->setFilterMode(Qt::MatchContains);
     matches->setCaseSensitivity(Qt::CaseInsensitive);
+    matches->popup()->setAttribute(Qt::WA_NoMouseReplay);
+    matches->popup()->installEventFilter(this);
 }
 
 void DataCombo::setEntries(const QList<CodeName>& entries) {
@@ -39,6 +58,17 @@ void DataCombo::setBoundText(const QString& code) {
 // A turn of the wheel over the window must not choose somebody else.
 void DataCombo::wheelEvent(QWheelEvent* event) {
     event->ignore();
+}
+
+// Nobody has opened the list of what matches the typing, and so no click goes into closing it.
+bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
+    QAbstractItemView* const matches = completer()->popup();
+    if (watched != matches || event->type() != QEvent::MouseButtonPress) return QComboBox::eventFilter(watched, event);
+    const auto& press = static_cast<QMouseEvent&>(*event);
+    if (matches->rect().contains(press.position().toPoint())) return false;
+    matches->hide();
+    pressAgain(press);
+    return true;
 }
 
 // Two people can have one name: the entry that was chosen counts, not the first of that name.

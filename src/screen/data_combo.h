@@ -23,6 +23,7 @@ class DataCombo final : public QComboBox {
 
   protected:
     void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     [[nodiscard]] int shownEntry() const;

@@ -1,6 +1,7 @@
 #include "screen/frmHelp.h"
 
 #include "base/product.h"
+#include "screen/open_forms.h"
 #include "screen/show_now.h"
 #include "ui_frmHelp.h"
 
@@ -49,7 +50,7 @@ void frmHelp::connectCommands() {
     onKey(QKeySequence(Qt::ALT | Qt::Key_Left), [text] { text->backward(); });
     onKey(QKeySequence(Qt::ALT | Qt::Key_Right), [text] { text->forward(); });
     onKey(QKeySequence(Qt::ALT | Qt::Key_Home), contents);
-    onKey(Qt::Key_Escape, [this] { close(); });
+    wireEscape(*this);
 }
 
 void frmHelp::showTopic(const QStringList& places) {

@@ -2,13 +2,13 @@
 
 #include "base/files.h"
 #include "base/product.h"
+#include "screen/open_forms.h"
 #include "screen/show_now.h"
 
 #include <QFile>
 #include <QMenuBar>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QShortcut>
 
 namespace kurbo {
 
@@ -39,7 +39,7 @@ void frmListing::dress() {
     QMenu* const file = menuBar()->addMenu(QStringLiteral("ﾌｧｲﾙ(&F)"));
     file->addAction(QStringLiteral("印刷(&P)"), QKeySequence::Print, this, &frmListing::print);
     file->addAction(QStringLiteral("閉じる(&X)"), this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    wireEscape(*this);
 }
 
 void frmListing::print() {

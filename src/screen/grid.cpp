@@ -33,7 +33,9 @@ Grid::Grid(QWidget* parent)
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
     setHorizontalScrollMode(ScrollPerPixel);
-    connect(verticalScrollBar(), &QScrollBar::sliderMoved, this, &Grid::showScrollTip);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (verticalScrollBar()->isSliderDown()) showScrollTip();
+    });
 }
 
 Grid::~Grid() = default;

@@ -48,6 +48,13 @@ void walk(const GridModel& grid, const GridSelection& cells, const Source& sourc
     }
 }
 
+bool mayEditAny(const GridModel& grid, const GridSelection& cells) {
+    for (int row = cells.top; row <= cells.bottom; ++row)
+        for (int column = cells.left; column <= cells.right; ++column)
+            if (!grid.RowHidden(row) && !grid.ColHidden(column) && grid.Editable(row, column)) return true;
+    return false;
+}
+
 bool isFixed(const GridModel& grid, int row, int column) {
     return row < grid.FixedRows() || column < grid.FixedCols();
 }
@@ -101,6 +108,7 @@ GridCopy copiedCells(const GridModel& grid, GridSelection selection) {
 void pasteCells(GridModel& grid, GridSelection selection, const QString& text) {
     const GridSelection cells = withHeadings(grid, selection);
     const Source source = sourceOf(text);
+    if (!mayEditAny(grid, selection)) throw Complaint(QStringLiteral("貼付先が編集不可の設定になっています。"));
     const Undrawn undrawn(grid);
     walk(grid, cells, source, [&](int row, int column, const QString& field) {
         if (!isFixed(grid, row, column) && !fits(grid.ColDataType(column), field))

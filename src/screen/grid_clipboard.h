@@ -27,7 +27,7 @@ struct GridCopy {
 // Writes text of that form, also with other line ends, over the selection: no more than the selection and no more than
 // the text. Hidden rows and columns take no field; fixed cells and cells that may not be edited take one and stay as
 // they are. A row with fewer fields than the first goes on with those of the next one. Throws a Complaint, and changes
-// nothing, when a field doesn't fit its column's type.
+// nothing, when no cell of the selection may be edited or a field doesn't fit its column's type.
 void pasteCells(GridModel& grid, GridSelection selection, const QString& text);
 
 // Empties the cells that may be edited.

@@ -85,7 +85,6 @@ QString withoutSigns(QString text, const QString& mask) {
 
 QWidget* dropDown(QWidget* parent, const GridList& list) {
     auto* const combo = new QComboBox(parent);
-    combo->setFrame(false);
     combo->setEditable(list.isOpen());
     combo->setInsertPolicy(QComboBox::NoInsert);
     if (list.isOpen()) {
@@ -128,12 +127,15 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
 }
 
-QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const {
     const GridRules* const rules = grid_->rules();
     const QString offered = rules->comboList(index.row(), index.column());
     const GridList list = offered.isEmpty() ? grid_->ColComboList(index.column()) : GridList(offered);
     editor_ = list.isEmpty() ? textField(parent, grid_->ColEditMask(index.column())) : dropDown(parent, list);
+    // A style sheet keeps a list's field from taking the font of what holds it.
+    for (QWidget* const part : {editor_.data(), static_cast<QWidget*>(editorOf(editor_))})
+        if (part) part->setFont(option.font);
     cell_ = index;
     SetImeOpen(editor_, rules->isJapanese(index.column()));
     if (const auto* const combo = qobject_cast<QComboBox*>(editor_.data())) {
@@ -175,8 +177,9 @@ void GridDelegate::setModelData(QWidget* /*editor*/, QAbstractItemModel* /*model
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex& /*index*/) const {
     QRect place = option.rect;
-    // A word of the list fits beside its arrow.
-    if (qobject_cast<const QComboBox*>(editor)) place.setWidth(std::max(place.width(), editor->sizeHint().width()));
+    // A word of the list fits beside its arrow and within its frame.
+    if (qobject_cast<const QComboBox*>(editor)) place.setSize(place.size().expandedTo(editor->sizeHint()));
+    place.moveCenter({place.center().x(), option.rect.center().y()});
     place.moveRight(std::min(place.right(), editor->parentWidget()->width() - 1));
     editor->setGeometry(place);
 }

@@ -7,6 +7,8 @@
 #include <QFocusEvent>
 #include <QValidator>
 
+#include <utility>
+
 namespace kurbo {
 namespace {
 
@@ -78,6 +80,17 @@ void MaskedBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
+        selectAll();
+    entering_ = reason == Qt::MouseFocusReason;
+}
+
+// The first click takes what stands there, unless it is drawn over a part of it; later ones choose a place.
+void MaskedBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    const bool first = std::exchange(entering_, false);
+    if (isBlank())
+        setCursorPosition(0);
+    else if (first && !hasSelectedText())
         selectAll();
 }
 

@@ -10,6 +10,7 @@ namespace kurbo {
 class LeaveCheck;
 
 // A box with a fixed form for a date "yyyy/mm/dd", a month "yyyy/mm" or a time "hh:mm", into which digits are typed.
+// The click or the key that brings the focus selects all of it.
 class MaskedBox final : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(Kind kind READ kind WRITE setKind)
@@ -40,10 +41,13 @@ class MaskedBox final : public QLineEdit {
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     Kind kind_ = Date;
     LeaveCheck* check_ = nullptr;
+    // The click that is under way has brought the focus.
+    bool entering_ = false;
 };
 
 } // namespace kurbo

@@ -1,6 +1,8 @@
 #include "screen/open_forms.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QShortcut>
 
 #include <algorithm>
 #include <array>
@@ -22,6 +24,17 @@ QWidget* loadedForm(const QString& name) {
     });
     return found == windows.end() ? nullptr : *found;
 }
+
+// The toolkit closes a list while it asks who wants the key, and then finds nobody but the form.
+class ListsFirst final : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride || !QApplication::activePopupWidget()) return false;
+        event->setAccepted(static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape);
+        return event->isAccepted();
+    }
+};
 
 } // namespace
 
@@ -52,6 +65,11 @@ void bringToFront(QWidget& form) {
     form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
     form.raise();
     form.activateWindow();
+}
+
+void wireEscape(QWidget& form) {
+    qApp->installEventFilter(new ListsFirst(&form));
+    QObject::connect(new QShortcut(Qt::Key_Escape, &form), &QShortcut::activated, &form, &QWidget::close);
 }
 
 bool isBoxUp() {

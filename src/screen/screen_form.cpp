@@ -4,13 +4,13 @@
 #include "screen/grid.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
+#include "screen/open_forms.h"
 
 #include <QLabel>
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -33,7 +33,7 @@ void ScreenForm::dress(const QString& title) {
 }
 
 void ScreenForm::dressKeys() {
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    wireEscape(*this);
     for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
     if (auto* const mnuClose = findChild<QAction*>(QStringLiteral("mnuClose")))
         connect(mnuClose, &QAction::triggered, this, &QWidget::close);
@@ -79,10 +79,12 @@ void ScreenForm::tellTips(Grid& grid) {
         lblTip_ = new QLabel(this);
         statusBar()->addWidget(lblTip_, 1);
     }
-    connect(&grid, &Grid::AfterRowColChange, lblTip_, [tip = lblTip_, &grid](int, int, int row, int column) {
-        const GridRules* const rules = grid.grid()->rules();
-        tip->setText(rules && row >= 0 ? rules->tip(row, column) : QString());
-    });
+    connect(&grid, &Grid::AfterRowColChange, lblTip_, [this, &grid] { showTip(grid); });
+}
+
+void ScreenForm::showTip(const Grid& grid) {
+    const GridRules* const rules = grid.grid()->rules();
+    lblTip_->setText(rules && grid.Row() >= 0 ? rules->tip(grid.Row(), grid.Col()) : QString());
 }
 
 void ScreenForm::tellRefusals(Grid& grid) {

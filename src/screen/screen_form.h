@@ -41,6 +41,8 @@ class ScreenForm : public QMainWindow {
     void tellRefusals(Grid& grid);
     // The title and the status line name the file that is shown instead of what is stored; empty for none.
     void tellFile(const QString& name);
+    // For a grid that has come into view in the place of another one.
+    void showTip(const Grid& grid);
     // For a destructor: the window goes, with the events of its going, before what its controls and grids work on.
     void putAway();
     // Opens the file again that the window works on, if the disk has taken it away; false after a reported failure.

@@ -24,10 +24,7 @@ QString clipboardText() {
 
 void paste(Grid& grid, const QString& givenText) {
     const QString clipped = clipboardText();
-    GridModel& cells = *grid.grid();
-    if (!cells.Editable(grid.Row(), grid.Col()))
-        throw Complaint(QStringLiteral("貼付先が編集不可の設定になっています。"));
-    pasteCells(cells, grid.GetSelection(), givenText.isEmpty() ? clipped : givenText);
+    pasteCells(*grid.grid(), grid.GetSelection(), givenText.isEmpty() ? clipped : givenText);
 }
 
 // Of the grids on several pages that share a menu, the one in view.

@@ -98,8 +98,8 @@ void frmAccess::deleteRight() {
 }
 
 void frmAccess::printRight() {
-    PrintGrid(sheet_.grid, QStringLiteral("%1－アクセス権設定(%2)").arg(productName(), ui_->txtAccess->text()),
-              client_.context, this);
+    PrintGrid(sheet_.grid, QStringLiteral("%1－アクセス権設定(%2)").arg(productName(), ui_->txtAccess->text()), client_,
+              this);
 }
 
 } // namespace kurbo

@@ -71,7 +71,7 @@ void frmCalendar::updateCalendar() {
 
 void frmCalendar::print() {
     PrintGrid(calendar_.sheet.grid, productName() + QStringLiteral("－カレンダー設定(%1年)").arg(calendar_.sheet.year),
-              client_.context, this);
+              client_, this);
 }
 
 // Works on the cells of this window, which waits until it is closed.

@@ -184,6 +184,7 @@ void frmWorkTime::pageChosen(int index) {
     if (finishEdits()) {
         shown_ = index;
         statusBar()->clearMessage();
+        showTip(*shownPage().vfgTimes);
         return setChanged(isChanged());
     }
     const QSignalBlocker quiet(ui_->tabTime);
@@ -230,7 +231,7 @@ void frmWorkTime::removeRecord(Page& page) {
 void frmWorkTime::printRecord(const Page& page) {
     const QString document =
         QStringLiteral("%1－%2(%3)").arg(productName(), subjectOf(page.sheet.page), page.txtName->text());
-    PrintGrid(page.sheet.grid, document, client_.context, this);
+    PrintGrid(page.sheet.grid, document, client_, this);
 }
 
 // Each page with changes is brought to view and asked for.

@@ -8,8 +8,6 @@
 #include "shell/screens.h"
 #include "ui_frmLogin.h"
 
-#include <QShortcut>
-
 namespace kurbo {
 
 void frmLogin::connectButtons() {
@@ -21,7 +19,7 @@ void frmLogin::connectButtons() {
     connect(ui_->cmdLeave, &QPushButton::clicked, this, [this] { press(Punch::Leave); });
     connect(ui_->cmdKurbo, &QPushButton::clicked, this, [this] { openCard(QStringLiteral("frmKurbo")); });
     connect(ui_->cmdTotal, &QPushButton::clicked, this, [this] { openCard(QStringLiteral("frmTotal")); });
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    wireEscape(*this);
 }
 
 void frmLogin::connectMenus() {

@@ -3,6 +3,7 @@
 #include "base/product.h"
 #include "screen/help.h"
 #include "screen/hourglass.h"
+#include "screen/open_forms.h"
 #include "screen/show_now.h"
 #include "totals/csv_exchange.h"
 #include "totals/csv_review.h"
@@ -13,7 +14,6 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QToolTip>
 
 namespace kurbo {
@@ -44,12 +44,11 @@ frmCsv::frmCsv(Client& client, int countUnit, QWidget* parent)
     setWindowTitle(productName() + QStringLiteral("－CSV呼出"));
     ui_->vfgCsv->setGrid(cells_, client_.context);
     ui_->vfgCsv->horizontalHeader()->viewport()->installEventFilter(this);
-    for (const auto& [button, action, body] : {std::tuple{ui_->cmdAddDB, ui_->mnuAddDB, &frmCsv::addToDatabase},
-                                               {ui_->cmdCancel, ui_->mnuCancel, &frmCsv::cancel}}) {
-        connect(button, &QPushButton::clicked, this, body);
-        connect(action, &QAction::triggered, this, body);
-    }
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &frmCsv::cancel);
+    connect(ui_->cmdAddDB, &QPushButton::clicked, this, &frmCsv::addToDatabase);
+    connect(ui_->mnuAddDB, &QAction::triggered, this, &frmCsv::addToDatabase);
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &QWidget::close);
+    connect(ui_->mnuCancel, &QAction::triggered, this, &QWidget::close);
+    wireEscape(*this);
     wireHelp(*this, client_);
     fillScreen(this, {1300, 640});
 }
@@ -82,12 +81,6 @@ bool frmCsv::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-// While months are entered this asks for a stop; else the window goes.
-void frmCsv::cancel() {
-    stop_ = adding_;
-    if (!adding_) close();
-}
-
 bool frmCsv::takeStop() {
     QCoreApplication::processEvents();
     return std::exchange(stop_, false);
@@ -115,6 +108,7 @@ void frmCsv::addToDatabase() {
     hide();
 }
 
+// While months are entered this asks for a stop.
 void frmCsv::closeEvent(QCloseEvent* event) {
     stop_ = adding_;
     event->setAccepted(!adding_);

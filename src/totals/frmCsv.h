@@ -33,7 +33,6 @@ class frmCsv final : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void cancel();
     void addToDatabase();
     // Looks at the screen between two months, and whether a stop was asked for since.
     [[nodiscard]] bool takeStop();

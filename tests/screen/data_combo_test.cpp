@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCompleter>
 #include <QLineEdit>
 #include <QTest>
@@ -36,15 +37,22 @@ TEST(DataCombo, TellsPeopleOfOneNameApart) {
     EXPECT_EQ(combo.currentText(), u"Sato");
 }
 
-TEST(DataCombo, LeavesTheTextToThePerson) {
-    DataCombo combo;
+TEST(DataCombo, LeavesTheTextAndTheClicksToThePerson) {
+    QWidget form;
+    DataCombo combo(&form);
+    QLineEdit next(&form);
+    next.move(0, 200);
     combo.setEntries(people);
-    combo.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&combo));
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     combo.setFocus();
     QTest::keyClicks(&combo, QStringLiteral("Su"));
     EXPECT_EQ(combo.currentText(), u"Su");
     EXPECT_EQ(combo.completer()->completionCount(), 1);
+    QWidget* const list = QApplication::activePopupWidget();
+    QTest::mouseClick(list, Qt::LeftButton, {}, list->mapFromGlobal(next.mapToGlobal(QPoint(5, 5))));
+    EXPECT_TRUE(next.hasFocus()) << "the click went into closing the list";
+    combo.setFocus();
     QTest::keyClick(&combo, Qt::Key_Return);
     EXPECT_EQ(combo.count(), 3) << "typed text was inserted";
     QWheelEvent turn({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -95,8 +95,16 @@ TEST_F(MaskedBoxes, ShowADayAndTakeAnotherOverIt) {
     type(u"20270312"_q);
     EXPECT_EQ(box.maskText(), u"2027/03/12"_q) << "the text was not selected";
     box.setKind(MaskedBox::Month);
-    box.setDay(*makeDay(2026, 12, 31));
-    EXPECT_EQ(box.maskText(), u"2026/12"_q);
+    box.setDay(*makeDay(2026, 11, 30));
+    click(next);
+    click(box);
+    EXPECT_EQ(box.selectedText(), u"2026/11"_q) << "the first click takes all";
+    click(box);
+    EXPECT_FALSE(box.hasSelectedText());
+    box.clear();
+    click(box);
+    type(u"202608"_q);
+    EXPECT_EQ(box.maskText(), u"2026/08"_q);
 }
 
 TEST_F(MaskedBoxes, HoldThePersonWhileTheTextIsBad) {

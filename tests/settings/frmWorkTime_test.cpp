@@ -7,7 +7,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QPointer>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -89,6 +91,10 @@ TEST_F(FrmWorkTime, TimesAreTypedRefusedAndStored) {
     of<QPushButton>("cmdUpdateWeekday").click();
     EXPECT_EQ(of<DataList>("dtsWeekday").boundText() + of<DataList>("dtsWeekday").text(), u"2夜勤"_q);
     type(2, 3, u"0100"_q);
+    const auto* const tip = form->statusBar()->findChild<QLabel*>();
+    EXPECT_TRUE(tip->text().contains(u"の時間帯を設定します"_q));
+    of<QTabWidget>("tabTime").setCurrentIndex(Adjust);
+    EXPECT_EQ(tip->text(), QString());
     of<QTabWidget>("tabTime").setCurrentIndex(Holiday);
     const QString close = u"平日勤務時間設定は変更されています。変更を破棄しますか？"_q;
     desk.prompts.expect(close, Answer::No).expect(close, Answer::Yes);

@@ -31,6 +31,7 @@ TEST_F(FrmCorp, IsTypedRefusedStoredAndPrinted) {
     EXPECT_TRUE(of<QWidget>("txtBranch").hasFocus());
     type("txtBranch", u"大阪'%支店"_q);
     type("cboPref", u"大阪府"_q);
+    QApplication::activePopupWidget()->hide();
     type("txtCorp", u" "_q);
     desk.prompts.expect(u"会社名が入力されていません。"_q);
     trigger("mnuUpdate");

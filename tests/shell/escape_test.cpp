@@ -1,0 +1,49 @@
+#include "card/card_office.h"
+#include "card/frmKurbo.h"
+#include "settings/frmAsign.h"
+#include "settings/frmCalendar.h"
+#include "settings/frmStaff.h"
+#include "shell/frmLogin.h"
+#include "support/typing.h"
+#include "totals/frmTotal.h"
+
+namespace kurbo::test {
+
+// The list that is open goes, and its form stays.
+static void leaveList(const QWidget& form, const QWidget& field) {
+    EXPECT_TRUE(QApplication::activePopupWidget());
+    QTest::keyClick(form.windowHandle(), Qt::Key_Escape);
+    EXPECT_TRUE(form.isVisible() && !QApplication::activePopupWidget()) << form.objectName() << field.objectName();
+}
+
+TEST_F(CardOffice, EscClosesAListBeforeItsWindow) {
+    logIn(u"1002"_q);
+    const auto leaveLists = []<typename Form>(Form* window) {
+        const std::unique_ptr<Form> form(window);
+        form->load();
+        form->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        for (auto* const grid : form->template findChildren<Grid*>()) {
+            for (int column = 1; column < 4 && !grid->template findChild<QComboBox*>(); ++column) {
+                grid->Select(grid->Row(), column);
+                QTest::keyClick(grid, Qt::Key_F2);
+            }
+        }
+        for (auto* const combo : form->template findChildren<QComboBox*>()) {
+            if (!combo->isVisible() || !combo->isEnabled() || combo->count() == 0) continue;
+            combo->showPopup();
+            leaveList(*form, *combo);
+            if (!combo->isEditable() || !combo->completer()) continue;
+            typeInto(combo, combo->itemText(0).left(1));
+            leaveList(*form, *combo);
+        }
+    };
+    leaveLists(new frmLogin(client));
+    leaveLists(new frmKurbo(client));
+    leaveLists(new frmTotal(client));
+    leaveLists(new frmAsign(client));
+    leaveLists(new frmStaff(client));
+    leaveLists(new frmCalendar(client));
+}
+
+} // namespace kurbo::test
