@@ -2,7 +2,7 @@
 
 #include "base/guard.h"
 #include "store/connection.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 
 #include <QTemporaryDir>
 

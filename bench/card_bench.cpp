@@ -4,7 +4,7 @@
 #include "bare_card.h"
 
 #include "card/card_cells.h"
-#include "engine/loaders.h"
+#include "month/loaders.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,8 +4,8 @@
 #include "bare_card.h"
 
 #include "card/frmKurbo.h"
-#include "screen/data_combo.h"
-#include "screen/grid.h"
+#include "screen/fields/data_combo.h"
+#include "screen/grid/grid.h"
 #include "shell/application.h"
 
 #include <QApplication>

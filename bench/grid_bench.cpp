@@ -3,7 +3,7 @@
 
 #include "bench_company.h"
 
-#include "screen/grid.h"
+#include "screen/grid/grid.h"
 #include "shell/application.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "demo/demo_company.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 
 #include <QDir>
 #include <QFile>

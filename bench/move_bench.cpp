@@ -6,7 +6,7 @@
 
 #include "demo/demo_company.h"
 #include "maintenance/data_move.h"
-#include "store/optimize_db.h"
+#include "store/file/optimize_db.h"
 
 #include <QDir>
 #include <QFile>

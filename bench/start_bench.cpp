@@ -3,7 +3,7 @@
 
 #include "bench_company.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "demo/demo_company.h"
 #include "shell/application.h"
 #include "shell/start.h"

@@ -4,7 +4,7 @@
 #include "bench_company.h"
 
 #include "card/card_grid.h"
-#include "card/card_update.h"
+#include "card/edit/card_update.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 #include "base/error_log.h"
 
-#include "base/code_page.h"
-#include "base/files.h"
+#include "base/system/code_page.h"
+#include "base/system/files.h"
 
 #include <fcntl.h>
 

@@ -2,9 +2,9 @@
 
 #include "base/clock.h"
 #include "base/failure.h"
-#include "base/paths.h"
 #include "base/progress.h"
 #include "base/prompts.h"
+#include "base/system/paths.h"
 
 #include <QStringView>
 

@@ -1,7 +1,7 @@
 #include "base/public_holidays.h"
 
-#include "base/code_page.h"
 #include "base/csv_line.h"
+#include "base/system/code_page.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "card/card_cells.h"
 
-#include "card/month_fields.h"
+#include "month/month_fields.h"
 #include "store/readers.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/guard.h"
-#include "card/card_days.h"
 #include "engine/hours.h"
+#include "month/card_days.h"
 #include "store/connection.h"
 
 #include <QStringList>

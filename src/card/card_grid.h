@@ -1,7 +1,7 @@
 #pragma once
 
 #include "card/card_cells.h"
-#include "screen/grid_model.h"
+#include "screen/grid/grid_model.h"
 
 namespace kurbo {
 

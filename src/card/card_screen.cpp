@@ -1,9 +1,9 @@
 #include "card/card_screen.h"
 
-#include "card/card_checks.h"
 #include "card/card_grid.h"
-#include "card/card_update.h"
-#include "engine/loaders.h"
+#include "card/edit/card_checks.h"
+#include "card/edit/card_update.h"
+#include "month/loaders.h"
 #include "store/section_switch.h"
 
 namespace kurbo {

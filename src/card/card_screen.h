@@ -1,7 +1,7 @@
 #pragma once
 
-#include "card/card_rules.h"
 #include "card/card_sheet.h"
+#include "card/edit/card_rules.h"
 #include "engine/hours.h"
 #include "store/client.h"
 #include "store/readers.h"

@@ -1,10 +1,10 @@
 // Card files on the card's screen.
 
 #include "card/card_cells.h"
-#include "card/card_checks.h"
 #include "card/card_screen.h"
-#include "screen/foreign_file.h"
-#include "screen/sheet_file.h"
+#include "card/edit/card_checks.h"
+#include "screen/files/foreign_file.h"
+#include "screen/files/sheet_file.h"
 #include "store/section_switch.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
-#include "card/card_checks.h"
 #include "card/card_grid.h"
 #include "card/card_screen.h"
-#include "card/month_fields.h"
+#include "card/edit/card_checks.h"
 #include "card/monthly.h"
+#include "month/month_fields.h"
 
 #include <algorithm>
 

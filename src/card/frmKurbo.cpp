@@ -2,10 +2,10 @@
 
 #include "card/card_cells.h"
 #include "card/card_grid.h"
-#include "card/frmGoOut.h"
-#include "screen/fields.h"
-#include "screen/show_now.h"
-#include "screen/vfg_copy.h"
+#include "card/outings/frmGoOut.h"
+#include "screen/fields/fields.h"
+#include "screen/grid/vfg_copy.h"
+#include "screen/windows/show_now.h"
 #include "ui_frmKurbo.h"
 
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "card/card_screen.h"
-#include "screen/screen_form.h"
+#include "screen/windows/screen_form.h"
 
 #include <array>
 #include <memory>

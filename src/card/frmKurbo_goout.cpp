@@ -1,11 +1,11 @@
 // The outings beside the card.
 
-#include "card/card_checks.h"
 #include "card/card_grid.h"
-#include "card/frmGoOut.h"
+#include "card/edit/card_checks.h"
 #include "card/frmKurbo.h"
-#include "screen/open_forms.h"
-#include "screen/show_now.h"
+#include "card/outings/frmGoOut.h"
+#include "screen/windows/open_forms.h"
+#include "screen/windows/show_now.h"
 #include "ui_frmKurbo.h"
 
 #include <QScopedValueRollback>

@@ -1,8 +1,8 @@
 // The card and the list of its outings on paper.
 
-#include "card/card_checks.h"
+#include "card/edit/card_checks.h"
 #include "card/frmKurbo.h"
-#include "card/rptGoOut.h"
+#include "card/outings/rptGoOut.h"
 #include "card/rptKurbo.h"
 #include "paper/frmPreview.h"
 #include "ui_frmKurbo.h"

@@ -1,7 +1,7 @@
 #include "card/monthly.h"
 
 #include "card/card_grid.h"
-#include "card/month_fields.h"
+#include "month/month_fields.h"
 #include "store/record_set.h"
 
 namespace kurbo {

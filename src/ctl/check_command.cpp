@@ -1,7 +1,7 @@
 #include "ctl/commands.h"
 #include "ctl/console.h"
 #include "ctl/options.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 
 namespace kurbo {
 namespace {

@@ -1,7 +1,7 @@
 #include "ctl/commands.h"
 #include "ctl/console.h"
-#include "store/database_file.h"
-#include "store/optimize_db.h"
+#include "store/file/database_file.h"
+#include "store/file/optimize_db.h"
 
 namespace kurbo {
 namespace {

@@ -1,10 +1,10 @@
-#include "base/files.h"
+#include "base/system/files.h"
 #include "ctl/commands.h"
 #include "ctl/console.h"
 #include "ctl/questions.h"
-#include "store/database_file.h"
-#include "totals/csv_exchange.h"
-#include "totals/csv_file.h"
+#include "store/file/database_file.h"
+#include "totals/csv/csv_exchange.h"
+#include "totals/csv/csv_file.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 #include "ctl/console.h"
 #include "demo/demo_company.h"
 #include "store/connection.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 
 #include <QFile>
 

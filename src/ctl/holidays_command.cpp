@@ -1,5 +1,5 @@
-#include "base/files.h"
 #include "base/public_holidays.h"
+#include "base/system/files.h"
 #include "ctl/commands.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "ctl/commands.h"
 #include "ctl/console.h"
 #include "punch/punch_clock.h"
-#include "shell/login.h"
+#include "session/login.h"
 
 #include <QFile>
 

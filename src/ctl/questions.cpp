@@ -1,6 +1,6 @@
 #include "ctl/questions.h"
 
-#include "engine/loaders.h"
+#include "month/loaders.h"
 
 namespace kurbo {
 namespace {

@@ -1,6 +1,6 @@
 #include "ctl/result_output.h"
 
-#include "base/code_page.h"
+#include "base/system/code_page.h"
 #include "ctl/console.h"
 
 #include <QJsonArray>

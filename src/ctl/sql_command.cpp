@@ -2,9 +2,9 @@
 #include "ctl/console.h"
 #include "ctl/result_output.h"
 #include "store/connection.h"
-#include "store/database_file.h"
-#include "store/dialect.h"
-#include "store/dialect_lexer.h"
+#include "store/dialect/dialect.h"
+#include "store/dialect/dialect_lexer.h"
+#include "store/file/database_file.h"
 
 #include <QFile>
 #include <QStringDecoder>

@@ -2,7 +2,7 @@
 #include "ctl/console.h"
 #include "ctl/questions.h"
 #include "ctl/result_output.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "totals/total_lines.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "demo/demo_people.h"
 
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #include "maintenance/data_move.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "maintenance/days_moved.h"
 #include "maintenance/move_bar.h"
-#include "store/database_copy.h"
-#include "store/database_file.h"
-#include "store/optimize_db.h"
+#include "store/file/database_copy.h"
+#include "store/file/database_file.h"
+#include "store/file/optimize_db.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/day.h"
-#include "store/bulk_change.h"
+#include "store/file/bulk_change.h"
 
 namespace kurbo {
 

@@ -1,6 +1,6 @@
 #include "maintenance/frmDeleteDest.h"
 
-#include "screen/show_now.h"
+#include "screen/windows/show_now.h"
 #include "ui_frmDeleteDest.h"
 
 #include <QItemSelectionModel>

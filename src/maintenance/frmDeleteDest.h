@@ -1,7 +1,7 @@
 #pragma once
 
 #include "maintenance/destinations.h"
-#include "screen/screen_form.h"
+#include "screen/windows/screen_form.h"
 
 #include <memory>
 

@@ -1,9 +1,9 @@
 #include "maintenance/frmMaintainance.h"
 
 #include "maintenance/data_move.h"
-#include "screen/fields.h"
-#include "screen/leave_check.h"
-#include "screen/show_now.h"
+#include "screen/fields/fields.h"
+#include "screen/fields/leave_check.h"
+#include "screen/windows/show_now.h"
 #include "ui_frmMaintainance.h"
 
 namespace kurbo {

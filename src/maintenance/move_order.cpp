@@ -1,6 +1,6 @@
 #include "maintenance/move_order.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "engine/hours.h"
 #include "maintenance/move_place.h"
 #include "store/readers.h"

@@ -1,7 +1,7 @@
 #include "maintenance/move_place.h"
 
-#include "base/files.h"
-#include "store/lock_file.h"
+#include "base/system/files.h"
+#include "store/file/lock_file.h"
 
 #include <QDir>
 #include <QFile>

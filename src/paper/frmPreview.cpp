@@ -1,13 +1,13 @@
 #include "paper/frmPreview.h"
 
-#include "base/files.h"
 #include "base/product.h"
+#include "base/system/files.h"
 #include "paper/page_view.h"
 #include "paper/paper_pdf.h"
-#include "screen/help.h"
-#include "screen/hourglass.h"
-#include "screen/open_forms.h"
-#include "screen/show_now.h"
+#include "screen/windows/help.h"
+#include "screen/windows/hourglass.h"
+#include "screen/windows/open_forms.h"
+#include "screen/windows/show_now.h"
 #include "ui_frmPreview.h"
 
 #include <QCloseEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/grid_model.h"
+#include "screen/grid/grid_model.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "paper/paper_pdf.h"
 
 #include "base/failure.h"
-#include "base/files.h"
 #include "base/product.h"
+#include "base/system/files.h"
 #include "paper/paper_painter.h"
 #include "paper/pdf_letters.h"
 

@@ -1,6 +1,6 @@
 #include "settings/listing.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 
 namespace kurbo {
 

@@ -1,9 +1,9 @@
 #include "settings/settings_form.h"
 
-#include "screen/fields.h"
-#include "screen/grid.h"
-#include "screen/hourglass.h"
-#include "screen/masked_box.h"
+#include "screen/fields/fields.h"
+#include "screen/fields/masked_box.h"
+#include "screen/grid/grid.h"
+#include "screen/windows/hourglass.h"
 
 #include <QAbstractButton>
 #include <QAction>

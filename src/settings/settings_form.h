@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screen/leave_check.h"
-#include "screen/screen_form.h"
+#include "screen/fields/leave_check.h"
+#include "screen/windows/screen_form.h"
 #include "settings/settings_steps.h"
 
 #include <QLineEdit>

@@ -1,11 +1,11 @@
 #include "shell/frmLogin.h"
 
 #include "base/product.h"
-#include "screen/fields.h"
-#include "screen/hourglass.h"
-#include "screen/open_forms.h"
+#include "screen/fields/fields.h"
+#include "screen/windows/hourglass.h"
+#include "screen/windows/open_forms.h"
+#include "session/shutdown.h"
 #include "shell/frmSplash.h"
-#include "shell/shutdown.h"
 #include "store/readers.h"
 #include "ui_frmLogin.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "punch/punch_clock.h"
-#include "shell/login.h"
-#include "shell/setup_order.h"
+#include "session/login.h"
+#include "session/setup_order.h"
 #include "store/client.h"
 
 #include <QMainWindow>

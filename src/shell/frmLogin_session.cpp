@@ -1,5 +1,5 @@
-#include "screen/fields.h"
-#include "screen/open_forms.h"
+#include "screen/fields/fields.h"
+#include "screen/windows/open_forms.h"
 #include "shell/frmLogin.h"
 #include "store/readers.h"
 #include "ui_frmLogin.h"

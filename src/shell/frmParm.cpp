@@ -1,10 +1,10 @@
 #include "shell/frmParm.h"
 
 #include "base/product.h"
-#include "screen/fields.h"
-#include "screen/help.h"
-#include "screen/hourglass.h"
-#include "shell/choose_database.h"
+#include "screen/fields/fields.h"
+#include "screen/windows/help.h"
+#include "screen/windows/hourglass.h"
+#include "session/choose_database.h"
 #include "ui_frmParm.h"
 
 #include <QDir>

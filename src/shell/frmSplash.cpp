@@ -1,8 +1,8 @@
 #include "shell/frmSplash.h"
 
 #include "base/product.h"
-#include "screen/legal.h"
-#include "screen/show_now.h"
+#include "screen/windows/legal.h"
+#include "screen/windows/show_now.h"
 #include "shell/application.h"
 #include "ui_frmSplash.h"
 

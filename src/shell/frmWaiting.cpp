@@ -1,7 +1,7 @@
 #include "shell/frmWaiting.h"
 
 #include "base/product.h"
-#include "screen/show_now.h"
+#include "screen/windows/show_now.h"
 #include "ui_frmWaiting.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "base/paths.h"
+#include "base/system/paths.h"
 #include "shell/application.h"
 #include "shell/start.h"
 

@@ -1,6 +1,6 @@
 #include "shell/single_instance.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 
 #include <QCryptographicHash>
 #include <QDir>

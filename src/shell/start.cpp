@@ -1,13 +1,13 @@
 #include "shell/start.h"
 
-#include "screen/box_prompts.h"
-#include "screen/hourglass.h"
-#include "shell/delivery.h"
+#include "screen/windows/box_prompts.h"
+#include "screen/windows/hourglass.h"
+#include "session/delivery.h"
+#include "session/main_order.h"
 #include "shell/frmLogin.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWaiting.h"
-#include "shell/main_order.h"
 #include "shell/single_instance.h"
 #include "shell/wait_box.h"
 

@@ -1,9 +1,9 @@
 #include "store/connection.h"
 
-#include "store/dialect.h"
+#include "store/dialect/dialect.h"
+#include "store/dialect/sql_functions.h"
 #include "store/engine_fault.h"
 #include "store/schema.h"
-#include "store/sql_functions.h"
 #include "store/text_order.h"
 
 #include <sqlite3.h>

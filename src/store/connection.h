@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/lock_file.h"
+#include "store/file/lock_file.h"
 #include "store/rows.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #include "store/readers.h"
 
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "store/record_set.h"
 
 namespace kurbo {

@@ -1,6 +1,6 @@
 #include "store/record_set.h"
 
-#include "store/criterion.h"
+#include "store/dialect/criterion.h"
 #include "store/engine_fault.h"
 #include "store/schema.h"
 

@@ -1,8 +1,8 @@
 #include "store/section_switch.h"
 
 #include "base/failure.h"
-#include "base/files.h"
-#include "store/database_file.h"
+#include "base/system/files.h"
+#include "store/file/database_file.h"
 #include "store/readers.h"
 
 namespace kurbo {

@@ -1,12 +1,12 @@
 #include "totals/frmTotal.h"
 
 #include "paper/frmPreview.h"
-#include "screen/fields.h"
-#include "screen/leave_check.h"
-#include "screen/show_now.h"
-#include "screen/vfg_copy.h"
-#include "totals/csv_file.h"
-#include "totals/frmCsv.h"
+#include "screen/fields/fields.h"
+#include "screen/fields/leave_check.h"
+#include "screen/grid/vfg_copy.h"
+#include "screen/windows/show_now.h"
+#include "totals/csv/csv_file.h"
+#include "totals/csv/frmCsv.h"
 #include "totals/rptTotal.h"
 #include "ui_frmTotal.h"
 

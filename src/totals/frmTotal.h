@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/screen_form.h"
+#include "screen/windows/screen_form.h"
 #include "totals/total_screen.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "totals/total_rules.h"
 
-#include "card/card_entries.h"
+#include "card/edit/card_entries.h"
 #include "totals/totals.h"
 
 namespace kurbo {

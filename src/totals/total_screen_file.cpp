@@ -1,10 +1,10 @@
 // Card files and CSV files on the screen of the totals.
 
-#include "screen/foreign_file.h"
-#include "screen/sheet_file.h"
+#include "screen/files/foreign_file.h"
+#include "screen/files/sheet_file.h"
 #include "store/section_switch.h"
-#include "totals/csv_exchange.h"
-#include "totals/csv_file.h"
+#include "totals/csv/csv_exchange.h"
+#include "totals/csv/csv_file.h"
 #include "totals/total_screen.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "totals/total_update.h"
 
-#include "card/card_entries.h"
-#include "card/month_fields.h"
-#include "screen/field_tests.h"
+#include "card/edit/card_entries.h"
+#include "month/month_fields.h"
+#include "screen/fields/field_tests.h"
 #include "store/record_set.h"
 #include "totals/totals.h"
 

@@ -1,9 +1,9 @@
 #include "totals/totals.h"
 
 #include "card/card_cells.h"
-#include "engine/loaders.h"
-#include "totals/month_pass.h"
-#include "totals/people_rules.h"
+#include "month/loaders.h"
+#include "month/month_pass.h"
+#include "month/people_rules.h"
 #include "totals/total_records.h"
 
 #include <algorithm>

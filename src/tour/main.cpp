@@ -1,10 +1,10 @@
 // Plays a working day on a demo company of its own and leaves its pictures and its reports in a folder.
 
 #include "demo/demo_company.h"
+#include "session/delivery.h"
 #include "shell/application.h"
-#include "shell/delivery.h"
 #include "shell/frmWaiting.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "tour/working_day.h"
 
 #include <QDir>

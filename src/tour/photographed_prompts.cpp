@@ -1,6 +1,6 @@
 #include "tour/photographed_prompts.h"
 
-#include "screen/frmListing.h"
+#include "screen/windows/frmListing.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/box_prompts.h"
+#include "screen/windows/box_prompts.h"
 #include "tour/camera.h"
 
 namespace kurbo {

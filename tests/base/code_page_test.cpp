@@ -1,4 +1,4 @@
-#include "base/code_page.h"
+#include "base/system/code_page.h"
 #include "support/desk.h"
 
 namespace kurbo::test {

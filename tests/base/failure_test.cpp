@@ -1,6 +1,6 @@
-#include "base/code_page.h"
 #include "base/error_log.h"
-#include "base/files.h"
+#include "base/system/code_page.h"
+#include "base/system/files.h"
 #include "support/desk.h"
 
 #include <QFile>

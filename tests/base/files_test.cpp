@@ -1,4 +1,4 @@
-#include "base/files.h"
+#include "base/system/files.h"
 #include "support/desk.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "card/card_cells.h"
 
-#include "engine/loaders.h"
+#include "month/loaders.h"
 #include "support/sample_company.h"
 
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "card/card_checks.h"
+#include "card/edit/card_checks.h"
 
 #include "card/sheet.h"
 #include "support/told_prompts.h"

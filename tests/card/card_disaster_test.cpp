@@ -1,7 +1,7 @@
-#include "card/card_update.h"
+#include "card/edit/card_update.h"
 #include "card/monthly.h"
 #include "card/sheet.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "support/disaster.h"
 #include "support/sample_company.h"
 

@@ -2,8 +2,8 @@
 #include "card/card_grid.h"
 #include "card/card_office.h"
 #include "card/card_screen.h"
-#include "screen/archive.h"
-#include "screen/sheet_file.h"
+#include "screen/files/archive.h"
+#include "screen/files/sheet_file.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "store/client.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "support/sample_company.h"
 
 namespace kurbo::test {

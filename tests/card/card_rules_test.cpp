@@ -1,4 +1,4 @@
-#include "card/card_rules.h"
+#include "card/edit/card_rules.h"
 
 #include "card/card_cells.h"
 #include "card/card_grid.h"

@@ -1,4 +1,4 @@
-#include "card/card_times.h"
+#include "card/edit/card_times.h"
 
 #include "support/desk.h"
 

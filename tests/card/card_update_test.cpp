@@ -1,9 +1,9 @@
-#include "card/card_update.h"
+#include "card/edit/card_update.h"
 
 #include "card/card_cells.h"
 #include "card/sheet.h"
-#include "engine/loaders.h"
-#include "store/database_file.h"
+#include "month/loaders.h"
+#include "store/file/database_file.h"
 #include "support/collisions.h"
 
 namespace kurbo::test {

@@ -4,9 +4,9 @@
 #include "card/card_grid.h"
 #include "card/card_office.h"
 #include "card/frmKurbo.h"
-#include "screen/data_combo.h"
-#include "screen/grid.h"
-#include "screen/masked_box.h"
+#include "screen/fields/data_combo.h"
+#include "screen/fields/masked_box.h"
+#include "screen/grid/grid.h"
 
 #include <QAction>
 #include <QApplication>

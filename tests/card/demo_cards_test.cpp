@@ -1,7 +1,7 @@
 #include "card/card_cells.h"
 #include "demo/demo_company.h"
-#include "engine/loaders.h"
-#include "store/database_file.h"
+#include "month/loaders.h"
+#include "store/file/database_file.h"
 #include "support/sample_company.h"
 
 #include <QRegularExpression>

@@ -1,12 +1,12 @@
-#include "card/frmGoOut.h"
+#include "card/outings/frmGoOut.h"
 
 #include "card/card_grid.h"
 #include "card/card_office.h"
 #include "card/frmKurbo.h"
 #include "paper/frmPreview.h"
-#include "screen/data_combo.h"
-#include "screen/grid.h"
-#include "screen/masked_box.h"
+#include "screen/fields/data_combo.h"
+#include "screen/fields/masked_box.h"
+#include "screen/grid/grid.h"
 
 #include <QAction>
 #include <QApplication>

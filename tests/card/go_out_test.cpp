@@ -1,8 +1,8 @@
-#include "card/go_out.h"
+#include "card/outings/go_out.h"
 
 #include "card/card_office.h"
-#include "card/go_out_store.h"
-#include "screen/grid_clipboard.h"
+#include "card/outings/go_out_store.h"
+#include "screen/grid/grid_clipboard.h"
 #include "support/child.h"
 #include "support/told_prompts.h"
 

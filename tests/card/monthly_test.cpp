@@ -2,8 +2,8 @@
 
 #include "card/card_office.h"
 #include "card/card_screen.h"
-#include "card/month_fields.h"
 #include "card/sheet.h"
+#include "month/month_fields.h"
 
 namespace kurbo::test {
 namespace {

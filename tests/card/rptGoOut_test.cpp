@@ -1,4 +1,4 @@
-#include "card/rptGoOut.h"
+#include "card/outings/rptGoOut.h"
 
 #include "paper/paper_texts.h"
 #include "support/sample_company.h"

@@ -1,5 +1,5 @@
-#include "base/files.h"
-#include "store/database_file.h"
+#include "base/system/files.h"
+#include "store/file/database_file.h"
 #include "support/kurboctl.h"
 #include "support/sample_company.h"
 

@@ -1,4 +1,4 @@
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "support/kurboctl.h"
 #include "support/sample_company.h"
 

@@ -1,9 +1,9 @@
 #include "demo/demo_company.h"
 
-#include "base/code_page.h"
 #include "base/failure.h"
+#include "base/system/code_page.h"
 #include "demo/demo_people.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "store/schema.h"
 
 #include <QMap>

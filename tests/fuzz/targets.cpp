@@ -1,9 +1,9 @@
 #include "fuzz/targets.h"
 
 #include "base/failure.h"
-#include "screen/archive.h"
-#include "screen/grid_file.h"
-#include "totals/csv_record.h"
+#include "screen/files/archive.h"
+#include "screen/files/grid_file.h"
+#include "totals/csv/csv_record.h"
 
 #include <QFile>
 #include <QTemporaryDir>

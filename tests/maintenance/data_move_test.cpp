@@ -1,9 +1,9 @@
 #include "maintenance/data_move.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "maintenance/old_days.h"
 #include "store/engine_fault.h"
-#include "store/lock_file.h"
+#include "store/file/lock_file.h"
 #include "support/disaster.h"
 
 #include <sqlite3.h>

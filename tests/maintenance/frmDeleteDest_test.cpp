@@ -1,7 +1,7 @@
 #include "maintenance/frmDeleteDest.h"
 
 #include "maintenance/purge_office.h"
-#include "screen/grid.h"
+#include "screen/grid/grid.h"
 
 #include <QAction>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #include "maintenance/frmMaintainance.h"
 
 #include "maintenance/old_days.h"
-#include "screen/masked_box.h"
+#include "screen/fields/masked_box.h"
 
 #include <QLabel>
 #include <QPointer>

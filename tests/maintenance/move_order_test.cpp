@@ -1,6 +1,6 @@
 #include "maintenance/move_order.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "maintenance/old_days.h"
 
 #include <QDir>

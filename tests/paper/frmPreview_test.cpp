@@ -1,6 +1,6 @@
 #include "paper/frmPreview.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "paper/grid_print.h"
 #include "support/desk.h"
 

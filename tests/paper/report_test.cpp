@@ -1,6 +1,6 @@
 #include "paper/report_design.h"
 
-#include "base/code_page.h"
+#include "base/system/code_page.h"
 #include "paper/paper_texts.h"
 
 namespace kurbo::test {

@@ -1,7 +1,7 @@
 #include "punch/record.h"
 
-#include "base/code_page.h"
-#include "base/files.h"
+#include "base/system/code_page.h"
+#include "base/system/files.h"
 #include "support/collisions.h"
 
 namespace kurbo::test {

@@ -1,7 +1,7 @@
-#include "screen/archive.h"
 #include "screen/damage.h"
+#include "screen/files/archive.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 
 #include <QDir>
 

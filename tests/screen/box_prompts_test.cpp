@@ -1,4 +1,4 @@
-#include "screen/box_prompts.h"
+#include "screen/windows/box_prompts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "screen/data_combo.h"
+#include "screen/fields/data_combo.h"
 
 #include <gtest/gtest.h>
 

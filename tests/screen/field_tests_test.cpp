@@ -1,5 +1,5 @@
-#include "screen/field_tests.h"
-#include "screen/prefectures.h"
+#include "screen/fields/field_tests.h"
+#include "screen/fields/prefectures.h"
 #include "support/desk.h"
 
 #include <QSet>

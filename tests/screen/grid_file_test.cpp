@@ -1,7 +1,7 @@
 #include "screen/damage.h"
-#include "screen/grid_file.h"
+#include "screen/files/grid_file.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 
 namespace kurbo::test {
 namespace {

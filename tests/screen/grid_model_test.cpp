@@ -1,4 +1,4 @@
-#include "screen/grid_clipboard.h"
+#include "screen/grid/grid_clipboard.h"
 #include "support/desk.h"
 
 #include "base/failure.h"

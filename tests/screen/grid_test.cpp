@@ -1,6 +1,6 @@
-#include "screen/grid.h"
+#include "screen/grid/grid.h"
 
-#include "screen/vfg_copy.h"
+#include "screen/grid/vfg_copy.h"
 #include "support/desk.h"
 
 #include <QAbstractItemView>

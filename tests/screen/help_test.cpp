@@ -1,4 +1,4 @@
-#include "screen/help.h"
+#include "screen/windows/help.h"
 #include "support/desk.h"
 
 #include <QDirIterator>

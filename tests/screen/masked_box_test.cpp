@@ -1,6 +1,6 @@
-#include "screen/fields.h"
-#include "screen/leave_check.h"
-#include "screen/masked_box.h"
+#include "screen/fields/fields.h"
+#include "screen/fields/leave_check.h"
+#include "screen/fields/masked_box.h"
 #include "support/desk.h"
 
 #include <QApplication>

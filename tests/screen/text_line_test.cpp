@@ -1,7 +1,7 @@
 #include "screen/damage.h"
-#include "screen/text_line.h"
+#include "screen/grid/text_line.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 
 namespace kurbo::test {
 

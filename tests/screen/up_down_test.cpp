@@ -1,5 +1,5 @@
-#include "screen/fields.h"
-#include "screen/up_down.h"
+#include "screen/fields/fields.h"
+#include "screen/fields/up_down.h"
 #include "support/desk.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "settings/access_sheet.h"
+#include "settings/people/access_sheet.h"
 
 #include "base/failure.h"
 #include "support/sample_company.h"

@@ -1,7 +1,7 @@
-#include "settings/calendar.h"
+#include "settings/calendar/calendar.h"
 
-#include "settings/calendar_store.h"
-#include "store/database_file.h"
+#include "settings/calendar/calendar_store.h"
+#include "store/file/database_file.h"
 #include "support/child.h"
 #include "support/sample_company.h"
 

@@ -1,7 +1,7 @@
-#include "settings/frmAccess.h"
+#include "settings/people/frmAccess.h"
 
-#include "screen/data_list.h"
-#include "screen/grid.h"
+#include "screen/fields/data_list.h"
+#include "screen/grid/grid.h"
 #include "settings/settings_window.h"
 
 namespace kurbo::test {

@@ -1,8 +1,8 @@
-#include "settings/frmAsign.h"
+#include "settings/people/frmAsign.h"
 
-#include "screen/data_combo.h"
-#include "screen/data_list.h"
-#include "screen/open_forms.h"
+#include "screen/fields/data_combo.h"
+#include "screen/fields/data_list.h"
+#include "screen/windows/open_forms.h"
 #include "settings/settings_window.h"
 
 #include <QTabWidget>

@@ -1,7 +1,7 @@
-#include "settings/frmCalendar.h"
+#include "settings/calendar/frmCalendar.h"
 
-#include "screen/grid.h"
-#include "settings/frmHoliday.h"
+#include "screen/grid/grid.h"
+#include "settings/calendar/frmHoliday.h"
 #include "settings/settings_window.h"
 #include "support/typing.h"
 

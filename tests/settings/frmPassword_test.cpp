@@ -1,4 +1,4 @@
-#include "settings/frmPassword.h"
+#include "settings/people/frmPassword.h"
 
 #include "settings/settings_window.h"
 

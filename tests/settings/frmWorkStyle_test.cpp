@@ -1,4 +1,4 @@
-#include "settings/frmWorkStyle.h"
+#include "settings/work_style/frmWorkStyle.h"
 
 #include "settings/settings_window.h"
 

@@ -1,9 +1,9 @@
-#include "settings/frmWorkTime.h"
+#include "settings/work_time/frmWorkTime.h"
 
-#include "screen/data_list.h"
-#include "screen/grid.h"
-#include "settings/day_chart.h"
+#include "screen/fields/data_list.h"
+#include "screen/grid/grid.h"
 #include "settings/times.h"
+#include "settings/work_time/day_chart.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
-#include "base/code_page.h"
-#include "base/files.h"
 #include "base/public_holidays.h"
-#include "settings/holiday_sheet.h"
+#include "base/system/code_page.h"
+#include "base/system/files.h"
+#include "settings/calendar/holiday_sheet.h"
 #include "support/desk.h"
 
 namespace kurbo::test {

@@ -1,9 +1,9 @@
-#include "screen/data_combo.h"
-#include "screen/data_list.h"
-#include "screen/masked_box.h"
-#include "settings/frmCorp.h"
-#include "settings/frmSection.h"
-#include "settings/frmStaff.h"
+#include "screen/fields/data_combo.h"
+#include "screen/fields/data_list.h"
+#include "screen/fields/masked_box.h"
+#include "settings/records/frmCorp.h"
+#include "settings/records/frmSection.h"
+#include "settings/records/frmStaff.h"
 #include "settings/settings_window.h"
 
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "settings/password.h"
+#include "settings/people/password.h"
 #include "settings/records.h"
 
 namespace kurbo::test {

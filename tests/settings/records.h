@@ -1,8 +1,8 @@
 #pragma once
 
-#include "settings/corp.h"
-#include "settings/section.h"
-#include "settings/staff.h"
+#include "settings/records/corp.h"
+#include "settings/records/section.h"
+#include "settings/records/staff.h"
 #include "store/engine_fault.h"
 #include "support/sample_company.h"
 

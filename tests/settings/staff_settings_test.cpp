@@ -1,7 +1,7 @@
-#include "settings/staff_settings.h"
+#include "settings/people/staff_settings.h"
 
 #include "base/failure.h"
-#include "engine/loaders.h"
+#include "month/loaders.h"
 #include "support/sample_company.h"
 
 #include <functional>

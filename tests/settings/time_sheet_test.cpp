@@ -1,9 +1,9 @@
-#include "settings/time_sheet.h"
+#include "settings/work_time/time_sheet.h"
 
-#include "screen/grid_clipboard.h"
-#include "settings/time_chart.h"
-#include "settings/time_checks.h"
+#include "screen/grid/grid_clipboard.h"
 #include "settings/times.h"
+#include "settings/work_time/time_chart.h"
+#include "settings/work_time/time_checks.h"
 
 namespace kurbo::test {
 namespace {

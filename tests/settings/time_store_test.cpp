@@ -1,4 +1,4 @@
-#include "settings/time_store.h"
+#include "settings/work_time/time_store.h"
 
 #include "card/card_cells.h"
 #include "settings/times.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/loaders.h"
-#include "settings/time_store.h"
+#include "month/loaders.h"
+#include "settings/work_time/time_store.h"
 #include "support/sample_company.h"
 
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include "settings/work_style.h"
+#include "settings/work_style/work_style.h"
 
 #include "base/failure.h"
 #include "settings/listing.h"

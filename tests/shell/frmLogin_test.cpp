@@ -1,7 +1,7 @@
 #include "shell/frmLogin.h"
 
-#include "screen/data_combo.h"
-#include "screen/open_forms.h"
+#include "screen/fields/data_combo.h"
+#include "screen/windows/open_forms.h"
 #include "shell/office.h"
 
 #include <QAction>

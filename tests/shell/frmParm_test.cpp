@@ -1,6 +1,6 @@
 #include "shell/frmParm.h"
 
-#include "base/files.h"
+#include "base/system/files.h"
 #include "shell/office.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "store/client.h"
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "support/scripted_prompts.h"
 
 #include <gtest/gtest.h>

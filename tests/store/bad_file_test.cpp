@@ -1,8 +1,8 @@
-#include "base/files.h"
+#include "base/system/files.h"
 #include "store/connection.h"
-#include "store/database_file.h"
 #include "store/engine_fault.h"
-#include "store/is_db_ok.h"
+#include "store/file/database_file.h"
+#include "store/file/is_db_ok.h"
 #include "store/schema.h"
 #include "support/sample_company.h"
 

@@ -1,8 +1,8 @@
 #include "store/connection.h"
 
-#include "base/files.h"
-#include "store/database_file.h"
+#include "base/system/files.h"
 #include "store/engine_fault.h"
+#include "store/file/database_file.h"
 #include "support/sample_company.h"
 
 #include <sqlite3.h>

@@ -1,6 +1,6 @@
-#include "store/dialect.h"
+#include "store/dialect/dialect.h"
 
-#include "store/dialect_lexer.h"
+#include "store/dialect/dialect_lexer.h"
 #include "store/engine_fault.h"
 #include "store/text_order.h"
 #include "support/sample_company.h"

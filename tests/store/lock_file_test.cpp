@@ -1,9 +1,9 @@
-#include "store/lock_file.h"
+#include "store/file/lock_file.h"
 
 #include "base/error_log.h"
 #include "base/failure.h"
-#include "base/files.h"
-#include "store/is_db_ok.h"
+#include "base/system/files.h"
+#include "store/file/is_db_ok.h"
 #include "support/desk.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "store/optimize_db.h"
+#include "store/file/optimize_db.h"
 
-#include "base/files.h"
-#include "store/database_file.h"
+#include "base/system/files.h"
+#include "store/file/database_file.h"
 #include "support/child.h"
 #include "support/sample_company.h"
 

@@ -1,6 +1,6 @@
 #include "store/quoted_statements.h"
 
-#include "store/criterion.h"
+#include "store/dialect/criterion.h"
 #include "store/record_set.h"
 #include "support/sample_company.h"
 

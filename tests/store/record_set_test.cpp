@@ -1,7 +1,7 @@
 #include "store/record_set.h"
 
-#include "store/database_file.h"
 #include "store/engine_fault.h"
+#include "store/file/database_file.h"
 #include "support/sample_company.h"
 
 namespace kurbo::test {

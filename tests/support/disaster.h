@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "support/child.h"
 #include "support/desk.h"
 #include "support/told_prompts.h"

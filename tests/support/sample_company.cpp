@@ -1,6 +1,6 @@
 #include "support/sample_company.h"
 
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 
 namespace kurbo::test {
 namespace {

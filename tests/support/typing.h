@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screen/fields.h"
-#include "screen/grid.h"
+#include "screen/fields/fields.h"
+#include "screen/grid/grid.h"
 
 #include <QApplication>
 #include <QTest>

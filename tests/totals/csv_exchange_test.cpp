@@ -1,6 +1,6 @@
-#include "totals/csv_exchange.h"
+#include "totals/csv/csv_exchange.h"
 
-#include "store/database_file.h"
+#include "store/file/database_file.h"
 #include "support/child.h"
 #include "support/sample_company.h"
 #include "support/told_prompts.h"

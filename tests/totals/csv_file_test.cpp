@@ -1,7 +1,7 @@
-#include "totals/csv_file.h"
+#include "totals/csv/csv_file.h"
 
-#include "base/file_lock.h"
-#include "base/files.h"
+#include "base/system/file_lock.h"
+#include "base/system/files.h"
 #include "totals/months.h"
 
 #include <QDir>

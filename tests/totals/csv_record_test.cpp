@@ -1,6 +1,6 @@
-#include "totals/csv_record.h"
+#include "totals/csv/csv_record.h"
 
-#include "base/code_page.h"
+#include "base/system/code_page.h"
 #include "totals/months.h"
 
 namespace kurbo::test {

@@ -2,10 +2,10 @@
 
 #include "card/card_office.h"
 #include "paper/frmPreview.h"
-#include "screen/data_combo.h"
-#include "screen/grid.h"
-#include "screen/masked_box.h"
-#include "totals/csv_file.h"
+#include "screen/fields/data_combo.h"
+#include "screen/fields/masked_box.h"
+#include "screen/grid/grid.h"
+#include "totals/csv/csv_file.h"
 
 #include <QAction>
 #include <QApplication>

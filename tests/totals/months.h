@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/desk.h"
-#include "totals/csv_record.h"
+#include "totals/csv/csv_record.h"
 
 namespace kurbo::test {
 

@@ -1,0 +1,223 @@
+#include "totals/csv/csv_record.h"
+
+#include "base/csv_line.h"
+#include "base/day.h"
+#include "base/failure.h"
+#include "base/system/code_page.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace kurbo {
+namespace {
+
+enum class Form { Code, Year, Month, Count, Minutes, Balance, Days, Mark, Term };
+
+// A figure has neither member.
+struct Field {
+    const char16_t* title;
+    Form form;
+    QString MonthRecord::*text = nullptr;
+    bool MonthRecord::*mark = nullptr;
+};
+
+constexpr std::array fields{
+    Field{u"社員ｺｰﾄﾞ", Form::Code, &MonthRecord::staff},
+    Field{u"部課ｺｰﾄﾞ", Form::Code, &MonthRecord::section},
+    Field{u"年", Form::Year, &MonthRecord::year},
+    Field{u"月", Form::Month, &MonthRecord::month},
+    Field{u"出勤日数", Form::Count},
+    Field{u"実働時間", Form::Minutes},
+    Field{u"有給残数", Form::Balance},
+    Field{u"法内残業", Form::Minutes},
+    Field{u"普通残業", Form::Minutes},
+    Field{u"深夜残業", Form::Minutes},
+    Field{u"早出勤務", Form::Minutes},
+    Field{u"休日出勤", Form::Minutes},
+    Field{u"休日深夜", Form::Minutes},
+    Field{u"法休出勤", Form::Minutes},
+    Field{u"法休深夜", Form::Minutes},
+    Field{u"欠勤時間", Form::Minutes},
+    Field{u"有給", Form::Days},
+    Field{u"特休", Form::Days},
+    Field{u"代休", Form::Days},
+    Field{u"欠勤", Form::Count},
+    Field{u"遅刻", Form::Count},
+    Field{u"早退", Form::Count},
+    Field{u"本人", Form::Mark, nullptr, &MonthRecord::personalApproval},
+    Field{u"所長", Form::Mark, nullptr, &MonthRecord::superiorApproval},
+    Field{u"集計期間", Form::Term, &MonthRecord::term},
+};
+constexpr std::size_t firstFigure = 4;
+constexpr int maxCodeLength = 10;         // bytes
+constexpr int maxNumberLength = 60;       // the longest single without an exponent is shorter
+constexpr qsizetype maxLineLength = 1024; // bytes
+
+QString singleText(double number) {
+    std::array<char, maxNumberLength> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<float>(number),
+                                            std::chars_format::fixed);
+    return error == std::errc() ? QString::fromLatin1(digits.data(), end - digits.data()) : QString();
+}
+
+std::optional<Value> singleOfText(const QString& text) {
+    const auto isSign = [](QChar sign) { return (sign >= u'0' && sign <= u'9') || sign == u'.' || sign == u'-'; };
+    if (text.size() > maxNumberLength || !std::ranges::all_of(text, isSign)) return {};
+    const QByteArray digits = text.toLatin1();
+    float number = 0;
+    const char* const last = digits.constData() + digits.size();
+    const auto [end, error] = std::from_chars(digits.constData(), last, number, std::chars_format::fixed);
+    if (error != std::errc() || end != last || !std::isfinite(number)) return {};
+    return static_cast<double>(number);
+}
+
+// Only in the one way in which it is written.
+std::optional<Value> wholeOfText(const QString& text, int low, int high) {
+    const int number = text.toInt();
+    if (number < low || number > high || QString::number(number) != text) return {};
+    return number;
+}
+
+std::optional<Value> figureOfText(Form form, const QString& text) {
+    if (form == Form::Count)
+        return wholeOfText(text, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max());
+    if (form == Form::Minutes)
+        return wholeOfText(text, std::numeric_limits<Minutes>::min(), std::numeric_limits<Minutes>::max());
+    return singleOfText(text);
+}
+
+bool isTerm(const QString& text) {
+    constexpr qsizetype dateLength = 10;
+    const auto from = parseSlashDate(text.left(dateLength));
+    const auto to = parseSlashDate(text.mid(dateLength + 1));
+    return from && to && *from <= *to && slashDate(*from) + u'-' + slashDate(*to) == text;
+}
+
+bool isText(Form form, const QString& text) {
+    switch (form) {
+    case Form::Code:
+        return !text.isEmpty() && text == text.trimmed() && byteLength(text) <= maxCodeLength;
+    case Form::Year:
+        return parseDateId(text + QStringLiteral("0101")).has_value();
+    case Form::Month:
+        return parseDateId(QStringLiteral("2000") + text + QStringLiteral("01")).has_value();
+    default:
+        return text.isEmpty() || isTerm(text);
+    }
+}
+
+std::optional<bool> markOf(const QString& text) {
+    const QString lower = text.toLower();
+    if (lower == u"true" || lower == u"-1") return true;
+    if (lower == u"false" || lower == u"0") return false;
+    return {};
+}
+
+// Text fields stand in quotes, the one number without them, unless it takes the place of an empty cell.
+bool isQuotedRight(Form form, const CsvCell& cell) {
+    if (form != Form::Balance) return cell.quoted;
+    return !cell.quoted || cell.text == u"0";
+}
+
+// Puts a cell into its place; false when it isn't of the field's form.
+bool put(MonthRecord& record, std::size_t place, const CsvCell& cell) {
+    const Field& field = fields[place];
+    if (!isQuotedRight(field.form, cell)) return false;
+    const auto isForeign = [](QChar sign) {
+        return sign == QChar::ReplacementCharacter || sign.category() == QChar::Other_Control;
+    };
+    if (std::ranges::any_of(cell.text, isForeign)) return false;
+    if (field.text) {
+        record.*field.text = cell.text;
+        return isText(field.form, cell.text);
+    }
+    if (field.mark) {
+        const auto mark = markOf(cell.text);
+        record.*field.mark = mark.value_or(false);
+        return mark.has_value();
+    }
+    const auto figure = figureOfText(field.form, cell.text);
+    record.figures[place - firstFigure] = figure.value_or(Value());
+    return figure.has_value();
+}
+
+// Gives what is at fault, the field or the line as a whole; the empty text when all is well.
+QString readLine(const QByteArray& bytes, MonthRecord& record) {
+    if (bytes.size() > maxLineLength) return QStringLiteral("行の長さ");
+    CsvLine line(fromCodePage(bytes));
+    for (std::size_t place = 0; place < fields.size(); ++place) {
+        const auto cell = line.next();
+        if (!cell || !put(record, place, *cell)) return QString::fromUtf16(fields[place].title);
+    }
+    return line.atEnd() ? QString() : QStringLiteral("項目数");
+}
+
+QString cellText(const MonthRecord& record, std::size_t place) {
+    const Field& field = fields[place];
+    if (field.text) return csvQuoted(record.*field.text);
+    if (field.mark) return csvQuoted(record.*field.mark ? QStringLiteral("True") : QStringLiteral("False"));
+    const Value& figure = record.figures[place - firstFigure];
+    if (figure.isNull()) return csvQuoted(QStringLiteral("0"));
+    if (field.form == Form::Balance) return singleText(figure.real());
+    return csvQuoted(field.form == Form::Days ? singleText(figure.real()) : QString::number(figure.integer()));
+}
+
+[[noreturn]] void refuseToWrite(const MonthRecord& record, const QString& why) {
+    throw Complaint(lines(QStringLiteral("CSVﾌｧｲﾙに保存できないデータがあります。"),
+                          QStringLiteral("社員ｺｰﾄﾞ：") + record.staff,
+                          QStringLiteral("年月：") + record.year + u'/' + record.month, why));
+}
+
+bool comesBack(const QString& text) {
+    const auto bytes = toCodePage(text);
+    return bytes && fromCodePage(*bytes) == text;
+}
+
+QString firstForeign(const QString& text) {
+    for (const char32_t character : text.toUcs4()) {
+        const QString one = QString::fromUcs4(&character, 1);
+        if (!comesBack(one)) return one;
+    }
+    return {};
+}
+
+QByteArray writtenLine(const MonthRecord& record) {
+    QStringList cells;
+    for (std::size_t place = 0; place < fields.size(); ++place) cells.append(cellText(record, place));
+    const QString line = cells.join(u',');
+    if (!comesBack(line)) refuseToWrite(record, QStringLiteral("使用できない文字：") + firstForeign(line));
+    const QByteArray bytes = toCodePage(line).value_or(QByteArray());
+    MonthRecord reread;
+    const QString wrong = readLine(bytes, reread);
+    if (!wrong.isEmpty()) refuseToWrite(record, QStringLiteral("項目：") + wrong);
+    return bytes;
+}
+
+} // namespace
+
+QByteArray csvBytes(const QList<MonthRecord>& months) {
+    QByteArray bytes;
+    for (const MonthRecord& month : months) bytes += writtenLine(month) + "\r\n";
+    return bytes;
+}
+
+QList<MonthRecord> readCsv(const QByteArray& bytes, const QString& file) {
+    QList<MonthRecord> months;
+    for (qsizetype from = 0; from < bytes.size();) {
+        const qsizetype feed = bytes.indexOf('\n', from);
+        const qsizetype end = feed < 0 ? bytes.size() : feed;
+        QByteArray line = bytes.mid(from, end - from);
+        if (line.endsWith('\r')) line.chop(1);
+        months.append(MonthRecord());
+        const QString wrong = readLine(line, months.last());
+        if (!wrong.isEmpty())
+            throw Complaint(lines(QStringLiteral("データ形式に誤りがあります。"), QStringLiteral("ﾌｧｲﾙ名：") + file,
+                                  QStringLiteral("行：") + QString::number(months.size()),
+                                  QStringLiteral("項目：") + wrong));
+        from = end + 1;
+    }
+    return months;
+}
+
+} // namespace kurbo

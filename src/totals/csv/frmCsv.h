@@ -1,0 +1,50 @@
+#pragma once
+
+#include "screen/grid/grid_model.h"
+#include "store/client.h"
+#include "totals/csv/csv_file.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace kurbo {
+
+namespace Ui {
+class frmCsv;
+}
+
+// Months out of CSV files, looked at before they are entered in the database.
+class frmCsv final : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    // `countUnit` 0 shows decimal hours, 1 h:mm.
+    frmCsv(Client& client, int countUnit, QWidget* parent);
+    ~frmCsv() override;
+    frmCsv(const frmCsv&) = delete;
+    frmCsv& operator=(const frmCsv&) = delete;
+
+    // Shows the months of the files until the person closes the window; true when they went into the database.
+    [[nodiscard]] bool run(const QStringList& files);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void addToDatabase();
+    // Looks at the screen between two months, and whether a stop was asked for since.
+    [[nodiscard]] bool takeStop();
+
+    const std::unique_ptr<Ui::frmCsv> ui_;
+    Client& client_;
+    int countUnit_;
+    GridModel cells_;
+    QList<LoadedMonth> months_;
+    bool adding_ = false;
+    bool stop_ = false;
+    bool added_ = false;
+};
+
+} // namespace kurbo
