@@ -1,5 +1,3 @@
-#include "screen/fields/fields.h"
-#include "screen/fields/leave_check.h"
 #include "screen/fields/masked_box.h"
 #include "support/desk.h"
 
@@ -162,17 +160,6 @@ TEST_F(MaskedBoxes, LetGoOfWhoDoesNotLeaveForAField) {
     QTest::keyClick(&box, Qt::Key_Tab);
     form.close();
     QCoreApplication::processEvents();
-}
-
-TEST_F(MaskedBoxes, AnyFieldCanBeCheckedOnLeaving) {
-    const auto isGood = [this] { return next.text().isEmpty() || next.text() == u"right"_q; };
-    new LeaveCheck(&next, isGood, [this] { RefusePassword(prompts, next, QString()); });
-    next.setFocus();
-    QTest::keyClicks(&next, u"wrong"_q);
-    prompts.expect(u"不正なパスワードです。正しいパスワードを入力して下さい。"_q);
-    pressTab();
-    EXPECT_TRUE(next.hasFocus());
-    EXPECT_EQ(next.text(), QString());
 }
 
 } // namespace kurbo::test

@@ -139,7 +139,6 @@ TEST_F(FrmWorkTime, APasteGoesToTheGridInViewAndNotIntoNavyCells) {
     press(Qt::Key_V, Qt::ControlModifier);
     grid().selectionModel()->select({grid().model()->index(4, 1), grid().model()->index(4, 3)},
                                     QItemSelectionModel::ClearAndSelect);
-    grid().selectionModel()->setCurrentIndex(grid().model()->index(4, 1), QItemSelectionModel::NoUpdate);
     of<QAction>("mnuGPaste").trigger();
     EXPECT_EQ(cell(4, 1) + cell(4, 2) + cell(4, 3), u"18:0020:00"_q);
     EXPECT_EQ(of<Grid>("vfgHoliday").grid()->TextMatrix(2, 1), QString());

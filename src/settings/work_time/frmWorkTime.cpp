@@ -14,7 +14,6 @@
 #include "ui_frmWorkTime.h"
 
 #include <QSignalBlocker>
-#include <QStatusBar>
 
 namespace kurbo {
 namespace {
@@ -101,7 +100,7 @@ void frmWorkTime::readAll() {
     if (!exists(shownPage().sheet.page, style_)) shown_ = 0;
     ui_->tabTime->setCurrentIndex(shown_);
     shownPage().dtsList->setFocus();
-    statusBar()->clearMessage();
+    showTip(*shownPage().vfgTimes);
 }
 
 // The other pages keep their numbers where one is missing.
@@ -183,7 +182,6 @@ void frmWorkTime::pageChosen(int index) {
     if (blnShowing_) return;
     if (finishEdits()) {
         shown_ = index;
-        statusBar()->clearMessage();
         showTip(*shownPage().vfgTimes);
         return setChanged(isChanged());
     }
