@@ -1,6 +1,7 @@
 #include "ctl/commands.h"
 #include "ctl/console.h"
 #include "maintenance/data_move.h"
+#include "store/file/database_file.h"
 
 #include <QFileInfo>
 
@@ -29,11 +30,21 @@ MoveOrder orderOf(const Options& options) {
     return order;
 }
 
+// Nobody is asked here, so what people still need moves only when told so.
+void refuseRunning(const Options& options, const MoveOrder& order, Day today) {
+    if (options.has(QStringLiteral("running")) || !QFileInfo::exists(options.place(0))) return;
+    Connection connection;
+    connection.openAlone(options.place(0), databasePassword());
+    const QString text = runningDaysText(connection, order, today);
+    if (!text.isEmpty()) throw Complaint(lines(text, QStringLiteral("移動するには --running を指定して下さい。")));
+}
+
 Exit runMove(const Options& options) {
     const MoveOrder order = orderOf(options);
     const Console console(options);
     const QString database = options.place(0);
     checkMove(console.context(), database, order);
+    refuseRunning(options, order, console.context().clock.today());
     Connection none;
     const QString word = carryOut(console.context(), none, database, order);
     if (word == u"OK") {
@@ -46,11 +57,12 @@ Exit runMove(const Options& options) {
 }
 
 constexpr std::array moveOptions{
-    OptionText{u"dest", u"DEST.mdb", u"the database that gets the days, replaced when it is there", true},
+    OptionText{u"dest", u"DEST.mdb", u"the database that gets the days; an older one keeps a name with .old", true},
     OptionText{u"from", u"yyyy/mm/dd", u"first day", true},
     OptionText{u"to", u"yyyy/mm/dd", u"last day", true},
     OptionText{u"month-from", u"yyyy/mm", u"first of the saved months that move as well"},
     OptionText{u"month-to", u"yyyy/mm", u"last of them"},
+    OptionText{u"running", u"", u"also days of a closing period that still runs; nobody can punch on them then"},
 };
 
 } // namespace

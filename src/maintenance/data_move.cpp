@@ -133,7 +133,7 @@ void requireSomething(Connection& database, const MoveOrder& order) {
     throw Complaint(QStringLiteral("移動するデータがありません。"));
 }
 
-QString questionOf(const MoveOrder& order, std::optional<Day> running) {
+QString questionOf(const MoveOrder& order, const QString& running) {
     constexpr int monthLength = 7;
     const auto range = [](const char16_t* word, const QString& from, const QString& to) {
         return QString::fromUtf16(word) + from + u'～' + to;
@@ -144,11 +144,7 @@ QString questionOf(const MoveOrder& order, std::optional<Day> running) {
         text = lines(text, range(u"月次集計データ：", slashDate(*order.startMonth).left(monthLength),
                                  slashDate(*order.endMonth).left(monthLength)));
     text = lines(text, QStringLiteral("移動先：") + order.destination.trimmed());
-    if (running && *order.endDay >= *running)
-        text = lines(
-            text, QString(),
-            QStringLiteral("この期間には、まだ締日が来ていない日(%1以降)が含まれています。").arg(slashDate(*running)),
-            QStringLiteral("移動した日には打刻できなくなります。"));
+    if (!running.isEmpty()) text = lines(text, QString(), running);
     return lines(text, QString(), QStringLiteral("よろしいですか？"));
 }
 
@@ -188,7 +184,7 @@ QString carryOut(const Context& context, Connection& shared, const QString& data
 bool moveData(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
     return guarded(context, u"frmMaintainance", u"cmdExec_Click", false, [&] {
         checkMove(context, database, order);
-        const QString question = questionOf(order, firstRunningDay(shared, context.clock.today()));
+        const QString question = questionOf(order, runningDaysText(shared, order, context.clock.today()));
         if (!confirmed(context.prompts, question) || carryOut(context, shared, database, order) != u"OK") return false;
         context.prompts.inform(QStringLiteral("データ移動が完了しました。"));
         return true;

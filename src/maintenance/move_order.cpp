@@ -103,4 +103,12 @@ void checkMove(const Context& context, const QString& database, const MoveOrder&
     checkPlace(context, database, order.destination.trimmed());
 }
 
+QString runningDaysText(Connection& connection, const MoveOrder& order, Day today) {
+    const auto running = firstRunningDay(connection, today);
+    if (!running || *order.endDay < *running) return {};
+    return lines(
+        QStringLiteral("この期間には、まだ締日が来ていない日(%1以降)が含まれています。").arg(slashDate(*running)),
+        QStringLiteral("移動した日には打刻できなくなります。"));
+}
+
 } // namespace kurbo

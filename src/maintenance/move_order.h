@@ -19,6 +19,10 @@ struct MoveOrder {
 // The first day of the closing periods that run today, of all people; nothing without people. Throws.
 [[nodiscard]] std::optional<Day> firstRunningDay(Connection& connection, Day today);
 
+// What the move of an order takes that people still need, "この期間には…"; empty when it reaches no running period.
+// Throws.
+[[nodiscard]] QString runningDaysText(Connection& connection, const MoveOrder& order, Day today);
+
 // What the screen offers: a year from the first calendar day, but nothing of a closing period that still runs, and
 // twelve months from the first saved one, but nothing that is still to come. A company that is younger than its first
 // closing is offered the days until today. Nothing after a failure, which is reported.

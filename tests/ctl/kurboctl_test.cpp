@@ -282,6 +282,7 @@ TEST_F(Kurboctl, MovesOldDays) {
     const Outcome early = move({u"--today"_q, u"2026/02/27"_q});
     EXPECT_EQ(early.exit, 1);
     EXPECT_EQ(early.err, u"明日以降のデータ、すなわち未到来のデータを移動する事はできません。\n"_q);
+    EXPECT_TRUE(move({u"--today"_q, u"2026/02/28"_q}).err.endsWith(u"--running を指定して下さい。\n"_q));
     replaceFile(desk.file(u"store.ldb"_q), {});
     EXPECT_EQ(move({}).err, u"ExistLdb\n"_q);
     QFile::remove(desk.file(u"store.ldb"_q));
