@@ -127,7 +127,7 @@ class Calculation final {
             auto& place = places[month.member];
             if (!place) {
                 place = addPerson(staff_[month.member], rules);
-                step(static_cast<int>(++tried * loaded / std::ssize(staff_)));
+                step(static_cast<int>(++tried * std::ptrdiff_t{loaded} / std::ssize(staff_)));
             }
             if (*place != nowhere) addPeriod(month, *place);
         }
