@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace kurbo {
 
 void placeInMiddle(QWidget* window) {
@@ -24,9 +26,16 @@ void fillScreen(QWidget* window, QSize most) {
                  room.top() + (room.height() - size.height() - frame.height()) / 2);
 }
 
+// Desktops keep a dialog above its owner, and no other kind of window.
 void stayAbove(QWidget* window, const QWidget* below) {
+    window->setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                           Qt::WindowCloseButtonHint);
     window->winId();
     window->windowHandle()->setTransientParent(below->windowHandle());
+    constexpr int frame = 34;
+    const QRect room = below->geometry();
+    window->move(std::max(room.left(), room.right() - window->width() - frame),
+                 std::max(room.top(), room.bottom() - window->height() - frame));
 }
 
 void paintNow(QWidget* window) {
