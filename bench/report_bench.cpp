@@ -37,7 +37,7 @@ Totals makeYear() {
             row.staff = staffCode(person);
             row.name = QStringLiteral("社員　番号%1").arg(person);
             row.month = std::chrono::year(2026) / std::chrono::month(month);
-            for (std::size_t i = 0; i < totalFigures; ++i)
+            for (std::size_t i = 0; i < quantityCount; ++i)
                 row.figures[i] = (person * 37 + static_cast<int>(month) * 101 + static_cast<int>(i) * 13) % 3000;
             totals.rows.push_back(row);
         }

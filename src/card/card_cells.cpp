@@ -1,6 +1,7 @@
 #include "card/card_cells.h"
 
-#include "month/month_fields.h"
+#include "month/figure_texts.h"
+#include "month/saved_figures.h"
 #include "store/readers.h"
 
 #include <algorithm>
@@ -17,27 +18,23 @@ QStringList blankRow() {
     return QStringList(cardColumns);
 }
 
-QStringList headings(const QString& sixth) {
-    const QString line = QStringLiteral(
-        "No|日付|休日|予定（メモ）|出社時刻|退社時刻|%1|普通残業|深夜残業|早出勤務|休日出勤|休日深夜|法休出勤|法休深夜|"
-        "欠勤時間|有給|特休|代休|欠勤|遅刻|早退|実働時間|詳細出社|詳細退社|ID");
-    return line.arg(sixth).split(u'|');
+QStringList headings(const QString& first) {
+    QStringList line{QStringLiteral("No"),
+                     QStringLiteral("日付"),
+                     QStringLiteral("休日"),
+                     QStringLiteral("予定（メモ）"),
+                     QStringLiteral("出社時刻"),
+                     QStringLiteral("退社時刻"),
+                     first};
+    line += quantityHeadings().mid(static_cast<qsizetype>(placeOf(firstOfDay)) + 1);
+    return line << QStringLiteral("実働時間") << QStringLiteral("詳細出社") << QStringLiteral("詳細退社")
+                << QStringLiteral("ID");
 }
 
 const QStringList& headingsFor(bool flexible) {
-    static const QStringList ofFixed = headings(QStringLiteral("法内残業"));
+    static const QStringList ofFixed = headings(QString::fromUtf16(factsOf(firstOfDay).heading));
     static const QStringList ofFlexible = headings(QStringLiteral("時間差"));
     return flexible ? ofFlexible : ofFixed;
-}
-
-// By their codes "0", "1", "2".
-const std::array<QString, 3>& leaveWords() {
-    static const std::array words{QStringLiteral("全日"), QStringLiteral("午前"), QStringLiteral("午後")};
-    return words;
-}
-
-QString leaveWord(QChar code) {
-    return code >= u'0' && code <= u'2' ? leaveWords()[static_cast<std::size_t>(code.unicode() - u'0')] : QString();
 }
 
 // The texts of all minutes of a day in one form, written once: a card repeats them, and shares them at no cost.
@@ -87,9 +84,6 @@ class CellWriter final {
         QString* const cells = row.data();
         writeFacts(cells, number, day);
         writeTimes(cells, figures);
-        for (int i = 0; i < 3; ++i)
-            if (figures.*countColumns[static_cast<std::size_t>(i)] != 0)
-                cells[index(CardColumn::AbsentDay) + i] = QStringLiteral("1");
         if (figures.work != 0) cells[index(CardColumn::WorkTime)] = hours(figures.work);
         return row;
     }
@@ -97,9 +91,8 @@ class CellWriter final {
     [[nodiscard]] QStringList captions() const {
         QStringList row = blankRow();
         row[index(CardColumn::Date)] = rules_.pbleFlexTime ? QStringLiteral("ﾌﾚｯｸｽ勤務") : QStringLiteral("普通勤務");
-        row[3] = QStringLiteral("(出勤日数)");
-        row[4] = QStringLiteral("(実働時間)");
-        row[5] = QStringLiteral("(有給残数)");
+        for (const QuantityFacts& facts : quantities)
+            if (!facts.shown) row[index(cardColumnOf(facts.id))] = u'(' + QString::fromUtf16(facts.heading) + u')';
         return row;
     }
 
@@ -107,26 +100,26 @@ class CellWriter final {
     [[nodiscard]] QStringList sums(const Figures& sum, double balance) const {
         QStringList row = blankRow();
         row[index(CardColumn::Date)] = QStringLiteral("合計(実働)");
-        row[3] = QString::number(sum.workDays);
-        row[4] = hours(sum.work);
-        row[5] = daysText(balance - sum.paidHalves * 0.5);
-        for (std::size_t i = 0; i < timeColumns.size(); ++i) row[6 + static_cast<int>(i)] = hours(sum.*timeColumns[i]);
-        if (rules_.pbleFlexTime) row[6] = FormatHours(sum.difference, rules_.plngCountUnit, true);
-        for (std::size_t i = 0; i < 3; ++i) {
-            row[15 + static_cast<int>(i)] = daysText(sum.*leaveColumns[i] * 0.5);
-            row[18 + static_cast<int>(i)] = QString::number(sum.*countColumns[i]);
-        }
+        for (const QuantityFacts& facts : quantities) row[index(cardColumnOf(facts.id))] = sumText(facts, sum, balance);
+        if (rules_.pbleFlexTime)
+            row[index(CardColumn::LegalOver)] = FormatHours(sum.difference, rules_.plngCountUnit, true);
         return row;
     }
 
     // A saved figure as text; nothing for Null.
-    [[nodiscard]] QString saved(MonthKind kind, const Rows& month, int field) const {
+    [[nodiscard]] QString saved(Unit unit, const Rows& month, int field) const {
         if (month.isNull(field)) return {};
-        if (kind == MonthKind::Days) return daysText(month.real(field));
-        return kind == MonthKind::Count ? month.text(field) : hours(static_cast<Minutes>(month.integer(field)));
+        if (unit == Unit::Days) return daysText(month.real(field));
+        return unit == Unit::Count ? month.text(field) : hours(static_cast<Minutes>(month.integer(field)));
     }
 
   private:
+    [[nodiscard]] QString sumText(const QuantityFacts& facts, const Figures& sum, double balance) const {
+        if (!facts.member) return daysText(balance - sum.paidHalves * 0.5);
+        if (facts.unit == Unit::Days) return daysText(sum.*facts.member * 0.5);
+        return facts.unit == Unit::Time ? hours(sum.*facts.member) : QString::number(sum.*facts.member);
+    }
+
     [[nodiscard]] QString hours(Minutes minutes) const {
         return minutes >= 0 && minutes < hours_.size() ? hours_[minutes]
                                                        : FormatHours(minutes, rules_.plngCountUnit, false);
@@ -149,10 +142,12 @@ class CellWriter final {
     }
 
     void writeTimes(QString* cells, const Figures& figures) const {
-        for (std::size_t i = 0; i < timeColumns.size(); ++i)
-            if (figures.*timeColumns[i] != 0) cells[6 + i] = hours(figures.*timeColumns[i]);
+        for (const QuantityFacts& facts : dayQuantities)
+            if (facts.unit != Unit::Days && figures.*facts.member != 0)
+                cells[index(cardColumnOf(facts.id))] =
+                    facts.unit == Unit::Time ? hours(figures.*facts.member) : QStringLiteral("1");
         if (figures.difference != 0 && figures.legalOver == 0)
-            cells[6] = FormatHours(figures.difference, rules_.plngCountUnit, true);
+            cells[index(CardColumn::LegalOver)] = FormatHours(figures.difference, rules_.plngCountUnit, true);
     }
 
     const clsWorkTime& rules_;
@@ -166,18 +161,12 @@ bool isWholePeriod(const clsWorkTime& rules, Period span, Day today) {
 }
 
 QString savedMonthStatement() {
-    QString fields;
-    for (const MonthField& field : monthFields) fields += field.field() + QStringLiteral(", ");
-    return QStringLiteral("SELECT ") + fields +
-           QStringLiteral("F_PersonalApproval, F_SuperiorApproval FROM T05_Approved "
+    return QStringLiteral("SELECT ") + quantityFields() +
+           QStringLiteral(", F_PersonalApproval, F_SuperiorApproval FROM T05_Approved "
                           "WHERE (F_Staff = ?) AND (F_Year = ?) AND (F_Month = ?);");
 }
 
 constexpr int monthDigits = 6; // of a date's id
-
-int placeOf(CardColumn column) {
-    return static_cast<int>(std::ranges::find(monthFields, column, &MonthField::column) - monthFields.begin());
-}
 
 // What counts for the month, once it has been saved. Gives the days of paid leave that the person's balance has lost by
 // that: those of the newest saved month, so that saving it again takes them once.
@@ -186,22 +175,24 @@ double readSavedMonth(Connection& connection, const CellWriter& cells, const QSt
     const QString id = dateId(end);
     Rows month = connection.rows(statement, {staff, id.left(4), id.mid(4, 2)});
     if (!month.next()) return 0;
-    int place = 0;
-    for (const MonthField& field : monthFields)
-        card.summary[2][index(field.column)] = cells.saved(field.kind, month, place++);
+    for (const QuantityFacts& facts : quantities)
+        card.summary[2][index(cardColumnOf(facts.id))] =
+            cells.saved(facts.unit, month, static_cast<int>(placeOf(facts.id)));
+    constexpr int behind = quantityCount;
     card.saved = true;
-    card.personalApproval = month.yes(place);
-    card.superiorApproval = month.yes(place + 1);
-    const bool followed =
-        !month.isNull(placeOf(CardColumn::Leave)) && !hasLaterMonth(connection, staff, id.left(monthDigits));
-    return followed ? month.real(placeOf(CardColumn::Paid)) : 0;
+    card.personalApproval = month.yes(behind);
+    card.superiorApproval = month.yes(behind + 1);
+    const bool followed = !month.isNull(static_cast<int>(placeOf(Quantity::PaidTotal))) &&
+                          !hasLaterMonth(connection, staff, id.left(monthDigits));
+    return followed ? month.real(static_cast<int>(placeOf(Quantity::Paid))) : 0;
 }
 
-// Columns 6 to 20 by their switches, the sixth as it is used; the last three are for the program.
+// The quantities by their switches, the first as it is used; the last three columns are for the program.
 std::array<bool, cardColumns> hiddenColumns(const clsWorkTime& rules) {
     std::array<bool, cardColumns> hidden{};
-    for (std::size_t i = 0; i < sumSwitches.size(); ++i) hidden[6 + i] = !(rules.*sumSwitches[i]);
-    if (rules.pbleFlexTime) hidden[6] = !rules.pbleEnableDiff;
+    for (const QuantityFacts& facts : dayQuantities)
+        hidden[static_cast<std::size_t>(cardColumnOf(facts.id))] = !(rules.*facts.shown);
+    if (rules.pbleFlexTime) hidden[static_cast<std::size_t>(CardColumn::LegalOver)] = !rules.pbleEnableDiff;
     for (const CardColumn column : {CardColumn::FullEnter, CardColumn::FullLeave, CardColumn::Id})
         hidden[static_cast<std::size_t>(column)] = true;
     return hidden;
@@ -238,15 +229,6 @@ Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, 
 }
 
 } // namespace
-
-QString leaveCode(const QString& word) {
-    const auto found = std::ranges::find(leaveWords(), word);
-    return found == leaveWords().end() ? QString() : QString::number(found - leaveWords().begin());
-}
-
-QString daysText(double days) {
-    return QString::number(days, 'f', 1);
-}
 
 std::optional<Card> makeCard(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff,
                              Period span) {

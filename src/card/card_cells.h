@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "engine/hours.h"
 #include "month/card_days.h"
+#include "month/quantities.h"
 #include "store/connection.h"
 
 #include <QStringList>
@@ -12,7 +13,8 @@
 
 namespace kurbo {
 
-// Columns of the card.
+// Columns of the card. On the summary rows the sums of the month begin in the column of the plan, one behind the other;
+// the quantities of a day stand in the columns of their sums.
 enum class CardColumn {
     No,
     Date,
@@ -20,37 +22,40 @@ enum class CardColumn {
     Plan,
     Enter,
     Leave,
-    LegalOver, // or the difference from the standard time
-    Over,
-    Late,
-    Early,
-    HolidayWork,
-    HolidayLate,
-    LegalHoliday,
-    LegalLate,
-    Absent,
-    Paid,
-    Special,
-    Compens,
-    AbsentDay,
-    LateEnter,
-    EarlyLeave,
-    WorkTime,
+    LegalOver = columnFrom(Plan, Quantity::LegalOver), // or the difference from the standard time
+    Over = columnFrom(Plan, Quantity::Over),
+    Late = columnFrom(Plan, Quantity::Late),
+    Early = columnFrom(Plan, Quantity::Early),
+    HolidayWork = columnFrom(Plan, Quantity::Holiday),
+    HolidayLate = columnFrom(Plan, Quantity::HolidayLate),
+    LegalHoliday = columnFrom(Plan, Quantity::LegalHoliday),
+    LegalLate = columnFrom(Plan, Quantity::LegalLate),
+    Absent = columnFrom(Plan, Quantity::Absent),
+    Paid = columnFrom(Plan, Quantity::Paid),
+    Special = columnFrom(Plan, Quantity::Special),
+    Compens = columnFrom(Plan, Quantity::Compens),
+    AbsentDay = columnFrom(Plan, Quantity::AbsentDays),
+    LateEnter = columnFrom(Plan, Quantity::LateEnters),
+    EarlyLeave = columnFrom(Plan, Quantity::EarlyLeaves),
+    WorkTime = Plan + static_cast<int>(quantityCount),
     FullEnter,
     FullLeave,
     Id,
 };
-inline constexpr int cardColumns = 25;
+inline constexpr int cardColumns = static_cast<int>(CardColumn::Id) + 1;
 
-// The switches that show columns 6 to 20, in their order.
-inline constexpr std::array sumSwitches{
-    &clsWorkTime::pbleEnableLegalOver,    &clsWorkTime::pbleEnableOver,      &clsWorkTime::pbleEnableLate,
-    &clsWorkTime::pbleEnableEarly,        &clsWorkTime::pbleEnableHoliday,   &clsWorkTime::pbleEnableHolidayLate,
-    &clsWorkTime::pbleEnableLegalHoliday, &clsWorkTime::pbleEnableLegalLate, &clsWorkTime::pbleEnableAbsent,
-    &clsWorkTime::pbleEnablePaid,         &clsWorkTime::pbleEnableSpecial,   &clsWorkTime::pbleEnableCompens,
-    &clsWorkTime::pbleEnableAbsentDay,    &clsWorkTime::pbleEnableLateEnter, &clsWorkTime::pbleEnableEarlyLeave};
+[[nodiscard]] constexpr CardColumn cardColumnOf(Quantity id) {
+    return static_cast<CardColumn>(columnFrom(static_cast<int>(CardColumn::Plan), id));
+}
+static_assert(cardColumnOf(firstOfDay) > CardColumn::Leave, "a day's times and its quantities stand side by side");
+// The quantity whose sum stands in the column; none in the other columns.
+[[nodiscard]] constexpr const QuantityFacts* quantityAt(CardColumn column) {
+    return column >= CardColumn::Plan && column < CardColumn::WorkTime
+               ? &quantities[static_cast<std::size_t>(column) - static_cast<std::size_t>(CardColumn::Plan)]
+               : nullptr;
+}
 
-// A card as texts, ready for a grid, a file or the command line: every row has 25 cells.
+// A card as texts, ready for a grid, a file or the command line: every row has a cell for each column.
 struct Card {
     QStringList headings;
     std::array<QStringList, 3> summary; // captions, what the days add up to, what counts for the month
@@ -68,11 +73,5 @@ struct Card {
 // under "ShowKurbo".
 [[nodiscard]] std::optional<Card> makeCard(const Context& context, Connection& connection, clsWorkTime& rules,
                                            const QString& staff, Period span);
-
-// The stored code of a leave's word (全日, 午前, 午後); empty for any other text.
-[[nodiscard]] QString leaveCode(const QString& word);
-
-// Days as text with one place, "18.5".
-[[nodiscard]] QString daysText(double days);
 
 } // namespace kurbo

@@ -7,10 +7,23 @@ namespace {
 
 constexpr GridColour summaryPaper{232, 238, 246};
 
-// In twips, in the order of the columns.
-constexpr std::array widths{500, 1400, 500, 1400, 1400, 1400, 900, 900, 900, 900, 900, 900, 900,
-                            900, 900,  600, 600,  600,  600,  600, 600, 500, 500, 500, 500};
-static_assert(widths.size() == cardColumns);
+// In twips.
+int widthOf(CardColumn column) {
+    switch (column) {
+    case CardColumn::Date:
+    case CardColumn::Plan:
+    case CardColumn::Enter:
+    case CardColumn::Leave:
+        return 1400;
+    case CardColumn::WorkTime:
+        return 600;
+    default:
+        break;
+    }
+    const QuantityFacts* const facts = quantityAt(column);
+    if (!facts) return 500;
+    return facts->unit == Unit::Time ? 900 : 600;
+}
 
 // Holidays red, half holidays blue.
 std::optional<GridColour> dateColour(const QString& type) {
@@ -22,7 +35,7 @@ std::optional<GridColour> dateColour(const QString& type) {
 void describeColumns(GridModel& grid, const Card& card) {
     for (int column = 0; column < cardColumns; ++column) {
         grid.ColAlignment(column, GridAlign::Centre);
-        grid.ColWidth(column, widths[static_cast<std::size_t>(column)]);
+        grid.ColWidth(column, widthOf(static_cast<CardColumn>(column)));
         grid.ColHidden(column, card.hidden[static_cast<std::size_t>(column)]);
     }
     grid.ColAlignment(static_cast<int>(CardColumn::Plan), GridAlign::Left);

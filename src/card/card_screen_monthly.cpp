@@ -2,7 +2,6 @@
 #include "card/card_screen.h"
 #include "card/edit/card_checks.h"
 #include "card/monthly.h"
-#include "month/month_fields.h"
 
 #include <algorithm>
 
@@ -10,8 +9,9 @@ namespace kurbo {
 namespace {
 
 bool isFinalEmpty(const GridModel& grid) {
-    return std::ranges::all_of(
-        monthFields, [&grid](const MonthField& field) { return cardText(grid, finalSumRow, field.column).isEmpty(); });
+    return std::ranges::all_of(quantities, [&grid](const QuantityFacts& facts) {
+        return cardText(grid, finalSumRow, cardColumnOf(facts.id)).isEmpty();
+    });
 }
 
 } // namespace

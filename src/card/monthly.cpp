@@ -1,34 +1,31 @@
 #include "card/monthly.h"
 
 #include "card/card_grid.h"
-#include "month/month_fields.h"
+#include "month/saved_figures.h"
 #include "store/record_set.h"
 
 namespace kurbo {
 namespace {
 
-// The columns with a limit, one behind the other, and as many fields of the person's limits.
-constexpr int firstLimited = static_cast<int>(CardColumn::LegalOver);
-constexpr int limitedColumns = 8;
-
 // The time difference of a flexible person stands where others have the legal overtime.
-bool isDifference(CardColumn column, const clsWorkTime& rules) {
-    return column == CardColumn::LegalOver && rules.pbleFlexTime;
+bool isDifference(Quantity id, const clsWorkTime& rules) {
+    return id == Quantity::LegalOver && rules.pbleFlexTime;
 }
 
-// The person's limits in minutes, Null for none.
+// The person's limits in minutes, Null for none, in the places of their quantities.
 Values readLimits(Connection& connection, const QString& staff) {
-    Rows limits = connection.rows(
-        QStringLiteral("SELECT M07_AdjustHours.F_LegalOver, M07_AdjustHours.F_Over, M07_AdjustHours.F_Late, "
-                       "M07_AdjustHours.F_Early, M07_AdjustHours.F_Holiday, M07_AdjustHours.F_HolidayLate, "
-                       "M07_AdjustHours.F_LegalHoliday, M07_AdjustHours.F_LegalLate "
-                       "FROM M02_StaffInfo INNER JOIN M07_AdjustHours "
-                       "ON M02_StaffInfo.F_AdjustHours = M07_AdjustHours.F_AdjustCode "
-                       "WHERE (M02_StaffInfo.F_StaffCode = ?);"),
-        {staff});
-    Values values(limitedColumns);
+    QStringList fields;
+    for (const QuantityFacts& facts : quantities)
+        fields.append(facts.limited ? QStringLiteral("M07_AdjustHours.") + QString::fromUtf16(facts.field)
+                                    : QStringLiteral("Null"));
+    Rows limits = connection.rows(QStringLiteral("SELECT ") + fields.join(QStringLiteral(", ")) +
+                                      QStringLiteral(" FROM M02_StaffInfo INNER JOIN M07_AdjustHours "
+                                                     "ON M02_StaffInfo.F_AdjustHours = M07_AdjustHours.F_AdjustCode "
+                                                     "WHERE (M02_StaffInfo.F_StaffCode = ?);"),
+                                  {staff});
+    Values values(quantityCount);
     if (limits.next())
-        for (int i = 0; i < limitedColumns; ++i) values[i] = limits.value(i);
+        for (int i = 0; i < values.size(); ++i) values[i] = limits.value(i);
     return values;
 }
 
@@ -39,11 +36,10 @@ QString limited(const QString& sum, const Value& limit, int unit) {
 
 QStringList adjustedSums(const GridModel& grid, const clsWorkTime& rules, const Values& limits) {
     QStringList sums;
-    for (const MonthField& field : monthFields) {
-        const int place = static_cast<int>(field.column) - firstLimited;
-        const bool free = place < 0 || place >= limitedColumns || isDifference(field.column, rules);
-        const QString sum = cardText(grid, daySumRow, field.column);
-        sums.append(free ? sum : limited(sum, limits[place], rules.plngCountUnit));
+    for (const QuantityFacts& facts : quantities) {
+        const QString sum = cardText(grid, daySumRow, cardColumnOf(facts.id));
+        const Value limit = isDifference(facts.id, rules) ? Value() : limits[static_cast<qsizetype>(placeOf(facts.id))];
+        sums.append(limited(sum, limit, rules.plngCountUnit));
     }
     return sums;
 }
@@ -62,10 +58,10 @@ void takeApprovals(RecordSet& months) {
 }
 
 void setFigures(RecordSet& months, const CardSheet& sheet, const clsWorkTime& rules, Period period) {
-    for (const MonthField& field : monthFields) {
-        const QString cell = cardText(sheet.grid, finalSumRow, field.column);
-        const bool kept = !isDifference(field.column, rules);
-        months.set(field.field(), kept ? figureOf(field, cell, rules.plngCountUnit) : Value());
+    for (const QuantityFacts& facts : quantities) {
+        const QString cell = cardText(sheet.grid, finalSumRow, cardColumnOf(facts.id));
+        const bool kept = !isDifference(facts.id, rules);
+        months.set(QString::fromUtf16(facts.field), kept ? figureOf(facts, cell, rules.plngCountUnit) : Value());
     }
     months.set(QStringLiteral("F_Term"), slashDate(period.from) + u'-' + slashDate(period.to));
 }
@@ -92,9 +88,9 @@ bool AdjustMonthly(const Context& context, Connection& connection, CardSheet& sh
     return guarded(context, u"frmKurbo", u"AdjustMonthly", false, [&] {
         const QStringList sums = adjustedSums(sheet.grid, rules, readLimits(connection, staff));
         const Undrawn undrawn(sheet.grid);
-        for (qsizetype i = 0; i < sums.size(); ++i)
-            sheet.grid.TextMatrix(finalSumRow, static_cast<int>(monthFields[static_cast<std::size_t>(i)].column),
-                                  sums[i]);
+        for (const QuantityFacts& facts : quantities)
+            sheet.grid.TextMatrix(finalSumRow, static_cast<int>(cardColumnOf(facts.id)),
+                                  sums[static_cast<qsizetype>(placeOf(facts.id))]);
         sheet.blnMonthChanged = true;
         return true;
     });

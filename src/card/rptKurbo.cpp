@@ -3,6 +3,7 @@
 #include "base/product.h"
 #include "card/card_grid.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kurbo {
@@ -12,31 +13,26 @@ constexpr int at(CardColumn column) {
     return static_cast<int>(column);
 }
 
-constexpr int hours = 760;
-constexpr int days = 514;
 constexpr auto centre = GridAlign::Centre;
-constexpr std::array columns{
+constexpr std::array facts{
     ReportColumn{u"F_Date", 12, at(CardColumn::Date), 1160, centre},
     ReportColumn{u"F_Type", 1, at(CardColumn::Holiday), 0},
     ReportColumn{u"F_Plan", 30, at(CardColumn::Plan), 2640, GridAlign::Left},
     ReportColumn{u"F_Enter", 15, at(CardColumn::Enter), 820, centre},
     ReportColumn{u"F_Leave", 15, at(CardColumn::Leave), 1160, centre},
-    ReportColumn{u"F_LegalOver", 6, at(CardColumn::LegalOver), hours},
-    ReportColumn{u"F_Over", 6, at(CardColumn::Over), hours},
-    ReportColumn{u"F_Late", 6, at(CardColumn::Late), hours},
-    ReportColumn{u"F_Early", 6, at(CardColumn::Early), hours},
-    ReportColumn{u"F_Holiday", 6, at(CardColumn::HolidayWork), hours},
-    ReportColumn{u"F_HolidayLate", 6, at(CardColumn::HolidayLate), hours},
-    ReportColumn{u"F_LegalHoliday", 6, at(CardColumn::LegalHoliday), hours},
-    ReportColumn{u"F_LegalLate", 6, at(CardColumn::LegalLate), hours},
-    ReportColumn{u"F_Absent", 6, at(CardColumn::Absent), hours},
-    ReportColumn{u"F_Paid", 4, at(CardColumn::Paid), days, centre},
-    ReportColumn{u"F_Special", 4, at(CardColumn::Special), days, centre},
-    ReportColumn{u"F_Compens", 4, at(CardColumn::Compens), days, centre},
-    ReportColumn{u"F_AbsentDay", 1, at(CardColumn::AbsentDay), days, centre},
-    ReportColumn{u"F_LateEnter", 1, at(CardColumn::LateEnter), days, centre},
-    ReportColumn{u"F_EarlyLeave", 1, at(CardColumn::EarlyLeave), days, centre},
 };
+
+constexpr ReportColumn columnOf(const QuantityFacts& quantity) {
+    const int column = at(cardColumnOf(quantity.id));
+    if (quantity.unit == Unit::Time) return {quantity.field, 6, column, 760};
+    return {quantity.field, quantity.unit == Unit::Days ? 4 : 1, column, 514, centre};
+}
+
+constexpr auto columns = [] {
+    std::array<ReportColumn, facts.size() + dayQuantities.size()> all{};
+    std::ranges::transform(dayQuantities, std::ranges::copy(facts, all.begin()).out, columnOf);
+    return all;
+}();
 
 constexpr int dayHeight = 260;
 constexpr int sealWidth = 900;
@@ -95,7 +91,7 @@ ReportSection reportFooter(const GridModel& grid) {
 } // namespace
 
 rptKurbo::rptKurbo(const GridModel& vfgKurbo, const CardHeading& heading, Day printedOn)
-    : ColHidden_(hiddenColumns(vfgKurbo, at(CardColumn::LegalOver), at(CardColumn::EarlyLeave))) {
+    : ColHidden_(hiddenColumns(vfgKurbo, at(cardColumnOf(firstOfDay)), at(CardColumn::WorkTime) - 1)) {
     ActiveReport_ReportStart(vfgKurbo, heading, printedOn);
 }
 

@@ -1,6 +1,7 @@
 #include "month/day_loop.h"
 
 #include "engine/hours.h"
+#include "month/quantities.h"
 
 #include <array>
 
@@ -245,24 +246,9 @@ DayCode dayCodeOf(const DayFacts& day) {
 }
 
 Figures& Figures::operator+=(const Figures& other) {
-    work += other.work;
+    for (const QuantityFacts& facts : quantities)
+        if (facts.member) this->*facts.member += other.*facts.member;
     difference += other.difference;
-    legalOver += other.legalOver;
-    over += other.over;
-    late += other.late;
-    early += other.early;
-    holiday += other.holiday;
-    holidayLate += other.holidayLate;
-    legalHoliday += other.legalHoliday;
-    legalLate += other.legalLate;
-    absent += other.absent;
-    workDays += other.workDays;
-    paidHalves += other.paidHalves;
-    specialHalves += other.specialHalves;
-    compensHalves += other.compensHalves;
-    absentDays += other.absentDays;
-    lateEnters += other.lateEnters;
-    earlyLeaves += other.earlyLeaves;
     return *this;
 }
 
@@ -289,9 +275,9 @@ void roundSums(const clsWorkTime& rules, Figures& sum) {
     const auto round = [&rules](Minutes& minutes) {
         minutes = RoundMinutes(minutes, rules.plngRoundHour, rules.plngRoundUnit());
     };
-    round(sum.work);
     round(sum.difference);
-    for (const auto& column : timeColumns) round(sum.*column);
+    for (const QuantityFacts& facts : quantities)
+        if (facts.unit == Unit::Time) round(sum.*facts.member);
 }
 
 } // namespace kurbo

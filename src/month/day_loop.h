@@ -55,14 +55,6 @@ struct Figures {
     friend bool operator==(const Figures&, const Figures&) = default;
 };
 
-// The sums of columns 6 to 14, 15 to 17 and 18 to 20, in their order; column 6 is the difference on a flexible
-// company's card.
-inline constexpr std::array timeColumns{&Figures::legalOver,    &Figures::over,      &Figures::late,
-                                        &Figures::early,        &Figures::holiday,   &Figures::holidayLate,
-                                        &Figures::legalHoliday, &Figures::legalLate, &Figures::absent};
-inline constexpr std::array leaveColumns{&Figures::paidHalves, &Figures::specialHalves, &Figures::compensHalves};
-inline constexpr std::array countColumns{&Figures::absentDays, &Figures::lateEnters, &Figures::earlyLeaves};
-
 struct CardFigures {
     std::vector<Figures> days;
     Figures sum;

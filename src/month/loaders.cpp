@@ -1,5 +1,7 @@
 #include "month/loaders.h"
 
+#include "month/quantities.h"
+
 #include "store/record_set.h"
 
 #include <array>
@@ -66,30 +68,6 @@ void readRounding(const Row& row, clsWorkTime& rules) {
     // Rounding by the month always shows hours and minutes.
     if (rules.plngRoundMethod == 1) rules.plngCountUnit = 1;
 }
-
-struct Switch {
-    bool clsWorkTime::*property;
-    const char16_t* field;
-};
-
-constexpr std::array switches{
-    Switch{&clsWorkTime::pbleEnableDiff, u"F_Diff"},
-    Switch{&clsWorkTime::pbleEnableLegalOver, u"F_LegalOver"},
-    Switch{&clsWorkTime::pbleEnableOver, u"F_Over"},
-    Switch{&clsWorkTime::pbleEnableLate, u"F_Late"},
-    Switch{&clsWorkTime::pbleEnableEarly, u"F_Early"},
-    Switch{&clsWorkTime::pbleEnableHoliday, u"F_Holiday"},
-    Switch{&clsWorkTime::pbleEnableHolidayLate, u"F_HolidayLate"},
-    Switch{&clsWorkTime::pbleEnableLegalHoliday, u"F_LegalHoliday"},
-    Switch{&clsWorkTime::pbleEnableLegalLate, u"F_LegalLate"},
-    Switch{&clsWorkTime::pbleEnableAbsent, u"F_Absent"},
-    Switch{&clsWorkTime::pbleEnablePaid, u"F_Paid"},
-    Switch{&clsWorkTime::pbleEnableSpecial, u"F_Special"},
-    Switch{&clsWorkTime::pbleEnableCompens, u"F_Compens"},
-    Switch{&clsWorkTime::pbleEnableAbsentDay, u"F_AbsentDay"},
-    Switch{&clsWorkTime::pbleEnableLateEnter, u"F_LateEnter"},
-    Switch{&clsWorkTime::pbleEnableEarlyLeave, u"F_EarlyLeave"},
-};
 
 // The bands of one kind of day as its table holds them: the columns F_Start and F_End with the word and a number. On a
 // flexible day the work columns hold the core bands.
@@ -220,10 +198,11 @@ void loadDay(Connection& connection, const DayTable& table, clsWorkTime& rules, 
 
 QString styleStatement() {
     return QStringLiteral(
-        "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, F_PmFlex, "
-        "F_PmFlexStandard, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, F_Diff, "
-        "F_LegalOver, F_Over, F_Late, F_Early, F_Holiday, F_HolidayLate, F_LegalHoliday, F_LegalLate, F_Absent, "
-        "F_Paid, F_Special, F_Compens, F_AbsentDay, F_LateEnter, F_EarlyLeave FROM M01_CorpInfo;");
+               "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, "
+               "F_PmFlex, "
+               "F_PmFlexStandard, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, "
+               "F_Diff, ") +
+           switchFields() + QStringLiteral(" FROM M01_CorpInfo;");
 }
 
 } // namespace
@@ -234,7 +213,9 @@ void readCompanyStyle(Connection& connection, clsWorkTime& rules) {
     if (set.isEmpty()) complain(fault, styleAdvice());
     readStyle(Row(set, fault, styleAdvice()), rules);
     readRounding(Row(set, QStringLiteral("時間計算方法設定に不備があります。"), styleAdvice()), rules);
-    for (const Switch& item : switches) rules.*item.property = set.value(QString::fromUtf16(item.field)).yes();
+    rules.pbleEnableDiff = set.value(QStringLiteral("F_Diff")).yes();
+    for (const QuantityFacts& facts : quantities)
+        if (facts.shown) rules.*facts.shown = set.value(QString::fromUtf16(facts.field)).yes();
 }
 
 void readStaffInfo(Connection& connection, clsWorkTime& rules, const QString& staff) {

@@ -9,12 +9,12 @@ namespace kurbo {
 
 // A field of a report's records, and the column of paper that shows it.
 struct ReportColumn {
-    const char16_t* field;
-    int bytes;
+    const char16_t* field = nullptr;
+    int bytes = 0;
     // Of the grid that it is filled from; -1 for none.
-    int column;
+    int column = -1;
     // 0: not printed.
-    int width;
+    int width = 0;
     GridAlign align = GridAlign::Right;
 };
 

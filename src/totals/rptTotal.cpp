@@ -3,6 +3,7 @@
 #include "base/product.h"
 #include "totals/totals.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kurbo {
@@ -12,35 +13,27 @@ constexpr int at(TotalColumn column) {
     return static_cast<int>(column);
 }
 
-constexpr int quantity = 775;
 // The detail's name or month stands in front of the figures.
 constexpr int labelWidth = 1760;
 constexpr int nameBytes = 20;
-constexpr std::size_t firstColumn = 3;
-constexpr std::array columns{
+constexpr std::array words{
     ReportColumn{u"F_YearMonth", 11, -1, 0},
     ReportColumn{u"F_StaffName", nameBytes, -1, 0},
     // A month, or a name with its code where others have the same.
     ReportColumn{u"F_Group", 60, -1, 0},
-    ReportColumn{u"F_WorkDay", 4, at(TotalColumn::WorkDay), 740},
-    ReportColumn{u"F_Work", 8, at(TotalColumn::Work), 840},
-    ReportColumn{u"F_PaidTotal", 6, at(TotalColumn::PaidTotal), 739},
-    ReportColumn{u"F_LegalOver", 8, at(TotalColumn::LegalOver), quantity},
-    ReportColumn{u"F_Over", 8, at(TotalColumn::Over), quantity},
-    ReportColumn{u"F_Late", 8, at(TotalColumn::Late), quantity},
-    ReportColumn{u"F_Early", 8, at(TotalColumn::Early), quantity},
-    ReportColumn{u"F_Holiday", 8, at(TotalColumn::Holiday), quantity},
-    ReportColumn{u"F_HolidayLate", 8, at(TotalColumn::HolidayLate), quantity},
-    ReportColumn{u"F_LegalHoliday", 8, at(TotalColumn::LegalHoliday), quantity},
-    ReportColumn{u"F_LegalLate", 8, at(TotalColumn::LegalLate), quantity},
-    ReportColumn{u"F_Absent", 8, at(TotalColumn::Absent), quantity},
-    ReportColumn{u"F_Paid", 6, at(TotalColumn::Paid), quantity},
-    ReportColumn{u"F_Special", 6, at(TotalColumn::Special), quantity},
-    ReportColumn{u"F_Compens", 6, at(TotalColumn::Compens), quantity},
-    ReportColumn{u"F_AbsentDay", 4, at(TotalColumn::AbsentDay), quantity},
-    ReportColumn{u"F_LateEnter", 4, at(TotalColumn::LateEnter), quantity},
-    ReportColumn{u"F_EarlyLeave", 4, at(TotalColumn::EarlyLeave), quantity},
 };
+constexpr std::size_t firstColumn = words.size();
+
+constexpr ReportColumn columnOf(const QuantityFacts& facts) {
+    const int bytes = facts.unit == Unit::Time ? 8 : facts.unit == Unit::Days ? 6 : 4;
+    return {facts.field, bytes, at(totalColumnOf(facts.id)), facts.printWidth};
+}
+
+constexpr auto columns = [] {
+    std::array<ReportColumn, words.size() + quantityCount> all{};
+    std::ranges::transform(quantities, std::ranges::copy(words, all.begin()).out, columnOf);
+    return all;
+}();
 constexpr std::span figures = std::span(columns).subspan(firstColumn);
 constexpr int lineHeight = 250;
 constexpr int fontSize = 165;
@@ -148,7 +141,7 @@ ReportSection reportFooter() {
 } // namespace
 
 rptTotal::rptTotal(const GridModel& vfgKurbo, const TotalHeading& heading, Day printedOn)
-    : ColHidden_(hiddenColumns(vfgKurbo, at(TotalColumn::LegalOver), at(TotalColumn::EarlyLeave))) {
+    : ColHidden_(hiddenColumns(vfgKurbo, at(totalColumnOf(firstOfDay)), at(TotalColumn::Personal) - 1)) {
     ActiveReport_ReportStart(vfgKurbo, heading, printedOn);
 }
 

@@ -8,10 +8,26 @@ namespace {
 constexpr GridColour subTotalPaper{232, 238, 246};
 constexpr GridColour totalPaper{210, 222, 238};
 
-// In twips, in the order of the columns. A name has 20 bytes, and a sub-total's words behind it.
-constexpr std::array widths{300, 2200, 1650, 900, 900, 900, 900, 900, 900, 900,  900, 900, 900, 900,
-                            900, 600,  600,  600, 600, 600, 600, 600, 600, 2500, 900, 900, 900};
-static_assert(widths.size() == totalColumns);
+// In twips. A name has 20 bytes, and a sub-total's words behind it.
+int widthOf(TotalColumn column) {
+    switch (column) {
+    case TotalColumn::Blank:
+        return 300;
+    case TotalColumn::First:
+        return 2200;
+    case TotalColumn::Second:
+        return 1650;
+    case TotalColumn::Term:
+        return 2500;
+    case TotalColumn::Personal:
+    case TotalColumn::Superior:
+        return 600;
+    default:
+        break;
+    }
+    const QuantityFacts* const facts = quantityAt(column);
+    return facts && facts->shown && facts->unit != Unit::Time ? 600 : 900;
+}
 
 // A column is as wide as its sums ask for: nothing in it is longer, but for headings and names.
 void describeColumns(GridModel& grid, const Totals& totals, const std::vector<TotalLine>& lines) {
@@ -20,7 +36,7 @@ void describeColumns(GridModel& grid, const Totals& totals, const std::vector<To
     for (int column = 0; column < totalColumns; ++column) {
         const qsizetype length = lines.empty() ? 0 : lines.back().cells[column].size();
         grid.ColWidth(column,
-                      std::max(widths[static_cast<std::size_t>(column)], static_cast<int>(length) * sign + edges));
+                      std::max(widthOf(static_cast<TotalColumn>(column)), static_cast<int>(length) * sign + edges));
         grid.ColHidden(column, totals.hidden[static_cast<std::size_t>(column)]);
     }
     // Shown as words: a box would stand on sub-totals as well.

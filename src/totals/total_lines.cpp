@@ -1,7 +1,7 @@
 #include "totals/total_lines.h"
 
-#include "card/card_cells.h"
 #include "engine/hours.h"
+#include "month/figure_texts.h"
 
 #include <QHash>
 #include <QSet>
@@ -17,12 +17,12 @@ constexpr int at(TotalColumn column) {
 
 // Added figures; a column of Nulls adds to 0, rows without any figure add to nothing.
 struct Sum {
-    std::array<std::int64_t, totalFigures> figures{};
+    std::array<std::int64_t, quantityCount> figures{};
     std::optional<std::int64_t> difference;
     bool empty = true;
 
     void add(const TotalRow& row) {
-        for (std::size_t i = 0; i < totalFigures; ++i) {
+        for (std::size_t i = 0; i < quantityCount; ++i) {
             figures[i] += row.figures[i].value_or(0);
             empty = empty && !row.figures[i];
         }
@@ -71,8 +71,9 @@ class LineWriter final {
         QString* const cells = line.cells.data();
         cells[at(TotalColumn::First)] = caption;
         cells[at(TotalColumn::Second)] = totals_.byStaff ? monthText(row.month) : nameOf(row);
-        for (std::size_t i = 0; i < totalFigures; ++i)
-            if (row.figures[i]) cells[firstFigure + i] = figureText(i, *row.figures[i]);
+        for (const QuantityFacts& facts : quantities)
+            if (const auto& figure = row.figures[placeOf(facts.id)])
+                cells[at(totalColumnOf(facts.id))] = figureText(facts.unit, *figure);
         if (row.saved) {
             cells[at(TotalColumn::Personal)] = approval(row.personalApproval);
             cells[at(TotalColumn::Superior)] = approval(row.superiorApproval);
@@ -89,7 +90,8 @@ class LineWriter final {
         QString* const cells = line.cells.data();
         cells[at(TotalColumn::First)] = caption;
         if (sum.empty) return line;
-        for (std::size_t i = 0; i < totalFigures; ++i) cells[firstFigure + i] = figureText(i, sum.figures[i]);
+        for (const QuantityFacts& facts : quantities)
+            cells[at(totalColumnOf(facts.id))] = figureText(facts.unit, sum.figures[placeOf(facts.id)]);
         if (sum.difference) cells[at(TotalColumn::Work)] += u'(' + hours(*sum.difference, true) + u')';
         return line;
     }
@@ -121,13 +123,13 @@ class LineWriter final {
         return text;
     }
 
-    [[nodiscard]] QString figureText(std::size_t figure, std::int64_t value) {
-        switch (figureForm(figure)) {
-        case FigureForm::Count:
+    [[nodiscard]] QString figureText(Unit unit, std::int64_t value) {
+        switch (unit) {
+        case Unit::Count:
             return value == 0 ? QStringLiteral("0") : QString::number(value);
-        case FigureForm::Days:
+        case Unit::Days:
             return halfDays(value);
-        case FigureForm::Hours:
+        case Unit::Time:
             break;
         }
         return sharedHours(value);
@@ -143,9 +145,8 @@ class LineWriter final {
 
 QString totalHeadings(bool byStaff) {
     const QString first = byStaff ? QStringLiteral("|^氏名|^年月") : QStringLiteral("|^年月|^氏名");
-    return first + QStringLiteral("|^出勤日数|^実働時間|^有給残数|^法内残業|^普通残業|^深夜残業|^早出勤務|^休日出勤|"
-                                  "^休日深夜|^法休出勤|^法休深夜|^欠勤時間|^有給|^特休|^代休|^欠勤|^遅刻|^早退|^本人|"
-                                  "^所長|^集計期間|^順|^社員ｺｰﾄﾞ|^時間差");
+    return first + u'|' + quantityHeadings(u"^").join(u'|') +
+           QStringLiteral("|^本人|^所長|^集計期間|^順|^社員ｺｰﾄﾞ|^時間差");
 }
 
 std::vector<TotalLine> totalLines(const Totals& totals) {

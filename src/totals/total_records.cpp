@@ -11,17 +11,17 @@ QString monthId(std::chrono::year_month month) {
                            static_cast<int>(static_cast<unsigned>(month.month())));
 }
 
-std::optional<std::int32_t> savedFigure(const Rows& rows, std::size_t figure) {
-    const int column = static_cast<int>(figure);
+std::optional<std::int32_t> savedFigure(const Rows& rows, const QuantityFacts& facts) {
+    const int column = static_cast<int>(placeOf(facts.id));
     if (rows.isNull(column)) return {};
-    if (figureForm(figure) == FigureForm::Days) return hundredths(rows.real(column));
+    if (facts.unit == Unit::Days) return hundredths(rows.real(column));
     return static_cast<std::int32_t>(rows.integer(column));
 }
 
 TotalRow savedMonth(const Rows& rows, bool byStaff) {
-    constexpr int behind = totalFigures;
+    constexpr int behind = quantityCount;
     TotalRow row;
-    for (std::size_t i = 0; i < totalFigures; ++i) row.figures[i] = savedFigure(rows, i);
+    for (const QuantityFacts& facts : quantities) row.figures[placeOf(facts.id)] = savedFigure(rows, facts);
     row.personalApproval = rows.yes(behind);
     row.superiorApproval = rows.yes(behind + 1);
     row.term = rows.text(behind + 2);
@@ -39,14 +39,13 @@ TotalRow savedMonth(const Rows& rows, bool byStaff) {
 
 std::vector<TotalRow> readSavedMonths(Connection& connection, const TotalsQuestion& question, bool byStaff) {
     // The years alone go through the index.
-    const QString statement = QStringLiteral(
-        "SELECT F_WorkDay, F_Work, F_PaidTotal, F_LegalOver, F_Over, F_Late, F_Early, F_Holiday, F_HolidayLate, "
-        "F_LegalHoliday, F_LegalLate, F_Absent, F_Paid, F_Special, F_Compens, F_AbsentDay, F_LateEnter, "
-        "F_EarlyLeave, F_PersonalApproval, F_SuperiorApproval, F_Term, T05_Approved.F_Section, F_Year, F_Month, "
-        "C03_Staff.F_StaffCode, C03_Staff.F_StaffName, C03_Staff.F_Order "
-        "FROM T05_Approved INNER JOIN C03_Staff ON T05_Approved.F_Staff = C03_Staff.F_StaffCode "
-        "WHERE (T05_Approved.F_Year BETWEEN ? AND ?) "
-        "AND (T05_Approved.F_Year & T05_Approved.F_Month BETWEEN ? AND ?) AND ");
+    const QString statement =
+        QStringLiteral("SELECT ") + quantityFields() +
+        QStringLiteral(", F_PersonalApproval, F_SuperiorApproval, F_Term, T05_Approved.F_Section, F_Year, F_Month, "
+                       "C03_Staff.F_StaffCode, C03_Staff.F_StaffName, C03_Staff.F_Order "
+                       "FROM T05_Approved INNER JOIN C03_Staff ON T05_Approved.F_Staff = C03_Staff.F_StaffCode "
+                       "WHERE (T05_Approved.F_Year BETWEEN ? AND ?) "
+                       "AND (T05_Approved.F_Year & T05_Approved.F_Month BETWEEN ? AND ?) AND ");
     const QString filter = question.staff.isEmpty()
                                ? QStringLiteral("(T05_Approved.F_Section = ?) AND (C03_Staff.F_Display = True);")
                                : QStringLiteral("(T05_Approved.F_Staff = ?);");

@@ -1,17 +1,9 @@
 #include "totals/total_rules.h"
 
-#include "card/edit/card_entries.h"
+#include "month/figure_texts.h"
 #include "totals/totals.h"
 
 namespace kurbo {
-namespace {
-
-// A figure stands in the column that it has on the card.
-SumForm formOf(int column, int countUnit) {
-    return sumForm(static_cast<CardColumn>(column), countUnit);
-}
-
-} // namespace
 
 QString withoutMark(const QString& text) {
     if (text.endsWith(u')')) return text.left(text.lastIndexOf(u'('));
@@ -31,20 +23,23 @@ bool TotalSheet::hasFigures(int row) const {
 }
 
 bool isFigure(int column, int countUnit, const QString& text) {
-    const SumForm form = formOf(column, countUnit);
+    const QuantityFacts* const facts = quantityAt(static_cast<TotalColumn>(column));
+    if (!facts) return false;
+    const SumForm form = sumForm(*facts, countUnit);
     return isSum(form, form == SumForm::Hours ? withoutMark(text) : text);
 }
 
 bool TotalRules::mayEdit(int row, int column) const {
     const QString staff = sheet_.staffOf(row);
-    const bool figure = column >= firstFigure && column < firstFigure + static_cast<int>(totalFigures);
+    const bool figure = quantityAt(static_cast<TotalColumn>(column)) != nullptr;
     if (sheet_.blnFileMode || staff.isEmpty() || !figure || !sheet_.hasFigures(row)) return false;
     return session_.access.has(staff == session_.SessionStaff ? Right::WriteMyMonthly : Right::WriteOtherMonthly);
 }
 
 QString TotalRules::refusal(int /*row*/, int column, const QString& text) const {
     if (isFigure(column, sheet_.plngCountUnit, text)) return {};
-    return QStringLiteral("不正な入力です。") + sumDemand(formOf(column, sheet_.plngCountUnit));
+    return QStringLiteral("不正な入力です。") +
+           sumDemand(sumForm(*quantityAt(static_cast<TotalColumn>(column)), sheet_.plngCountUnit));
 }
 
 void TotalRules::edited(int /*row*/, int /*column*/) {

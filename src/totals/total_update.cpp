@@ -1,8 +1,8 @@
 #include "totals/total_update.h"
 
-#include "card/edit/card_entries.h"
-#include "month/month_fields.h"
-#include "screen/fields/field_tests.h"
+#include "base/field_tests.h"
+#include "month/figure_texts.h"
+#include "month/saved_figures.h"
 #include "store/record_set.h"
 #include "totals/totals.h"
 
@@ -24,24 +24,23 @@ QString cellOf(const TotalSheet& sheet, int row, int column) {
     return sheet.grid.TextMatrix(row, column);
 }
 
-QString nameOf(const TotalSheet& sheet, int column) {
-    if (column == 3) return QStringLiteral("の出勤日数");
-    if (column == 4) return QStringLiteral("の実働時間");
-    return column == 5 ? QStringLiteral("の有給残数") : cellOf(sheet, 0, column);
+QString nameOf(const QuantityFacts& facts) {
+    return (facts.shown ? QString() : QStringLiteral("の")) + QString::fromUtf16(facts.heading);
 }
 
-QString demandOf(int column, int countUnit, const QString& text) {
-    const SumForm form = sumForm(static_cast<CardColumn>(column), countUnit);
+QString demandOf(const QuantityFacts& facts, int countUnit, const QString& text) {
+    const SumForm form = sumForm(facts, countUnit);
     if (form == SumForm::Number && !IsSingleByte(text)) return QStringLiteral("半角で入力して下さい。");
     return sumDemand(form);
 }
 
 void checkRow(const TotalSheet& sheet, int row) {
-    for (int column = firstFigure; column < firstFigure + static_cast<int>(totalFigures); ++column) {
+    for (const QuantityFacts& facts : quantities) {
+        const int column = static_cast<int>(totalColumnOf(facts.id));
         const QString text = cellOf(sheet, row, column);
         if (text.isEmpty() || isFigure(column, sheet.plngCountUnit, text)) continue;
-        throw Complaint(cellOf(sheet, row, 1) + u' ' + cellOf(sheet, row, 2) + nameOf(sheet, column) +
-                        QStringLiteral("が不正です。") + demandOf(column, sheet.plngCountUnit, text));
+        throw Complaint(cellOf(sheet, row, 1) + u' ' + cellOf(sheet, row, 2) + nameOf(facts) +
+                        QStringLiteral("が不正です。") + demandOf(facts, sheet.plngCountUnit, text));
     }
 }
 
@@ -55,10 +54,10 @@ void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const
                      QStringLiteral("SELECT *, F_Year & F_Month AS F_YearMonth From T05_Approved WHERE (F_Staff = ?);"),
                      {staff});
     if (!months.filter(QStringLiteral("F_YearMonth = ?"), {month})) return;
-    for (const MonthField& field : monthFields) {
-        const QString cell = cellOf(sheet, row, static_cast<int>(field.column));
-        const QString figure = field.kind == MonthKind::Time ? withoutMark(cell) : cell;
-        months.set(field.field(), figureOf(field, figure, sheet.plngCountUnit));
+    for (const QuantityFacts& facts : quantities) {
+        const QString cell = cellOf(sheet, row, static_cast<int>(totalColumnOf(facts.id)));
+        const QString figure = facts.unit == Unit::Time ? withoutMark(cell) : cell;
+        months.set(QString::fromUtf16(facts.field), figureOf(facts, figure, sheet.plngCountUnit));
     }
     for (const QString& mark : {QStringLiteral("F_PersonalApproval"), QStringLiteral("F_SuperiorApproval")})
         months.set(mark, Value::yesNo(false));

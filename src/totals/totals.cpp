@@ -1,6 +1,5 @@
 #include "totals/totals.h"
 
-#include "card/card_cells.h"
 #include "month/loaders.h"
 #include "month/month_pass.h"
 #include "month/people_rules.h"
@@ -88,8 +87,8 @@ class Calculation final {
     }
 
     void hideColumns() {
-        constexpr auto first = static_cast<std::size_t>(TotalColumn::LegalOver);
-        for (std::size_t i = 0; i < sumSwitches.size(); ++i) totals_.hidden[first + i] = !(style_.*sumSwitches[i]);
+        for (const QuantityFacts& facts : dayQuantities)
+            totals_.hidden[static_cast<std::size_t>(totalColumnOf(facts.id))] = !(style_.*facts.shown);
         for (const TotalColumn column : {TotalColumn::Order, TotalColumn::Staff})
             totals_.hidden[static_cast<std::size_t>(column)] = true;
         totals_.hidden[static_cast<std::size_t>(TotalColumn::Difference)] = !style_.pbleEnableDiff;
@@ -194,13 +193,10 @@ class Calculation final {
 
     static void setFigures(TotalRow& row, const Figures& sum, const clsWorkTime& rules) {
         constexpr std::int32_t half = 50;
-        auto figure = row.figures.begin();
-        *figure++ = sum.workDays;
-        *figure++ = sum.work;
-        *figure++ = hundredths(static_cast<double>(rules.psngPaidTotal)) - sum.paidHalves * half;
-        for (const auto& minutes : timeColumns) *figure++ = sum.*minutes;
-        for (const auto& halves : leaveColumns) *figure++ = sum.*halves * half;
-        for (const auto& count : countColumns) *figure++ = sum.*count;
+        for (const QuantityFacts& facts : quantities)
+            row.figures[placeOf(facts.id)] =
+                !facts.member ? hundredths(static_cast<double>(rules.psngPaidTotal)) - sum.paidHalves * half
+                              : sum.*facts.member * (facts.unit == Unit::Days ? half : 1);
         if (rules.pbleFlexTime) row.difference = sum.difference;
     }
 
@@ -216,13 +212,6 @@ class Calculation final {
 };
 
 } // namespace
-
-FigureForm figureForm(std::size_t figure) {
-    const auto column = static_cast<TotalColumn>(figure + firstFigure);
-    if (column == TotalColumn::PaidTotal || (column >= TotalColumn::Paid && column <= TotalColumn::Compens))
-        return FigureForm::Days;
-    return column == TotalColumn::WorkDay || column >= TotalColumn::AbsentDay ? FigureForm::Count : FigureForm::Hours;
-}
 
 std::optional<Totals> calculateTotals(const Context& context, Connection& connection, const TotalsQuestion& question) {
     return guarded(context, u"frmTotal", u"ShowTotal", std::optional<Totals>(), [&]() -> std::optional<Totals> {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/guard.h"
+#include "month/quantities.h"
 #include "store/connection.h"
 
 #include <QString>
@@ -13,44 +14,34 @@
 
 namespace kurbo {
 
-// Columns of the totals. First and second are name and month, or month and name.
+// Columns of the totals. First and second are name and month, or month and name; then the quantities.
 enum class TotalColumn {
     Blank,
     First,
     Second,
     WorkDay,
-    Work,
-    PaidTotal,
-    LegalOver,
-    Over,
-    Late,
-    Early,
-    Holiday,
-    HolidayLate,
-    LegalHoliday,
-    LegalLate,
-    Absent,
-    Paid,
-    Special,
-    Compens,
-    AbsentDay,
-    LateEnter,
-    EarlyLeave,
-    Personal,
+    Work = columnFrom(WorkDay, Quantity::Work),
+    LegalOver = columnFrom(WorkDay, Quantity::LegalOver),
+    Over = columnFrom(WorkDay, Quantity::Over),
+    Paid = columnFrom(WorkDay, Quantity::Paid),
+    Personal = WorkDay + static_cast<int>(quantityCount),
     Superior,
     Term,
     Order,
     Staff,
     Difference,
 };
-inline constexpr int totalColumns = 27;
+inline constexpr int totalColumns = static_cast<int>(TotalColumn::Difference) + 1;
 
-// The figures stand in the columns 3 to 20.
-inline constexpr int firstFigure = 3;
-inline constexpr std::size_t totalFigures = 18;
-// What a figure counts: one by one, in minutes, or in hundredths of a day.
-enum class FigureForm { Count, Hours, Days };
-[[nodiscard]] FigureForm figureForm(std::size_t figure);
+[[nodiscard]] constexpr TotalColumn totalColumnOf(Quantity id) {
+    return static_cast<TotalColumn>(columnFrom(static_cast<int>(TotalColumn::WorkDay), id));
+}
+// The quantity that stands in the column; none in the other columns.
+[[nodiscard]] constexpr const QuantityFacts* quantityAt(TotalColumn column) {
+    return column >= TotalColumn::WorkDay && column < TotalColumn::Personal
+               ? &quantities[static_cast<std::size_t>(column) - static_cast<std::size_t>(TotalColumn::WorkDay)]
+               : nullptr;
+}
 
 // A month of one person.
 struct TotalRow {
@@ -59,7 +50,8 @@ struct TotalRow {
     QString section; // that the record names; of a calculated month the person's own
     std::chrono::year_month month;
     QString term; // the period, "yyyy/mm/dd-yyyy/mm/dd"
-    std::array<std::optional<std::int32_t>, totalFigures> figures;
+    // In the places of their quantities: counts, minutes, and hundredths of days.
+    std::array<std::optional<std::int32_t>, quantityCount> figures;
     // From the standard time, in minutes: of a calculated month in flexible work.
     std::optional<std::int32_t> difference;
     bool saved = false;

@@ -3,7 +3,7 @@
 #include "card/card_office.h"
 #include "card/card_screen.h"
 #include "card/sheet.h"
-#include "month/month_fields.h"
+#include "month/saved_figures.h"
 
 namespace kurbo::test {
 namespace {
@@ -18,7 +18,7 @@ class Monthly : public CardOffice {
     }
     static QString sums(const GridModel& grid, int row) {
         QStringList cells;
-        for (const MonthField& field : monthFields) cells.append(cardText(grid, row, field.column));
+        for (const QuantityFacts& facts : quantities) cells.append(cardText(grid, row, cardColumnOf(facts.id)));
         return cells.join(u'|');
     }
     bool save(int month, const QString& finalSums) {

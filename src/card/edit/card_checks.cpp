@@ -3,6 +3,7 @@
 #include "card/card_grid.h"
 #include "card/edit/card_entries.h"
 #include "card/edit/card_times.h"
+#include "month/figure_texts.h"
 
 #include <array>
 
@@ -76,13 +77,13 @@ QString sumName(const GridModel& grid, CardColumn column) {
 }
 
 void checkSums(const GridModel& grid, const clsWorkTime& rules) {
-    for (int i = 0; i < cardColumns; ++i) {
-        const auto column = static_cast<CardColumn>(i);
-        const SumForm form = sumForm(column, rules.plngCountUnit);
+    for (const QuantityFacts& facts : quantities) {
+        const CardColumn column = cardColumnOf(facts.id);
+        const SumForm form = sumForm(facts, rules.plngCountUnit);
         const QString sum = cardText(grid, finalSumRow, column);
         // A time difference is never typed.
         const bool typed = column != CardColumn::LegalOver || !rules.pbleFlexTime;
-        if (form == SumForm::None || !typed || sum.isEmpty() || isSum(form, sum)) continue;
+        if (!typed || sum.isEmpty() || isSum(form, sum)) continue;
         throw Complaint(sumName(grid, column) + QStringLiteral("が不正です。") + sumDemand(form));
     }
 }

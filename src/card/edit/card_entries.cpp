@@ -1,7 +1,8 @@
 #include "card/edit/card_entries.h"
 
+#include "base/failure.h"
 #include "base/system/code_page.h"
-#include "screen/fields/field_tests.h"
+#include "month/figure_texts.h"
 
 namespace kurbo {
 
@@ -12,26 +13,6 @@ bool isPlanText(const QString& text) {
 
 bool isLeaveWord(const QString& text) {
     return !leaveCode(text).isEmpty();
-}
-
-bool isNumberText(const QString& text) {
-    return IsSingleByte(text) && isNumeric(text);
-}
-
-bool isHourText(const QString& text) {
-    const qsizetype colon = text.size() - 3;
-    return colon >= 0 && text[colon] == u':' && IsSingleByte(text) && IsIntegerText(text.left(colon)) &&
-           IsIntegerText(text.right(2));
-}
-
-SumForm sumForm(CardColumn column, int countUnit) {
-    const bool hours = column == CardColumn::Enter || (column >= CardColumn::LegalOver && column <= CardColumn::Absent);
-    if (hours) return countUnit == 0 ? SumForm::Number : SumForm::Hours;
-    return column >= CardColumn::Plan && column <= CardColumn::EarlyLeave ? SumForm::Number : SumForm::None;
-}
-
-bool isSum(SumForm form, const QString& text) {
-    return form == SumForm::Hours ? isHourText(text) : form == SumForm::Number && isNumberText(text);
 }
 
 QString planDemand() {
@@ -57,12 +38,6 @@ QString nextDayDemand() {
                  QStringLiteral("欄に(mm/dd)hh:mm形式(半角)で退社日付を加えて入力します。"),
                  QStringLiteral("例：1月30日からの勤務で翌1月31日の18:12に退社した場合は"),
                  QStringLiteral("1月30日の退社時刻欄に下記の様に入力します。"), QStringLiteral("    (01/31)18:12"));
-}
-
-QString sumDemand(SumForm form) {
-    if (form == SumForm::Number) return QStringLiteral("数値(半角)を入力して下さい。");
-    return lines(QStringLiteral("時間を入力して下さい。"), QStringLiteral("時間はh:mm形式(半角)で入力します。"),
-                 QStringLiteral("例：30時間30分の場合は下記の様に入力します。"), QStringLiteral("    30:30"));
 }
 
 } // namespace kurbo

@@ -1,11 +1,12 @@
 #include "card/edit/card_rules.h"
 
 #include "base/failure.h"
+#include "base/field_tests.h"
 #include "card/card_cells.h"
 #include "card/card_grid.h"
 #include "card/edit/card_entries.h"
 #include "card/edit/card_times.h"
-#include "screen/fields/field_tests.h"
+#include "month/figure_texts.h"
 
 #include <algorithm>
 #include <array>
@@ -132,7 +133,9 @@ QString CardRules::comboList(int row, int column) const {
 QString CardRules::refusal(int row, int column, const QString& text) const {
     const auto own = static_cast<CardColumn>(column);
     if (row < firstCardDay) {
-        const SumForm form = sumForm(own, rules_.plngCountUnit);
+        const QuantityFacts* const facts = quantityAt(own);
+        if (!facts) return refused(sumDemand(SumForm::Hours));
+        const SumForm form = sumForm(*facts, rules_.plngCountUnit);
         return isSum(form, text) ? QString() : refused(sumDemand(form));
     }
     const auto day = dayOfRow(sheet_.grid.TextMatrix(row, static_cast<int>(CardColumn::Date)));

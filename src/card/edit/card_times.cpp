@@ -1,6 +1,6 @@
 #include "card/edit/card_times.h"
 
-#include "screen/fields/field_tests.h"
+#include "base/field_tests.h"
 
 namespace kurbo {
 namespace {

@@ -2,6 +2,7 @@
 
 #include "card/card_grid.h"
 #include "card/edit/card_times.h"
+#include "month/figure_texts.h"
 #include "store/fresh_keys.h"
 #include "store/readers.h"
 

@@ -1,9 +1,9 @@
 #include "card/outings/go_out.h"
 
+#include "base/field_tests.h"
 #include "base/product.h"
 #include "card/edit/card_times.h"
 #include "card/outings/go_out_store.h"
-#include "screen/fields/field_tests.h"
 
 namespace kurbo {
 namespace {

@@ -1,7 +1,7 @@
 #include "card/outings/go_out_rules.h"
 
+#include "base/field_tests.h"
 #include "base/system/code_page.h"
-#include "screen/fields/field_tests.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "card/outings/go_out_sheet.h"
 
+#include "base/field_tests.h"
 #include "base/numbers.h"
-#include "screen/fields/field_tests.h"
 #include "screen/grid/grid_format.h"
 
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "screen/fields/masked_box.h"
 
-#include "screen/fields/field_tests.h"
+#include "base/field_tests.h"
 #include "screen/fields/fields.h"
 #include "screen/fields/leave_check.h"
 

@@ -1,6 +1,6 @@
 #include "settings/people/password.h"
 
-#include "screen/fields/field_tests.h"
+#include "base/field_tests.h"
 #include "store/access.h"
 #include "store/record_set.h"
 

@@ -1,8 +1,8 @@
 #include "settings/people/staff_settings.h"
 
 #include "base/failure.h"
+#include "base/field_tests.h"
 #include "base/numbers.h"
-#include "screen/fields/field_tests.h"
 #include "store/record_set.h"
 
 namespace kurbo {

@@ -1,8 +1,8 @@
 #include "settings/records/record_fields.h"
 
 #include "base/failure.h"
+#include "base/field_tests.h"
 #include "base/system/code_page.h"
-#include "screen/fields/field_tests.h"
 #include "screen/fields/prefectures.h"
 #include "settings/settings_steps.h"
 

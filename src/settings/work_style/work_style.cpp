@@ -1,26 +1,32 @@
 #include "settings/work_style/work_style.h"
 
 #include "base/failure.h"
+#include "base/field_tests.h"
 #include "base/numbers.h"
-#include "screen/fields/field_tests.h"
+#include "month/quantities.h"
 #include "settings/settings_steps.h"
 #include "store/record_set.h"
+
+#include <algorithm>
+#include <array>
 
 namespace kurbo {
 namespace {
 
-constexpr std::array displayFields{u"F_Diff",      u"F_LegalOver", u"F_Over",        u"F_Late",
-                                   u"F_Early",     u"F_Holiday",   u"F_HolidayLate", u"F_LegalHoliday",
-                                   u"F_LegalLate", u"F_Absent",    u"F_Paid",        u"F_Special",
-                                   u"F_Compens",   u"F_AbsentDay", u"F_LateEnter",   u"F_EarlyLeave"};
+constexpr auto displayFields = [] {
+    std::array<const char16_t*, 1 + dayQuantities.size()> fields{u"F_Diff"};
+    std::ranges::transform(dayQuantities, fields.begin() + 1, &QuantityFacts::field);
+    return fields;
+}();
 static_assert(displayFields.size() == WorkStyle::displays);
 
 QString statement() {
     return QStringLiteral(
-        "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, F_PmFlex, "
-        "F_PmFlexStandard, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, F_Diff, "
-        "F_LegalOver, F_Over, F_Late, F_Early, F_Holiday, F_HolidayLate, F_LegalHoliday, F_LegalLate, F_Absent, "
-        "F_Paid, F_Special, F_Compens, F_AbsentDay, F_LateEnter, F_EarlyLeave FROM M01_CorpInfo;");
+               "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, "
+               "F_PmFlex, "
+               "F_PmFlexStandard, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, "
+               "F_Diff, ") +
+           switchFields() + QStringLiteral(" FROM M01_CorpInfo;");
 }
 
 bool isBlank(const QString& time) {

@@ -2,8 +2,8 @@
 
 #include "base/day.h"
 #include "base/failure.h"
+#include "base/field_tests.h"
 #include "base/numbers.h"
-#include "screen/fields/field_tests.h"
 
 namespace kurbo {
 

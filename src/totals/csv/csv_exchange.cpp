@@ -2,7 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/product.h"
-#include "month/month_fields.h"
+#include "month/saved_figures.h"
 #include "store/record_set.h"
 
 #include <optional>
@@ -11,11 +11,8 @@ namespace kurbo {
 namespace {
 
 QString savedStatement(bool onePerson) {
-    QString figures;
-    for (const MonthField& field : monthFields)
-        figures += QStringLiteral("T05_Approved.") + field.field() + QStringLiteral(", ");
-    return QStringLiteral("SELECT ") + figures +
-           QStringLiteral("T05_Approved.F_Staff, T05_Approved.F_Year, T05_Approved.F_Month, "
+    return QStringLiteral("SELECT ") + quantityFields(u"T05_Approved") +
+           QStringLiteral(", T05_Approved.F_Staff, T05_Approved.F_Year, T05_Approved.F_Month, "
                           "T05_Approved.F_PersonalApproval, T05_Approved.F_SuperiorApproval, T05_Approved.F_Term "
                           "FROM T05_Approved INNER JOIN C03_Staff ON T05_Approved.F_Staff = C03_Staff.F_StaffCode "
                           "WHERE (T05_Approved.F_Year & T05_Approved.F_Month BETWEEN ? AND ?) AND ") +
@@ -27,13 +24,13 @@ QString savedStatement(bool onePerson) {
 
 Value figureOf(const Rows& rows, int column) {
     const Value value = rows.value(column);
-    const bool days = monthFields[static_cast<std::size_t>(column)].kind == MonthKind::Days;
+    const bool days = quantities[static_cast<std::size_t>(column)].unit == Unit::Days;
     return days && !value.isNull() ? Value(static_cast<double>(singleOf(value.real()))) : value;
 }
 
 MonthRecord recordOf(const Rows& rows, const QString& section) {
     MonthRecord record;
-    constexpr int figures = static_cast<int>(monthFields.size());
+    constexpr int figures = static_cast<int>(quantityCount);
     for (int i = 0; i < figures; ++i) record.figures[static_cast<std::size_t>(i)] = figureOf(rows, i);
     record.staff = rows.text(figures);
     record.section = section;
@@ -50,7 +47,8 @@ void setRecord(RecordSet& months, const MonthRecord& record) {
     months.set(QStringLiteral("F_Section"), record.section);
     months.set(QStringLiteral("F_Year"), record.year);
     months.set(QStringLiteral("F_Month"), record.month);
-    for (std::size_t i = 0; i < monthFields.size(); ++i) months.set(monthFields[i].field(), record.figures[i]);
+    for (const QuantityFacts& facts : quantities)
+        months.set(QString::fromUtf16(facts.field), record.figures[placeOf(facts.id)]);
     months.set(QStringLiteral("F_PersonalApproval"), Value::yesNo(record.personalApproval));
     months.set(QStringLiteral("F_SuperiorApproval"), Value::yesNo(record.superiorApproval));
     months.set(QStringLiteral("F_Term"), Value::textOrNull(record.term));

@@ -16,40 +16,40 @@ enum class Form { Code, Year, Month, Count, Minutes, Balance, Days, Mark, Term }
 
 // A figure has neither member.
 struct Field {
-    const char16_t* title;
-    Form form;
+    const char16_t* title = nullptr;
+    Form form = Form::Code;
     QString MonthRecord::*text = nullptr;
     bool MonthRecord::*mark = nullptr;
 };
 
-constexpr std::array fields{
-    Field{u"社員ｺｰﾄﾞ", Form::Code, &MonthRecord::staff},
-    Field{u"部課ｺｰﾄﾞ", Form::Code, &MonthRecord::section},
-    Field{u"年", Form::Year, &MonthRecord::year},
-    Field{u"月", Form::Month, &MonthRecord::month},
-    Field{u"出勤日数", Form::Count},
-    Field{u"実働時間", Form::Minutes},
-    Field{u"有給残数", Form::Balance},
-    Field{u"法内残業", Form::Minutes},
-    Field{u"普通残業", Form::Minutes},
-    Field{u"深夜残業", Form::Minutes},
-    Field{u"早出勤務", Form::Minutes},
-    Field{u"休日出勤", Form::Minutes},
-    Field{u"休日深夜", Form::Minutes},
-    Field{u"法休出勤", Form::Minutes},
-    Field{u"法休深夜", Form::Minutes},
-    Field{u"欠勤時間", Form::Minutes},
-    Field{u"有給", Form::Days},
-    Field{u"特休", Form::Days},
-    Field{u"代休", Form::Days},
-    Field{u"欠勤", Form::Count},
-    Field{u"遅刻", Form::Count},
-    Field{u"早退", Form::Count},
-    Field{u"本人", Form::Mark, nullptr, &MonthRecord::personalApproval},
-    Field{u"所長", Form::Mark, nullptr, &MonthRecord::superiorApproval},
-    Field{u"集計期間", Form::Term, &MonthRecord::term},
+constexpr std::array before{
+    Field{.title = u"社員ｺｰﾄﾞ", .form = Form::Code, .text = &MonthRecord::staff},
+    Field{.title = u"部課ｺｰﾄﾞ", .form = Form::Code, .text = &MonthRecord::section},
+    Field{.title = u"年", .form = Form::Year, .text = &MonthRecord::year},
+    Field{.title = u"月", .form = Form::Month, .text = &MonthRecord::month},
 };
-constexpr std::size_t firstFigure = 4;
+constexpr std::array behind{
+    Field{.title = u"本人", .form = Form::Mark, .mark = &MonthRecord::personalApproval},
+    Field{.title = u"所長", .form = Form::Mark, .mark = &MonthRecord::superiorApproval},
+    Field{.title = u"集計期間", .form = Form::Term, .text = &MonthRecord::term},
+};
+
+// The balance is the one number without quotes.
+constexpr Form formOf(const QuantityFacts& facts) {
+    if (facts.id == Quantity::PaidTotal) return Form::Balance;
+    if (facts.unit == Unit::Days) return Form::Days;
+    return facts.unit == Unit::Time ? Form::Minutes : Form::Count;
+}
+
+constexpr auto fields = [] {
+    std::array<Field, before.size() + quantityCount + behind.size()> all{};
+    auto place = std::ranges::copy(before, all.begin()).out;
+    for (const QuantityFacts& facts : quantities)
+        *place++ = {.title = facts.heading, .form = formOf(facts), .text = nullptr, .mark = nullptr};
+    std::ranges::copy(behind, place);
+    return all;
+}();
+constexpr std::size_t firstFigure = before.size();
 constexpr int maxCodeLength = 10;         // bytes
 constexpr int maxNumberLength = 60;       // the longest single without an exponent is shorter
 constexpr qsizetype maxLineLength = 1024; // bytes

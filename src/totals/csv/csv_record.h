@@ -1,6 +1,6 @@
 #pragma once
 
-#include "month/month_fields.h"
+#include "month/quantities.h"
 #include "store/value.h"
 
 #include <QByteArray>
@@ -17,8 +17,9 @@ struct MonthRecord {
     QString section;
     QString year;  // "yyyy"
     QString month; // "mm"
-    // In the order of monthFields: 16-bit counts, minutes, and days in single precision. Null where nothing is stored.
-    std::array<Value, monthFields.size()> figures;
+    // In the places of their quantities: 16-bit counts, minutes, and days in single precision. Null where nothing is
+    // stored.
+    std::array<Value, quantityCount> figures;
     bool personalApproval = false;
     bool superiorApproval = false;
     QString term; // "yyyy/mm/dd-yyyy/mm/dd", or empty

@@ -1,11 +1,12 @@
 #include "totals/csv/csv_review.h"
 
 #include "base/system/files.h"
-#include "card/card_cells.h"
 #include "engine/hours.h"
+#include "month/figure_texts.h"
 
 #include <QHash>
 
+#include <algorithm>
 #include <array>
 
 namespace kurbo {
@@ -17,34 +18,26 @@ struct Heading {
     int width; // twips
 };
 
-constexpr std::array headings{
+constexpr std::array before{
     Heading{u"ﾌｧｲﾙ名", u"CSVﾌｧｲﾙ名", 2200},
     Heading{u"氏名", u"", 1600},
     Heading{u"部課", u"部課名", 1600},
     Heading{u"年月", u"", 800},
     Heading{u"年月", u"", 600},
-    Heading{u"勤日", u"出勤日数", 600},
-    Heading{u"働時", u"実働時間", 800},
-    Heading{u"有残", u"有給休暇残数", 600},
-    Heading{u"法残", u"法定内残業時間", 700},
-    Heading{u"残業", u"普通残業時間", 700},
-    Heading{u"深夜", u"深夜残業時間", 700},
-    Heading{u"早出", u"早出勤務時間", 700},
-    Heading{u"休日", u"休日出勤時間", 700},
-    Heading{u"休夜", u"休日深夜時間", 700},
-    Heading{u"法休", u"法定休日出勤時間", 700},
-    Heading{u"法夜", u"法定休日深夜時間", 700},
-    Heading{u"欠勤", u"", 700},
-    Heading{u"有休", u"有給休暇取得日数", 600},
-    Heading{u"特休", u"特別休暇取得日数", 600},
-    Heading{u"代休", u"代休取得日数", 600},
-    Heading{u"欠勤", u"欠勤回数", 600},
-    Heading{u"遅刻", u"遅刻回数", 600},
-    Heading{u"早退", u"早退回数", 600},
+};
+constexpr std::array behind{
     Heading{u"本人", u"本人承認済", 600},
     Heading{u"所長", u"所属長承認済", 600},
     Heading{u"集計期間", u"集計期間", 2500},
 };
+
+constexpr auto headings = [] {
+    std::array<Heading, before.size() + quantityCount + behind.size()> all{};
+    auto place = std::ranges::copy(before, all.begin()).out;
+    for (const QuantityFacts& facts : quantities) *place++ = {facts.shortHeading, facts.tip, facts.shortWidth};
+    std::ranges::copy(behind, place);
+    return all;
+}();
 
 using Names = QHash<QString, QString>;
 
@@ -54,9 +47,9 @@ Names namesOf(Connection& connection, const QString& statement) {
     return names;
 }
 
-QString figureText(const MonthField& field, const Value& figure, int countUnit) {
-    if (field.kind == MonthKind::Time) return FormatHours(static_cast<Minutes>(figure.integer()), countUnit, false);
-    return field.kind == MonthKind::Days ? daysText(figure.real()) : QString::number(figure.integer());
+QString figureText(const QuantityFacts& facts, const Value& figure, int countUnit) {
+    if (facts.unit == Unit::Time) return FormatHours(static_cast<Minutes>(figure.integer()), countUnit, false);
+    return facts.unit == Unit::Days ? daysText(figure.real()) : QString::number(figure.integer());
 }
 
 QStringList cellsOf(const LoadedMonth& month, const Names& people, const Names& sections, int countUnit) {
@@ -65,8 +58,8 @@ QStringList cellsOf(const LoadedMonth& month, const Names& people, const Names& 
     QStringList cells{FileNameOf(month.file), people.value(record.staff, record.staff),
                       sections.value(record.section, record.section), record.year + QStringLiteral("年"),
                       record.month + QStringLiteral("月")};
-    for (std::size_t i = 0; i < monthFields.size(); ++i)
-        cells.append(figureText(monthFields[i], record.figures[i], countUnit));
+    for (const QuantityFacts& facts : quantities)
+        cells.append(figureText(facts, record.figures[placeOf(facts.id)], countUnit));
     return cells << mark(record.personalApproval) << mark(record.superiorApproval) << record.term;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screen/grid/grid_model.h"
+#include "store/connection.h"
 #include "totals/csv/csv_file.h"
 
 namespace kurbo {

@@ -1,4 +1,4 @@
-#include "screen/fields/field_tests.h"
+#include "base/field_tests.h"
 
 #include "base/day.h"
 #include "base/numbers.h"

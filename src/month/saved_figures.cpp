@@ -1,16 +1,17 @@
-#include "month/month_fields.h"
+#include "month/saved_figures.h"
 
 #include "base/numbers.h"
+#include "engine/hours.h"
 #include "store/engine_fault.h"
 
 namespace kurbo {
 
-Value figureOf(const MonthField& field, const QString& cell, int unit) {
+Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
     if (cell.isEmpty()) return {};
-    if (field.kind == MonthKind::Time) return ParseHours(cell, unit);
+    if (facts.unit == Unit::Time) return ParseHours(cell, unit);
     const auto number = numberOf(cell);
     if (!number) throw storeFault(StoreError::BadValue);
-    if (field.kind == MonthKind::Count) return wholeOf<std::int16_t>(*number);
+    if (facts.unit == Unit::Count) return wholeOf<std::int16_t>(*number);
     return static_cast<double>(singleOf(*number));
 }
 
