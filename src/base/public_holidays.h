@@ -6,6 +6,10 @@
 
 namespace kurbo {
 
+// From the year in which the law took its present form to the last for which the equinoxes are known well enough.
+inline constexpr int firstHolidayYear = 2022;
+inline constexpr int lastHolidayYear = 2099;
+
 struct PublicHoliday {
     Day day;
     QString name;

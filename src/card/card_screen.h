@@ -110,7 +110,6 @@ class CardScreen final {
     // The drawn days are the whole period of the chosen month, which has ended.
     [[nodiscard]] bool showsOwnMonth() const;
     [[nodiscard]] bool isOwnMonth(const QString& command) const;
-    [[nodiscard]] bool rebuildPeriod();
     [[nodiscard]] bool isCardSaved(const QString& demand) const;
     [[nodiscard]] bool agreesWithMissing(const QString& question, Answer preset) const;
     [[nodiscard]] bool agreesToSave() const;

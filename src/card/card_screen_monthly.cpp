@@ -2,6 +2,7 @@
 #include "card/card_screen.h"
 #include "card/edit/card_checks.h"
 #include "card/monthly.h"
+#include "month/loaders.h"
 
 #include <algorithm>
 
@@ -43,13 +44,6 @@ bool CardScreen::mayApproveSuperior() const {
     return isCardShown() && approvable_ && client_.session.access.has(Right::WriteApproval);
 }
 
-// The period of the chosen month into the screen; false for a bad close day.
-bool CardScreen::rebuildPeriod() {
-    const auto period = periodOfMonth(year_, month_, rules_.plngCloseDay());
-    if (period) setPeriod(*period);
-    return period.has_value();
-}
-
 bool CardScreen::isCardSaved(const QString& demand) const {
     if (sheet.blnCardChanged)
         client_.context.prompts.exclaim(
@@ -67,10 +61,11 @@ bool CardScreen::agreesWithMissing(const QString& question, Answer preset) const
 bool CardScreen::agreesToSave() const {
     const QString question = QStringLiteral("月次集計の最終保存データを更新します。");
     if (!isFinalEmpty(sheet.grid)) return agreesWithMissing(question, Answer::Ok);
-    return agreesWithMissing(
-        lines(question, QString(), QStringLiteral("時間調整が行われていないため、合計(最終)が空のまま保存されます。"),
-              QStringLiteral("合計を保存するには、先に時間調整を行って下さい。有給休暇残数は変わりません。")),
-        Answer::Cancel);
+    return agreesWithMissing(lines(question, QString(),
+                                   QStringLiteral("時間調整が行われていないため、合計(最終)が空のまま保存されます。"),
+                                   QStringLiteral("合計を保存するには、先に時間調整を行って下さい。有給休暇残数からは、"
+                                                  "この月の有給が差し引かれません。")),
+                             Answer::Cancel);
 }
 
 bool CardScreen::adjust() {
@@ -100,6 +95,8 @@ bool CardScreen::updateMonthly() {
         client_.context.prompts.exclaim(QStringLiteral("月次集計の最終保存データを更新できませんでした。"));
         return false;
     }
+    // The balance has followed; what the card shows of it holds.
+    (void)GetStaffInfo(client_.context, connection(), rules_, staff_);
     setPeriod(drawn_);
     sheet.blnMonthChanged = monthUnsaved_ = false;
     for (int row = 1; row < firstCardDay; ++row) sheet.grid.RowStatus(row, GridStatus::None);
@@ -124,6 +121,8 @@ bool CardScreen::approve(const Mark& mark, bool approved, const QString& start, 
     }
     if (!hasName() || !isCardSaved(QStringLiteral("タイムカードの追加・変更を更新後、承認を行って下さい。")))
         return false;
+    const bool dated = parseSlashDate(start) && parseSlashDate(end);
+    if (!dated && !isOwnMonth(QStringLiteral("承認"))) return false;
     const QString question = approved ? QStringLiteral("月次集計の最終保存データを承認します。")
                                       : QStringLiteral("月次集計の最終保存データの承認を取り消します。");
     if (prompts.ask({{},
@@ -132,15 +131,15 @@ bool CardScreen::approve(const Mark& mark, bool approved, const QString& start, 
                      Buttons::OkCancel,
                      approved ? Answer::Ok : Answer::Cancel}) != Answer::Ok)
         return false;
-    const bool dated = parseSlashDate(start) && parseSlashDate(end);
-    if ((dated || rebuildPeriod()) && storeMark(mark, approved)) return true;
+    setPeriod(drawn_);
+    if (storeMark(mark, approved)) return true;
     prompts.exclaim(approved ? QStringLiteral("月次集計の最終保存データの承認に失敗しました。")
                              : QStringLiteral("月次集計の最終保存データの承認取り消しに失敗しました。"));
     return false;
 }
 
 bool CardScreen::storeMark(const Mark& mark, bool approved) {
-    const bool stored = mark.store(client_.context, connection(), staff_, period_.to, approved);
+    const bool stored = mark.store(client_.context, connection(), staff_, drawn_.to, approved);
     if (stored) this->*mark.given = approved;
     return stored;
 }

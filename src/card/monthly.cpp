@@ -66,6 +66,17 @@ void setFigures(RecordSet& months, const CardSheet& sheet, const clsWorkTime& ru
     months.set(QStringLiteral("F_Term"), slashDate(period.from) + u'-' + slashDate(period.to));
 }
 
+// Somebody may have saved another month since the card was drawn: its leave would be given back.
+void refuseStaleBalance(Connection& connection, const clsWorkTime& rules, const QString& staff, const QString& month) {
+    const auto balance = connection.firstValue(
+        QStringLiteral("SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = ?);"), {staff});
+    if (!balance || balance->isNull() || static_cast<float>(balance->real()) == rules.psngPaidTotal ||
+        hasLaterMonth(connection, staff, month))
+        return;
+    throw Complaint(lines(QStringLiteral("有給休暇残数が、タイムカードの表示後に変更されています。"),
+                          QStringLiteral("再表示してから、時間調整と月次更新をやり直して下さい。")));
+}
+
 bool updateMark(Connection& connection, const QString& mark, const QString& staff, Day end, bool approved) {
     const QString month = dateId(end);
     Transaction transaction(connection);
@@ -109,10 +120,12 @@ bool UpdateMonthly(const Context& context, Connection& connection, const CardShe
             takeApprovals(months);
         else
             addMonth(months, owner, month);
+        const double taken = leaveTaken(months);
         setFigures(months, sheet, rules, owner.period);
         const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
+        if (!paidTotal.isNull()) refuseStaleBalance(connection, rules, owner.staff, month);
         months.updateBatch();
-        followBalance(connection, owner.staff, month, paidTotal);
+        followBalance(connection, owner.staff, month, paidTotal, taken);
         transaction.commit();
         return true;
     });

@@ -3,6 +3,7 @@
 #include "ctl/console.h"
 #include "ctl/questions.h"
 #include "store/file/database_file.h"
+#include "store/text_order.h"
 #include "totals/csv/csv_exchange.h"
 #include "totals/csv/csv_file.h"
 
@@ -24,6 +25,14 @@ CsvSpan spanOf(const Options& options) {
     return span;
 }
 
+// The lines would name the section that was asked for.
+void refuseOutsider(Connection& connection, const CsvSpan& span) {
+    const CodeName home = askedPerson(connection, span.staff).section;
+    if (compareText(home.code, span.section) != 0)
+        throw Complaint(
+            QStringLiteral("社員コード「%1」は部課コード「%2」に所属していません。").arg(span.staff, span.section));
+}
+
 Exit runExport(const Options& options) {
     const CsvSpan span = spanOf(options);
     const QString out = options.needed(QStringLiteral("out"));
@@ -32,7 +41,7 @@ Exit runExport(const Options& options) {
     Connection connection;
     connection.open(options.place(0), databasePassword());
     (void)askedSection(connection, span.section);
-    if (!span.staff.isEmpty()) (void)askedPerson(connection, span.staff);
+    if (options.has(QStringLiteral("staff"))) refuseOutsider(connection, span);
     const QList<MonthRecord> months = savedMonths(connection, span);
     connection.close();
     if (months.isEmpty()) throw Complaint(QStringLiteral("更新済の月次集計データがありません。"));

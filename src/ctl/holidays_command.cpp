@@ -7,11 +7,8 @@
 namespace kurbo {
 namespace {
 
-// From the year in which the law took its present form to the last for which the equinoxes are known well enough.
 Exit runHolidays(const Options& options) {
-    constexpr int firstYear = 2022;
-    constexpr int lastYear = 2099;
-    const int year = options.number(QStringLiteral("year"), firstYear, firstYear, lastYear);
+    const int year = options.number(QStringLiteral("year"), firstHolidayYear, firstHolidayYear, lastHolidayYear);
     if (!options.has(QStringLiteral("overwrite"))) refuseExisting(options.place(0));
     replaceFile(chosenFile(options.place(0)), holidayFileOf(year));
     return Exit::Done;

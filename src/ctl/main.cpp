@@ -57,7 +57,7 @@ Exit runNamed(const QStringList& arguments) {
         return Exit::Done;
     }
     if (command) return run(*command, arguments.mid(2));
-    complain(helpOf(commands));
+    complain(QStringLiteral("kurboctl: no such command: %1\n").arg(name) + helpOf(commands));
     return Exit::WrongUse;
 }
 

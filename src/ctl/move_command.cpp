@@ -1,7 +1,9 @@
+#include "base/system/files.h"
 #include "ctl/commands.h"
 #include "ctl/console.h"
 #include "maintenance/data_move.h"
 #include "store/file/database_file.h"
+#include "store/file/lock_file.h"
 
 #include <QFileInfo>
 
@@ -45,6 +47,8 @@ Exit runMove(const Options& options) {
     const QString database = options.place(0);
     checkMove(console.context(), database, order);
     refuseRunning(options, order, console.context().clock.today());
+    // A killed move has left it, and nobody holds it.
+    LockFile::removeStale(realPath(database));
     Connection none;
     const QString word = carryOut(console.context(), none, database, order);
     if (word == u"OK") {

@@ -71,6 +71,8 @@ TotalsQuestion askedTotals(const Options& options) {
     const bool section = options.has(QStringLiteral("section"));
     if (section == options.has(QStringLiteral("staff")))
         throw WrongUse{QStringLiteral("totals takes either --section or --staff")};
+    for (const char16_t* const name : {u"section", u"staff"})
+        if (options.has(QString::fromUtf16(name))) (void)options.needed(QString::fromUtf16(name));
     TotalsQuestion question;
     question.section = options.value(QStringLiteral("section"));
     question.staff = options.value(QStringLiteral("staff"));

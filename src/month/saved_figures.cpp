@@ -16,15 +16,26 @@ Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
 }
 
 bool hasLaterMonth(Connection& connection, const QString& staff, const QString& yearMonth) {
-    return connection.hasRow(
-        QStringLiteral("SELECT F_Staff FROM T05_Approved WHERE (F_Staff = ?) AND (F_Year & F_Month > ?);"),
-        {staff, yearMonth});
+    return connection.hasRow(QStringLiteral("SELECT F_Staff FROM T05_Approved WHERE (F_Staff = ?) "
+                                            "AND (F_Year & F_Month > ?) AND (F_PaidTotal Is Not Null);"),
+                             {staff, yearMonth});
 }
 
-void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal) {
-    if (paidTotal.isNull() || hasLaterMonth(connection, staff, yearMonth)) return;
-    connection.execute(QStringLiteral("UPDATE M02_StaffInfo SET F_PaidTotal = ? WHERE (F_StaffCode = ?)"),
-                       {paidTotal, staff});
+double leaveTaken(const RecordSet& month) {
+    const Value paid = month.value(QStringLiteral("F_Paid"));
+    return paid.isNull() || month.value(QStringLiteral("F_PaidTotal")).isNull() ? 0 : paid.real();
+}
+
+void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal,
+                   double taken) {
+    if (hasLaterMonth(connection, staff, yearMonth)) return;
+    if (!paidTotal.isNull())
+        connection.execute(QStringLiteral("UPDATE M02_StaffInfo SET F_PaidTotal = ? WHERE (F_StaffCode = ?)"),
+                           {paidTotal, staff});
+    else if (taken != 0)
+        connection.execute(
+            QStringLiteral("UPDATE M02_StaffInfo SET F_PaidTotal = F_PaidTotal + ? WHERE (F_StaffCode = ?)"),
+            {taken, staff});
 }
 
 } // namespace kurbo

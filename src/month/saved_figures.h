@@ -1,7 +1,7 @@
 #pragma once
 
 #include "month/quantities.h"
-#include "store/connection.h"
+#include "store/record_set.h"
 
 namespace kurbo {
 
@@ -9,10 +9,14 @@ namespace kurbo {
 // of a text that is no such figure, or too large for its field.
 [[nodiscard]] Value figureOf(const QuantityFacts& facts, const QString& cell, int unit);
 
-// Whether a month after "yyyymm" has been saved for the person. Throws a Fault.
+// Whether a later month than "yyyymm" has been saved for the person with a balance of paid leave. Throws a Fault.
 [[nodiscard]] bool hasLaterMonth(Connection& connection, const QString& staff, const QString& yearMonth);
+// The days of paid leave by which a month's record, a row of T05_Approved before it is changed, has lowered the
+// person's balance: 0 for a new one and one without a balance of its own.
+[[nodiscard]] double leaveTaken(const RecordSet& month);
 // The person's balance of paid leave follows a month's record, "yyyymm", unless a later one has been saved. A record
-// without a balance, Null, leaves it as it is: nobody can be calculated without one. Throws a Fault.
-void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal);
+// without a balance, Null, takes nothing from it, and gives back what it had taken. Throws a Fault.
+void followBalance(Connection& connection, const QString& staff, const QString& yearMonth, const Value& paidTotal,
+                   double taken);
 
 } // namespace kurbo

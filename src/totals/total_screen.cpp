@@ -197,7 +197,7 @@ bool TotalScreen::deleteMonths() {
 // Months that were typed and not shown yet are named.
 bool TotalScreen::confirmsDelete(const TotalsQuestion& question) const {
     QString what = lines(QStringLiteral("表示されている月次集計データを削除します。"),
-                         QStringLiteral("削除したデータは復活できません。"));
+                         QStringLiteral("削除したデータは復活できません。有給休暇残数は変わりません。"));
     if (question.from != question_.from || question.to != question_.to)
         what = lines(what, QStringLiteral("期間：%1～%2").arg(boxes.start, boxes.end));
     what = lines(what, QString(), QStringLiteral("よろしいですか？"));

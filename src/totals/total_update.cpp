@@ -54,6 +54,7 @@ void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const
                      QStringLiteral("SELECT *, F_Year & F_Month AS F_YearMonth From T05_Approved WHERE (F_Staff = ?);"),
                      {staff});
     if (!months.filter(QStringLiteral("F_YearMonth = ?"), {month})) return;
+    const double taken = leaveTaken(months);
     for (const QuantityFacts& facts : quantities) {
         const QString cell = cellOf(sheet, row, static_cast<int>(totalColumnOf(facts.id)));
         const QString figure = facts.unit == Unit::Time ? withoutMark(cell) : cell;
@@ -63,7 +64,7 @@ void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const
         months.set(mark, Value::yesNo(false));
     const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
     months.updateBatch();
-    followBalance(connection, staff, month, paidTotal);
+    followBalance(connection, staff, month, paidTotal, taken);
 }
 
 // One person's months, or a section's; the places are that code, the first and the last month.

@@ -78,7 +78,9 @@ TEST_F(CardDisaster, AtEachCallAllDaysOrNone) {
 TEST_F(CardDisaster, AtEachCallTheMonthAndTheBalanceOrNeither) {
     sheet.grid.TextMatrix(finalSumRow, static_cast<int>(CardColumn::Leave), u"12.5"_q);
     const MonthOwner owner{u"1001"_q, u"S01"_q, {*makeDay(2026, 5, 1), *makeDay(2026, 5, 31)}};
-    failAll([&](const Context& context, Connection& own) { return UpdateMonthly(context, own, sheet, {}, owner); },
+    clsWorkTime rules;
+    rules.psngPaidTotal = 20;
+    failAll([&](const Context& context, Connection& own) { return UpdateMonthly(context, own, sheet, rules, owner); },
             {u"SELECT Count(*) FROM T05_Approved"_q, u"SELECT Count(*) FROM M02_StaffInfo WHERE F_PaidTotal = 12.5"_q},
             2, 3);
 }

@@ -23,6 +23,7 @@ class Monthly : public CardOffice {
     }
     bool save(int month, const QString& finalSums) {
         fill(sheet.grid, finalSumRow, finalSums);
+        rules.psngPaidTotal = balance().toFloat();
         return UpdateMonthly(desk.context, connection, sheet, rules,
                              {u"1001"_q, u"S01"_q, {*makeDay(2026, month, 1), *makeDay(2026, month, 28)}});
     }
@@ -85,7 +86,7 @@ TEST_F(Monthly, ARecordHoldsTheFinalSums) {
     rules.plngCountUnit = 0;
     ASSERT_TRUE(save(3, u"20.5|1,000.5||+9.5|45.02|||||||||||||"_q));
     EXPECT_EQ(saved(u"03"_q), u"S01 2026 20 60030 - - 2701 - - - - - 2026/03/01-2026/03/28 0 0"_q);
-    EXPECT_EQ(balance(), u"18.5"_q) << "without a balance the person's stays";
+    EXPECT_EQ(balance(), u"20"_q) << "a record without a balance gives back what it had taken";
     EXPECT_EQ(count(u"T05_Approved"_q), 1);
 }
 
@@ -218,10 +219,8 @@ TEST_F(MonthlyScreen, TheChosenMonthCountsAndNotTheRangeInView) {
         EXPECT_FALSE(screen.adjust() || screen.updateMonthly());
     };
     refused();
-    desk.prompts.expect(u"データを承認します。"_q);
-    EXPECT_TRUE(screen.approveSuperior(true, u"____/__/__"_q, u"2026/02/28"_q));
-    EXPECT_EQ(screen.period().from, *makeDay(2026, 3, 1));
-    refused(); // the dates have changed, the sums in view have not
+    desk.prompts.expect(u"承認はできません。"_q);
+    EXPECT_FALSE(screen.approveSuperior(true, u"____/__/__"_q, u"2026/02/28"_q));
     EXPECT_EQ(count(u"T05_Approved"_q), 0);
 }
 
@@ -239,6 +238,17 @@ TEST_F(MonthlyScreen, ASavedMonthsLeaveIsDeductedOnce) {
     EXPECT_EQ(save(), u"19.5"_q);
     ASSERT_TRUE(screen.chooseMonth(2));
     EXPECT_EQ(cardText(screen.sheet.grid, daySumRow, CardColumn::Leave), u"19.5"_q) << "another month's start";
+    ASSERT_TRUE(screen.chooseMonth(3));
+    screen.sheet.grid.TextMatrix(finalSumRow, static_cast<int>(CardColumn::Leave), {});
+    screen.sheet.blnMonthChanged = true;
+    desk.prompts.expect(saving);
+    EXPECT_TRUE(screen.updateMonthly());
+    EXPECT_EQ(save(), u"19.5"_q) << "a record without a balance has given back what it took";
+    connection.execute(u"UPDATE M02_StaffInfo SET F_PaidTotal = 9 WHERE (F_StaffCode = '1001')"_q);
+    desk.prompts.expect(saving)
+        .expect(u"タイムカードの表示後に変更されています。"_q)
+        .expect(u"更新できませんでした。"_q);
+    EXPECT_FALSE(screen.updateMonthly()) << "somebody else has changed the balance";
 }
 
 } // namespace kurbo::test

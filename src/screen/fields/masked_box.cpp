@@ -79,9 +79,8 @@ void MaskedBox::setRefusal(const QString& message, Prompts& prompts) {
 void MaskedBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
-    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
-        selectAll();
     entering_ = reason == Qt::MouseFocusReason;
+    if (!entering_ && !isBlank()) selectAll();
 }
 
 // The first click takes what stands there, unless it is drawn over a part of it; later ones choose a place.

@@ -125,9 +125,10 @@ std::optional<HolidayFile> chooseHolidays(const Context& context, int year) {
         QStringLiteral("祝日ファイル「Holiday.txt」は%1年のもので、カレンダーの%2年とは異なります。")
             .arg(*own)
             .arg(year);
-    if (context.prompts.confirm(
-            lines(differs, QStringLiteral("%1年の祝日ファイルを作成して、その祝日を追加しますか？").arg(year),
-                  QStringLiteral("(今のファイルは「.old」を付けた名前で残します。)"))))
+    const bool lawful = year >= firstHolidayYear && year <= lastHolidayYear;
+    if (lawful && context.prompts.confirm(
+                      lines(differs, QStringLiteral("%1年の祝日ファイルを作成して、その祝日を追加しますか？").arg(year),
+                            QStringLiteral("(今のファイルは「.old」を付けた名前で残します。)"))))
         return madeFor(context, year);
     const QString question = lines(file->heading, differs, QString(), QStringLiteral("よろしいですか？"));
     const Message asked{{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel};

@@ -63,10 +63,11 @@ bool addMonth(Connection& connection, const MonthRecord& record, OnExisting onEx
     const bool exists = months.filter(QStringLiteral("F_YearMonth = ?"), {record.yearMonth()});
     if (exists && onExisting == OnExisting::Skip) return false;
     if (!exists) months.addNew();
+    const double taken = leaveTaken(months);
     setRecord(months, record);
     const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
     months.updateBatch();
-    followBalance(connection, record.staff, record.yearMonth(), paidTotal);
+    followBalance(connection, record.staff, record.yearMonth(), paidTotal, taken);
     return true;
 }
 

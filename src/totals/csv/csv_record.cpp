@@ -137,6 +137,8 @@ bool put(MonthRecord& record, std::size_t place, const CsvCell& cell) {
         record.*field.mark = mark.value_or(false);
         return mark.has_value();
     }
+    // A balance in quotes is the sign of an empty cell, and no balance of 0.
+    if (field.form == Form::Balance && cell.quoted) return true;
     const auto figure = figureOfText(field.form, cell.text);
     record.figures[place - firstFigure] = figure.value_or(Value());
     return figure.has_value();
