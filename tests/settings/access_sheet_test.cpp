@@ -21,12 +21,7 @@ class AccessSheetTest : public SampleCompany {
         for (const int column : columns) sheet.grid.CellChecked(row, column, true);
     }
     [[nodiscard]] QString refusal(int code, const QString& name) {
-        try {
-            checkAccess(connection, code, name, sheet);
-        } catch (const Complaint& complaint) {
-            return complaint.description();
-        }
-        return {};
+        return refusalOf([&] { checkAccess(connection, code, name, sheet); });
     }
     [[nodiscard]] QString right(int code, const QString& field) {
         return asked(u"SELECT %1 FROM M08_Access WHERE (F_AccessCode = %2) AND (F_Order = 1)"_q.arg(field).arg(code));

@@ -2,12 +2,12 @@
 
 #include "screen/fields/data_list.h"
 #include "screen/grid/grid.h"
-#include "settings/settings_window.h"
+#include "support/window.h"
 
 namespace kurbo::test {
 namespace {
 
-class frmAccessTest : public SettingsWindow<frmAccess> {
+class frmAccessTest : public Window<frmAccess> {
   protected:
     [[nodiscard]] QString shown() const {
         return of<DataList>("dtsAccess").text() + u'/' + of<QLineEdit>("txtAccess").text();

@@ -3,14 +3,14 @@
 #include "screen/fields/data_combo.h"
 #include "screen/fields/data_list.h"
 #include "screen/windows/open_forms.h"
-#include "settings/settings_window.h"
+#include "support/window.h"
 
 #include <QTabWidget>
 
 namespace kurbo::test {
 namespace {
 
-class frmAsignTest : public SettingsWindow<frmAsign> {
+class frmAsignTest : public Window<frmAsign> {
   protected:
     frmAsignTest() {
         connection.execute(u"INSERT INTO M04_HolidayStyle (F_HolidayCode, F_HolidayName) VALUES (1, '休日')"_q);

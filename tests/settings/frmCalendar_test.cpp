@@ -2,8 +2,8 @@
 
 #include "screen/grid/grid.h"
 #include "settings/calendar/frmHoliday.h"
-#include "settings/settings_window.h"
 #include "support/typing.h"
+#include "support/window.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -17,7 +17,7 @@ const QString discard = u"カレンダーは変更されています。変更を
 const QString update = u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q;
 
 // The calendar of 2026 and its rules.
-class FrmCalendar : public SettingsWindow<frmCalendar> {
+class FrmCalendar : public Window<frmCalendar> {
   protected:
     void openRules() {
         trigger("mnuHoliday");

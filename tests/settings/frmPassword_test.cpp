@@ -1,11 +1,11 @@
 #include "settings/people/frmPassword.h"
 
-#include "settings/settings_window.h"
+#include "support/window.h"
 
 namespace kurbo::test {
 namespace {
 
-using FrmPassword = SettingsWindow<frmPassword>;
+using FrmPassword = Window<frmPassword>;
 
 TEST_F(FrmPassword, StepsShowOneAfterTheOther) {
     open(u"1001"_q);
@@ -48,7 +48,7 @@ TEST_F(FrmPassword, StepsShowOneAfterTheOther) {
     press(Qt::Key_Escape);
     ASSERT_TRUE(form->isVisible());
     type("txtConfirm", u"abc"_q);
-    of<QPushButton>("cmdOK").click();
+    click("cmdOK");
     QCoreApplication::processEvents();
     EXPECT_TRUE(!form || !form->isVisible());
     EXPECT_EQ(asked(u"SELECT F_Password FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q), u"abc"_q);
@@ -61,11 +61,11 @@ TEST_F(FrmPassword, AFailedWriteLeavesTheDialog) {
     type("txtConfirm", u"abc"_q);
     connection.engine("CREATE TRIGGER Refused BEFORE UPDATE ON M02_StaffInfo BEGIN SELECT RAISE(ABORT, 'no'); END");
     desk.prompts.expect(u"エラー番号："_q).expect(u"新しいパスワードの登録に失敗しました。"_q);
-    of<QPushButton>("cmdOK").click();
+    click("cmdOK");
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(asked(u"SELECT F_Password FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q), u"kurbo1"_q);
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
-    of<QPushButton>("cmdCancel").click();
+    click("cmdCancel");
     EXPECT_TRUE(!form || !form->isVisible());
 }
 

@@ -22,12 +22,7 @@ class StaffSettingsTest : public SampleCompany {
         good.codes = {u"1"_q, u"1"_q, u"1"_q, u"1"_q, u"9"_q, u"1"_q};
     }
     [[nodiscard]] QString refusal(const StaffSettings& settings) {
-        try {
-            checkStaffSettings(settings, style);
-        } catch (const Complaint& complaint) {
-            return complaint.description();
-        }
-        return {};
+        return refusalOf([&] { checkStaffSettings(settings, style); });
     }
     [[nodiscard]] QString stored(const QString& field, const QString& staff = QStringLiteral("1001")) {
         return asked(u"SELECT %1 FROM M02_StaffInfo WHERE (F_StaffCode = '%2')"_q.arg(field, staff));

@@ -25,7 +25,7 @@ TEST_F(TimeSheets, ChecksRefuseInTheirOrder) {
     const auto check = [this](const Case& given) {
         const auto shown = sheet(given.page, given.code, given.cells);
         const auto weekday = sheet(Weekday, 0, given.page == Adjust ? given.cells : QString());
-        EXPECT_EQ(complaint([&] { checkTimes(connection, *shown, given.name, *weekday); }), given.refusal)
+        EXPECT_EQ(refusalOf([&] { checkTimes(connection, *shown, given.name, *weekday); }), given.refusal)
             << given.page << " " << given.name << " " << given.cells;
     };
     for (const Case& given : {

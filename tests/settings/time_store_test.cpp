@@ -72,13 +72,13 @@ TEST_F(TimeStore, ARecordIsAddedChangedAndTakenAway) {
     EXPECT_EQ(updateTimes(connection, *fresh, u"日勤"_q), 2) << "the new record is the one at hand";
     EXPECT_EQ(count(u"M03_WeekdayStyle"_q), 3);
     const auto twin = sheet(Weekday);
-    EXPECT_EQ(complaint([&] { updateTimes(connection, *twin, u"日勤"_q); }),
+    EXPECT_EQ(refusalOf([&] { updateTimes(connection, *twin, u"日勤"_q); }),
               u"平日勤務名称を変更して下さい。\r\n同じ平日勤務名称が既に登録されています。"_q);
     removeTimes(connection, fresh->page, 2);
-    EXPECT_EQ(complaint([&] { updateTimes(connection, *fresh, u"日勤"_q); }), u"日勤が削除されています。"_q);
-    EXPECT_EQ(complaint([&] { showTimes(connection, *fresh, 2); }), u"選択した平日勤務時間が削除されています。"_q);
+    EXPECT_EQ(refusalOf([&] { updateTimes(connection, *fresh, u"日勤"_q); }), u"日勤が削除されています。"_q);
+    EXPECT_EQ(refusalOf([&] { showTimes(connection, *fresh, 2); }), u"選択した平日勤務時間が削除されています。"_q);
     EXPECT_TRUE(isUsed(connection, fresh->page, 1));
-    EXPECT_EQ(complaint([&] { removeTimes(connection, fresh->page, 1); }),
+    EXPECT_EQ(refusalOf([&] { removeTimes(connection, fresh->page, 1); }),
               u"表示されている平日勤務時間設定は使用されているため削除できません。"_q);
     EXPECT_EQ(count(u"M03_WeekdayStyle"_q), 2);
     EXPECT_EQ(sheet(Adjust, 1)->grid.TextMatrix(2, 1), u"45:00"_q);

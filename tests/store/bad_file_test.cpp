@@ -20,9 +20,9 @@ class BadFile : public SampleCompany {
 
     // The number of the fault of opening `name`, 0 when it opens.
     std::int64_t opened(const QString& name, const QString& password = databasePassword()) {
-        Connection client;
+        Connection opening;
         try {
-            client.open(name, password);
+            opening.open(name, password);
         } catch (const Fault& fault) {
             EXPECT_FALSE(fault.description().isEmpty());
             return fault.number();
@@ -74,16 +74,16 @@ TEST_F(BadFile, EachKindHasItsOwnNumber) {
 
 TEST_F(BadFile, AReadOnlyPlaceCanBeReadAndRefusesWrites) {
     const AsNobody nobody;
-    Connection client;
-    client.open(path, databasePassword());
-    EXPECT_TRUE(client.hasRow(u"SELECT F_Corp FROM C01_Corp;"_q));
+    Connection opening;
+    opening.open(path, databasePassword());
+    EXPECT_TRUE(opening.hasRow(u"SELECT F_Corp FROM C01_Corp;"_q));
     try {
-        client.execute(u"DELETE * FROM C01_Corp;"_q);
+        opening.execute(u"DELETE * FROM C01_Corp;"_q);
         FAIL();
     } catch (const Fault& fault) {
         EXPECT_EQ(fault.number(), static_cast<int>(StoreError::ReadOnly));
     }
-    EXPECT_TRUE(client.hasRow(u"SELECT F_Corp FROM C01_Corp;"_q));
+    EXPECT_TRUE(opening.hasRow(u"SELECT F_Corp FROM C01_Corp;"_q));
 }
 
 TEST_F(BadFile, AFileThatMayNotBeReadIsToldApart) {

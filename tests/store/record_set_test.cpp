@@ -87,8 +87,8 @@ TEST_F(Records, DuplicateKeyTextIsTheOneThatWritersCompare) {
 
 TEST_F(Records, ARowThatAnotherClientDeletedIsNotWritten) {
     RecordSet set(connection, u"SELECT F_Staff, F_Year, F_Month, F_Work FROM T05_Approved;"_q);
-    const auto addMonth = [](Connection& client, const QString& staff) {
-        client.execute(u"INSERT INTO T05_Approved (F_Staff, F_Year, F_Month, F_Work) VALUES (?, '2026', '03', 100)"_q,
+    const auto addMonth = [](Connection& writer, const QString& staff) {
+        writer.execute(u"INSERT INTO T05_Approved (F_Staff, F_Year, F_Month, F_Work) VALUES (?, '2026', '03', 100)"_q,
                        {staff});
     };
     addMonth(connection, u"1001"_q);
