@@ -46,16 +46,14 @@ TEST_F(BadFile, EachKindHasItsOwnNumber) {
     const QString unsealed = made(u"unsealed.mdb"_q, whole);
     runEngine(unsealed, "DROP VIEW S_Seal");
 
-    struct Case {
-        QString path;
-        StoreError number;
-    };
     for (const auto& [name, number] :
-         {Case{desk.file(u"none.mdb"_q), StoreError::NoFile}, Case{desk.file(u"none/a.mdb"_q), StoreError::NoPath},
-          Case{desk.folder.path(), StoreError::NotMdb}, Case{made(u"empty.mdb"_q, {}), StoreError::NotMdb},
-          Case{made(u"text.mdb"_q, QByteArray(4000, 'x')), StoreError::NotMdb},
-          Case{desk.file(u"foreign.mdb"_q), StoreError::NotMdb}, Case{newer, StoreError::Newer},
-          Case{unsealed, StoreError::NoTable}, Case{made(u"cut.mdb"_q, whole.left(20000)), StoreError::Damaged}}) {
+         {std::tuple{desk.file(u"none.mdb"_q), StoreError::NoFile},
+          std::tuple{desk.file(u"none/a.mdb"_q), StoreError::NoPath},
+          std::tuple{desk.folder.path(), StoreError::NotMdb}, std::tuple{made(u"empty.mdb"_q, {}), StoreError::NotMdb},
+          std::tuple{made(u"text.mdb"_q, QByteArray(4000, 'x')), StoreError::NotMdb},
+          std::tuple{desk.file(u"foreign.mdb"_q), StoreError::NotMdb}, std::tuple{newer, StoreError::Newer},
+          std::tuple{unsealed, StoreError::NoTable},
+          std::tuple{made(u"cut.mdb"_q, whole.left(20000)), StoreError::Damaged}}) {
         EXPECT_EQ(opened(name), static_cast<std::int64_t>(number)) << name;
         EXPECT_FALSE(IsDbOK(name)) << name;
         EXPECT_FALSE(QFileInfo::exists(LockFile::nameFor(name))) << name;
