@@ -1,7 +1,6 @@
 #include "card/card_window.h"
 
 #include <QCheckBox>
-#include <QPushButton>
 #include <QRadioButton>
 
 namespace kurbo::test {

@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QMenu>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
 

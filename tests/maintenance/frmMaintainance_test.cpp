@@ -4,11 +4,7 @@
 #include "screen/fields/masked_box.h"
 #include "support/window.h"
 
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 
 namespace kurbo::test {
 namespace {

@@ -2,13 +2,7 @@
 
 #include "screen/grid/grid.h"
 #include "settings/calendar/frmHoliday.h"
-#include "support/typing.h"
 #include "support/window.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QStatusBar>
 
 namespace kurbo::test {
 namespace {

@@ -6,7 +6,6 @@
 #include "settings/records/frmStaff.h"
 #include "support/window.h"
 
-#include <QLabel>
 #include <QRadioButton>
 
 namespace kurbo::test {

@@ -8,11 +8,7 @@
 #include "support/window.h"
 #include "totals/csv/csv_file.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 #include <QTimer>
 
 namespace kurbo::test {
