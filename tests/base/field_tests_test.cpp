@@ -29,19 +29,14 @@ TEST(FieldTests, WholeNumbersByTheirSign) {
 }
 
 TEST(FieldTests, KindsOfText) {
-    struct Case {
-        QString text;
-        bool alphaNumeric;
-        bool singleByte;
-        bool time;
-    };
     for (const auto& [text, alphaNumeric, singleByte, time] :
-         {Case{u"Az09"_q, true, true, false}, Case{u"a_b"_q, false, true, false}, Case{u"ｶﾅ"_q, false, true, false},
-          Case{u"Ａ"_q, false, false, false}, Case{u"😀"_q, false, false, false}, Case{QString(), false, false, false},
-          Case{u"09:05"_q, false, true, true}, Case{u"9:05"_q, false, true, true},
-          Case{u"23:59:59"_q, false, true, true}, Case{u"24:00"_q, false, true, false},
-          Case{u"12:60"_q, false, true, false}, Case{u"9_:05"_q, false, true, false},
-          Case{u"12:00 "_q, false, true, false}}) {
+         {std::tuple{u"Az09"_q, true, true, false}, std::tuple{u"a_b"_q, false, true, false},
+          std::tuple{u"ｶﾅ"_q, false, true, false}, std::tuple{u"Ａ"_q, false, false, false},
+          std::tuple{u"😀"_q, false, false, false}, std::tuple{QString(), false, false, false},
+          std::tuple{u"09:05"_q, false, true, true}, std::tuple{u"9:05"_q, false, true, true},
+          std::tuple{u"23:59:59"_q, false, true, true}, std::tuple{u"24:00"_q, false, true, false},
+          std::tuple{u"12:60"_q, false, true, false}, std::tuple{u"9_:05"_q, false, true, false},
+          std::tuple{u"12:00 "_q, false, true, false}}) {
         EXPECT_EQ(IsAlphaNumeric(text), alphaNumeric) << text;
         EXPECT_EQ(IsSingleByte(text), singleByte) << text;
         EXPECT_EQ(isTimeText(text), time) << text;

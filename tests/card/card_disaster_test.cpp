@@ -89,7 +89,7 @@ TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {
     constexpr int clients = 5;
     constexpr int rounds = 20;
     constexpr int days = 3;
-    const auto client = [&](int number) {
+    const auto work = [&](int number) {
         Connection own;
         own.open(path, databasePassword());
         int failures = 0;
@@ -102,7 +102,7 @@ TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {
     };
     std::vector<pid_t> running;
     running.reserve(clients);
-    for (int i = 0; i < clients; ++i) running.push_back(startChild([&] { return client(i); }));
+    for (int i = 0; i < clients; ++i) running.push_back(startChild([&] { return work(i); }));
     for (const pid_t child : running) EXPECT_EQ(endOf(child), 0);
     EXPECT_TRUE(checkDatabase(path).isEmpty());
     connection.open(path, databasePassword());

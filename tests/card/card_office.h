@@ -1,6 +1,5 @@
 #pragma once
 
-#include "store/client.h"
 #include "store/file/database_file.h"
 #include "support/sample_company.h"
 
@@ -11,7 +10,6 @@ namespace kurbo::test {
 class CardOffice : public SampleCompany {
   protected:
     CardOffice() {
-        client.DbPath = path;
         connection.execute(u"UPDATE M08_Access SET F_WriteMyTime = True WHERE (F_AccessCode = 1)"_q);
         for (const char16_t* right : {u"F_WriteMyTime", u"F_WriteOtherTime", u"F_WriteOtherPlan", u"F_WriteOtherPaid",
                                       u"F_WriteOtherMonthly", u"F_WriteMyMonthly", u"F_DeleteOtherData"})
@@ -49,8 +47,6 @@ class CardOffice : public SampleCompany {
                      "F_WriteOtherTime, F_Order) VALUES (2, '所属長', 'S02', True, True, 2)"_q);
         return other;
     }
-
-    Client client{desk.context};
 };
 
 } // namespace kurbo::test

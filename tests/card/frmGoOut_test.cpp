@@ -7,12 +7,8 @@
 #include "screen/fields/data_combo.h"
 #include "screen/fields/masked_box.h"
 #include "screen/grid/grid.h"
+#include "support/window.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
 #include <QWindow>
 
 namespace kurbo::test {
@@ -45,7 +41,7 @@ class FrmGoOut : public CardOffice {
         Q_EMIT list->activated(list->currentIndex());
     }
     void open() {
-        of<QAction>(*card, "mnuDetail").trigger();
+        named<QAction>(*card, "mnuDetail").trigger();
         ASSERT_TRUE(form());
         ASSERT_TRUE(QTest::qWaitForWindowActive(form()));
     }
@@ -54,10 +50,6 @@ class FrmGoOut : public CardOffice {
             if (window->objectName() == u"frmGoOut" && window->isVisible()) return qobject_cast<frmGoOut*>(window);
         return nullptr;
     }
-    template <typename Part>
-    [[nodiscard]] static Part& of(const QWidget& window, const char* name) {
-        return *window.findChild<Part*>(QString::fromLatin1(name));
-    }
     // Of the preview over a window; it is closed.
     [[nodiscard]] static QString previewOf(const QWidget& window) {
         auto* const preview = window.findChild<frmPreview*>();
@@ -65,11 +57,11 @@ class FrmGoOut : public CardOffice {
         delete preview;
         return title;
     }
-    [[nodiscard]] static Grid& grid() { return of<Grid>(*form(), "vfgGoOut"); }
+    [[nodiscard]] static Grid& grid() { return named<Grid>(*form(), "vfgGoOut"); }
     [[nodiscard]] static QString total() { return grid().grid()->TextMatrix(1, 5) + grid().grid()->TextMatrix(1, 6); }
     [[nodiscard]] static bool isUpdatable() {
-        EXPECT_EQ(of<QWidget>(*form(), "cmdUpdate").isEnabled(), of<QAction>(*form(), "mnuUpdate").isEnabled());
-        return of<QWidget>(*form(), "cmdUpdate").isEnabled();
+        EXPECT_EQ(named<QWidget>(*form(), "cmdUpdate").isEnabled(), named<QAction>(*form(), "mnuUpdate").isEnabled());
+        return named<QWidget>(*form(), "cmdUpdate").isEnabled();
     }
     static void press(int key) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(key)); }
     static void type(int row, int column, const QString& text) {
@@ -81,10 +73,10 @@ class FrmGoOut : public CardOffice {
     }
     // A day of the card, from 1; the form follows when the move is over.
     void goTo(int day) {
-        of<Grid>(*card, "vfgKurbo").Select(firstCardDay + day - 1, 3);
+        named<Grid>(*card, "vfgKurbo").Select(firstCardDay + day - 1, 3);
         QCoreApplication::processEvents();
     }
-    [[nodiscard]] int currentDay() const { return of<Grid>(*card, "vfgKurbo").Row() - firstCardDay + 1; }
+    [[nodiscard]] int currentDay() const { return named<Grid>(*card, "vfgKurbo").Row() - firstCardDay + 1; }
 
     QPointer<frmKurbo> card;
 };
@@ -94,7 +86,7 @@ TEST_F(FrmGoOut, OutingsAreTypedAndStored) {
     EXPECT_EQ(form()->windowTitle(), u"Kurbo－外出明細"_q);
     EXPECT_EQ(form()->windowHandle()->transientParent(), card->windowHandle()) << "it stays above its card";
     EXPECT_EQ(form()->focusWidget(), &grid());
-    EXPECT_EQ(of<MaskedBox>(*form(), "mskStart").maskText() + of<MaskedBox>(*form(), "mskEnd").maskText(),
+    EXPECT_EQ(named<MaskedBox>(*form(), "mskStart").maskText() + named<MaskedBox>(*form(), "mskEnd").maskText(),
               u"2026/04/012026/04/30"_q);
     EXPECT_EQ(total(), u"26/04/01(水)  合計¥1,200"_q);
     grid().Select(2, 3);
@@ -110,16 +102,16 @@ TEST_F(FrmGoOut, OutingsAreTypedAndStored) {
     type(3, 6, u"300"_q);
     EXPECT_TRUE(isUpdatable());
     desk.prompts.expect(update);
-    of<QPushButton>(*form(), "cmdUpdate").click();
+    named<QPushButton>(*form(), "cmdUpdate").click();
     EXPECT_FALSE(isUpdatable());
     EXPECT_EQ(asked(u"SELECT F_Out FROM T03_GoOut WHERE F_Order = 1"_q), u"2026/04/01 10:05:31"_q);
     EXPECT_EQ(asked(u"SELECT F_DestName FROM T04_Destination WHERE F_User = '1001' ORDER BY F_DestCode"_q), u"Osaka"_q);
     EXPECT_EQ(grid().grid()->ColComboList(5).source(), u"|Os|Osaka"_q);
     desk.prompts.expect(u"カレント行の上に１行挿入します。"_q).expect(u"カレント行を削除します。"_q);
     grid().Select(3, 5);
-    of<QAction>(*form(), "mnuGInsert").trigger();
+    named<QAction>(*form(), "mnuGInsert").trigger();
     EXPECT_EQ(grid().Row(), 3);
-    of<QAction>(*form(), "mnuGDelete").trigger();
+    named<QAction>(*form(), "mnuGDelete").trigger();
     EXPECT_EQ(grid().grid()->TextMatrix(3, 5), u"Os"_q);
     EXPECT_TRUE(isUpdatable());
     desk.prompts.expect(leaveForm, Answer::No).expect(leaveForm, Answer::Yes);
@@ -134,7 +126,7 @@ TEST_F(FrmGoOut, ItFollowsTheRowOfTheCard) {
     goTo(2);
     EXPECT_EQ(total(), u"26/04/02(木)  合計"_q);
     goTo(6);
-    EXPECT_FALSE(of<QAction>(*form(), "mnuGPaste").isEnabled()) << "no card row";
+    EXPECT_FALSE(named<QAction>(*form(), "mnuGPaste").isEnabled()) << "no card row";
     goTo(1);
     type(3, 6, u"300"_q);
     desk.prompts.expect(leaveDay, Answer::No);
@@ -144,7 +136,7 @@ TEST_F(FrmGoOut, ItFollowsTheRowOfTheCard) {
     EXPECT_EQ(total(), u"26/04/01(水)  合計¥1,500"_q);
     desk.prompts.expect(leaveDay, Answer::No);
     choose(u"1003"_q);
-    EXPECT_EQ(of<DataCombo>(*card, "dcbStaff").boundText(), u"1001"_q);
+    EXPECT_EQ(named<DataCombo>(*card, "dcbStaff").boundText(), u"1001"_q);
     desk.prompts.expect(leaveDay, Answer::Yes);
     choose(u"1003"_q);
     EXPECT_EQ(total(), u"26/04/01(水)  合計"_q);
@@ -156,13 +148,13 @@ TEST_F(FrmGoOut, ItFollowsTheRowOfTheCard) {
 TEST_F(FrmGoOut, ItKeepsItsChangesBesideAnUpdateOfTheCard) {
     open();
     type(3, 6, u"300"_q);
-    of<Grid>(*card, "vfgKurbo").grid()->edit(firstCardDay + 5, 3, u"x"_q);
+    named<Grid>(*card, "vfgKurbo").grid()->edit(firstCardDay + 5, 3, u"x"_q);
     desk.prompts.expect(update);
-    of<QAction>(*card, "mnuUpdate").trigger();
+    named<QAction>(*card, "mnuUpdate").trigger();
     EXPECT_EQ(total(), u"26/04/01(水)  合計¥1,500"_q);
     desk.prompts.expect(leaveDay, Answer::Yes);
     goTo(6);
-    EXPECT_TRUE(of<QAction>(*form(), "mnuGPaste").isEnabled()) << "the update has made its card row";
+    EXPECT_TRUE(named<QAction>(*form(), "mnuGPaste").isEnabled()) << "the update has made its card row";
     type(2, 6, u"100"_q);
     desk.prompts.expect(leaveForm, Answer::No);
     EXPECT_FALSE(card->close());
@@ -175,31 +167,31 @@ TEST_F(FrmGoOut, ItKeepsItsChangesBesideAnUpdateOfTheCard) {
 TEST_F(FrmGoOut, WhatCantBeShownOrWrittenIsTold) {
     open();
     QPointer<frmGoOut> first = form();
-    of<QAction>(*card, "mnuDetail").trigger();
+    named<QAction>(*card, "mnuDetail").trigger();
     EXPECT_EQ(form(), first) << "brought to the front";
-    of<QPushButton>(*form(), "cmdPrint").click();
+    named<QPushButton>(*form(), "cmdPrint").click();
     EXPECT_EQ(previewOf(*form()), u"Kurbo－外出出張明細"_q);
     desk.prompts.expect(u"開始日付が終了日付以降に設定されています。"_q);
-    QTest::keyClick(&of<QWidget>(*form(), "mskStart"), Qt::Key_Up);
-    of<MaskedBox>(*form(), "mskEnd").setText(u"2026/04/01"_q);
-    of<QAction>(*form(), "mnuPrint").trigger();
+    QTest::keyClick(&named<QWidget>(*form(), "mskStart"), Qt::Key_Up);
+    named<MaskedBox>(*form(), "mskEnd").setText(u"2026/04/01"_q);
+    named<QAction>(*form(), "mnuPrint").trigger();
     choose({});
     type(3, 6, u"300"_q);
     desk.prompts.expect(u"タイムカードの氏名が未入力のため、外出明細を更新できません。"_q)
         .expect(u"氏名が入力されていません。"_q);
-    of<QAction>(*form(), "mnuUpdate").trigger();
-    of<QPushButton>(*card, "cmdGoOut").click();
+    named<QAction>(*form(), "mnuUpdate").trigger();
+    named<QPushButton>(*card, "cmdGoOut").click();
     desk.prompts.expect(leaveDay, Answer::Yes);
     choose(u"1002"_q);
-    EXPECT_FALSE(of<QAction>(*form(), "mnuGInsert").isEnabled()) << "no right to write the own outings";
-    of<MaskedBox>(*card, "mskEnd").setText(u"2026/02/30"_q);
+    EXPECT_FALSE(named<QAction>(*form(), "mnuGInsert").isEnabled()) << "no right to write the own outings";
+    named<MaskedBox>(*card, "mskEnd").setText(u"2026/02/30"_q);
     desk.prompts.expect(u"期間が不正です。"_q).expect(u"期間が不正です。"_q);
-    of<QAction>(*card, "mnuDetail").trigger();
-    of<QAction>(*card, "mnuList").trigger();
-    of<MaskedBox>(*card, "mskEnd").setText(u"2026/04/30"_q);
-    of<QAction>(*card, "mnuList").trigger();
+    named<QAction>(*card, "mnuDetail").trigger();
+    named<QAction>(*card, "mnuList").trigger();
+    named<MaskedBox>(*card, "mskEnd").setText(u"2026/04/30"_q);
+    named<QAction>(*card, "mnuList").trigger();
     EXPECT_EQ(previewOf(*card), u"Kurbo－外出出張明細"_q);
-    of<QPushButton>(*card, "cmdPrint").click();
+    named<QPushButton>(*card, "cmdPrint").click();
     EXPECT_EQ(previewOf(*card), u"Kurbo－タイムカード"_q);
 }
 
@@ -214,7 +206,7 @@ TEST_F(FrmGoOut, ItGoesBeforeOutingsThatMayNotBeSeen) {
 // Not only when the form is opened anew.
 TEST_F(FrmGoOut, ItsPreviewGoesWithIt) {
     open();
-    of<QPushButton>(*form(), "cmdPrint").click();
+    named<QPushButton>(*form(), "cmdPrint").click();
     const QPointer<frmPreview> preview = form()->findChild<frmPreview*>();
     ASSERT_TRUE(preview && preview->isVisible());
     EXPECT_TRUE(form()->close());

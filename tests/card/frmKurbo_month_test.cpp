@@ -1,7 +1,6 @@
 #include "card/card_window.h"
 
 #include <QCheckBox>
-#include <QPushButton>
 #include <QRadioButton>
 
 namespace kurbo::test {
@@ -17,10 +16,10 @@ class FrmKurboMonth : public CardWindow {
         for (const int month : {2, 3}) addCard(40 + month, *makeDay(2026, month, 28), {}, {}, u"0"_q);
         for (int day = 1; day <= 27; ++day) addCard(50 + day, *makeDay(2026, 2, day), u"09:00"_q, u"17:30"_q);
     }
-    void show(int month) { find<QRadioButton>(qPrintable(u"optMonth_%1"_q.arg(month)))->click(); }
+    void show(int month) { click(qPrintable(u"optMonth_%1"_q.arg(month))); }
     void trigger(const char* action, const QString& question) {
         desk.prompts.expect(question);
-        ASSERT_TRUE(find<QAction>(action)->isEnabled()) << action;
+        ASSERT_TRUE(of<QAction>(action).isEnabled()) << action;
         CardWindow::trigger(action);
     }
     // Work days, hours, balance, overtime and the marks of a saved month.
@@ -34,14 +33,14 @@ class FrmKurboMonth : public CardWindow {
     QString balance() { return asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q); }
     // The box's word, "*" where it is bold, "-" where it is closed.
     [[nodiscard]] QString mark(const char* name) const {
-        const auto& box = *find<QCheckBox>(name);
+        const auto& box = of<QCheckBox>(name);
         EXPECT_EQ(box.isChecked(), box.font().bold());
         return box.text() + (box.font().bold() ? u"*"_q : QString()) + (box.isEnabled() ? QString() : u"-"_q);
     }
     [[nodiscard]] QString marks() const { return mark("chkPersonal") + mark("chkSuperior"); }
     void approve(const char* box, const QString& question, Answer answer = Answer::Ok) {
         desk.prompts.expect(question, answer);
-        find<QCheckBox>(box)->click();
+        of<QCheckBox>(box).click();
     }
 };
 
@@ -51,14 +50,14 @@ const QString approving = u"月次集計の最終保存データを承認しま�
 
 TEST_F(FrmKurboMonth, AMonthIsAdjustedSavedApprovedAndCorrected) {
     openAs(u"1001"_q);
-    EXPECT_FALSE(find<QAction>("mnuAdjust")->isEnabled() || find<QAction>("mnuUpdateMonthly")->isEnabled())
+    EXPECT_FALSE(of<QAction>("mnuAdjust").isEnabled() || of<QAction>("mnuUpdateMonthly").isEnabled())
         << "April has not ended";
     show(3);
     EXPECT_EQ(marks(), u"未未-"_q);
     trigger("mnuAdjust", adjusting);
     EXPECT_EQ(cells().TextMatrix(daySumRow, 7) + u' ' + cells().TextMatrix(finalSumRow, 7), u"66:00 45:00"_q);
     trigger("mnuUpdateMonthly", saving);
-    EXPECT_FALSE(find<QAction>("mnuUpdateMonthly")->isEnabled());
+    EXPECT_FALSE(of<QAction>("mnuUpdateMonthly").isEnabled());
     approve("chkPersonal", approving, Answer::Cancel);
     EXPECT_EQ(marks(), u"未未-"_q) << "put back";
     approve("chkPersonal", approving);

@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QMenu>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
 
@@ -23,10 +22,10 @@ TEST_F(FrmKurbo, AnOrdinaryPersonSeesTheOwnCardOnly) {
     openAs(u"1001"_q);
     EXPECT_EQ(form->windowTitle(), u"Kurbo－タイムカード"_q);
     EXPECT_EQ(shown(), u"1001 2026/04/01-2026/04/30"_q);
-    EXPECT_TRUE(find<QRadioButton>("optMonth_4")->isChecked());
+    EXPECT_TRUE(of<QRadioButton>("optMonth_4").isChecked());
     for (const char* closed : {"dcbSection", "dcbStaff", "cmdUpdate", "cmdGoOut"})
-        EXPECT_FALSE(find<QWidget>(closed)->isEnabled()) << closed;
-    EXPECT_FALSE(find<QAction>("mnuDelete")->isEnabled());
+        EXPECT_FALSE(of<QWidget>(closed).isEnabled()) << closed;
+    EXPECT_FALSE(of<QAction>("mnuDelete").isEnabled());
     EXPECT_EQ(grid().width(), form->centralWidget()->width() - 20);
     EXPECT_EQ(grid().height(), form->centralWidget()->height() - 187);
 }
@@ -34,12 +33,12 @@ TEST_F(FrmKurbo, AnOrdinaryPersonSeesTheOwnCardOnly) {
 TEST_F(FrmKurbo, ACorrectionIsTypedCheckedAndStored) {
     openAs(u"1001"_q);
     type(1, plan, u"Osaka"_q);
-    EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled()) << "the update takes the open cell first";
+    EXPECT_TRUE(of<QPushButton>("cmdUpdate").isEnabled()) << "the update takes the open cell first";
     press(Qt::Key_Escape);
-    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled()) << "nothing is changed";
+    EXPECT_FALSE(of<QPushButton>("cmdUpdate").isEnabled()) << "nothing is changed";
     type(1, plan, u"Osaka"_q);
     press(Qt::Key_Tab);
-    EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled() && find<QAction>("mnuUpdate")->isEnabled());
+    EXPECT_TRUE(of<QPushButton>("cmdUpdate").isEnabled() && of<QAction>("mnuUpdate").isEnabled());
     EXPECT_EQ(heading(1), u"*1"_q);
     type(1, static_cast<int>(CardColumn::Date), u"x"_q);
     EXPECT_TRUE(form->statusBar()->currentMessage().startsWith(u"編集できません"_q));
@@ -51,13 +50,13 @@ TEST_F(FrmKurbo, ACorrectionIsTypedCheckedAndStored) {
     type(6, enter, u"09:00"_q);
     desk.prompts.expect(u"追加・変更を更新します。"_q);
     press(Qt::Key_Return);
-    find<QPushButton>("cmdUpdate")->setFocus();
+    of<QPushButton>("cmdUpdate").setFocus();
     press(Qt::Key_Space);
     EXPECT_EQ(form->focusWidget(), &grid()) << "not on the next button";
     EXPECT_EQ(heading(1), u"1"_q);
     EXPECT_EQ(asked(u"SELECT F_Plan FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"Osaka"_q);
     EXPECT_EQ(cell(6, static_cast<int>(CardColumn::Id)), u"4"_q);
-    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled());
+    EXPECT_FALSE(of<QPushButton>("cmdUpdate").isEnabled());
 }
 
 TEST_F(FrmKurbo, PastedAndClearedPunchesAreEdits) {
@@ -70,7 +69,7 @@ TEST_F(FrmKurbo, PastedAndClearedPunchesAreEdits) {
     grid().Select(firstCardDay + 2, enter);
     trigger("mnuGClear");
     desk.prompts.expect(u"追加・変更を更新します。"_q);
-    find<QPushButton>("cmdUpdate")->click();
+    click("cmdUpdate");
     EXPECT_EQ(asked(u"SELECT F_Enter FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"2026/04/01 08:30:00"_q);
     EXPECT_EQ(asked(u"SELECT F_Enter FROM T02_Kurbo WHERE (F_KurboID = 3)"_q), u"-"_q);
 }
@@ -81,21 +80,21 @@ TEST_F(FrmKurbo, APersonAMonthAndARangeAreChosen) {
     choose("dcbStaff", u"1001"_q);
     EXPECT_EQ(shown(), u"1001 2026/04/01-2026/04/30"_q);
     grid().Select(firstCardDay + 20, plan);
-    find<QRadioButton>("optMonth_2")->click();
+    click("optMonth_2");
     EXPECT_EQ(shown() + QString::number(grid().Row()), u"1001 2026/02/01-2026/02/284"_q) << "from its top";
     type(1, plan, u"x"_q);
     press(Qt::Key_Return);
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
-    find<QRadioButton>("optMonth_3")->click();
-    EXPECT_TRUE(find<QRadioButton>("optMonth_2")->isChecked());
+    click("optMonth_3");
+    EXPECT_TRUE(of<QRadioButton>("optMonth_2").isChecked());
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes).expect(u"カレンダーが作成されていません。"_q);
-    QTest::keyClick(find<QWidget>("txtYear"), Qt::Key_Up);
-    EXPECT_EQ(find<QLineEdit>("txtYear")->text() + shown(), u"20261001 2026/02/01-2026/02/28"_q);
-    find<MaskedBox>("mskStart")->setText(u"2026/04/02"_q);
-    find<MaskedBox>("mskEnd")->setText(u"2026/04/02"_q);
-    QTest::keyClick(find<QWidget>("mskEnd"), Qt::Key_Up);
+    QTest::keyClick(&of<QWidget>("txtYear"), Qt::Key_Up);
+    EXPECT_EQ(of<QLineEdit>("txtYear").text() + shown(), u"20261001 2026/02/01-2026/02/28"_q);
+    of<MaskedBox>("mskStart").setText(u"2026/04/02"_q);
+    of<MaskedBox>("mskEnd").setText(u"2026/04/02"_q);
+    QTest::keyClick(&of<QWidget>("mskEnd"), Qt::Key_Up);
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::Yes);
-    find<QPushButton>("cmdDisplay")->click();
+    click("cmdDisplay");
     EXPECT_EQ(shown(), u"1001 2026/04/02-2026/04/03"_q);
     EXPECT_EQ(cells().Rows(), firstCardDay + 2);
     desk.prompts.expect(u"2026/04/03(金) 退社時刻 : 06:30:00"_q);
@@ -112,10 +111,10 @@ TEST_F(FrmKurbo, AFileIsNamedWithItsDates) {
     openAs(u"1001"_q);
     for (int i = 0; i < 2; ++i) desk.prompts.expectFile(desk.file(u"april.krb"_q));
     trigger("mnuSaveKrb");
-    find<QRadioButton>("optMonth_2")->click();
+    click("optMonth_2");
     trigger("mnuLoadKrb");
     EXPECT_EQ(form->windowTitle() + shown(), u"Kurbo－タイムカード（april.krb）1001 2026/04/01-2026/04/30"_q);
-    find<QPushButton>("cmdDisplay")->click();
+    click("cmdDisplay");
     EXPECT_EQ(form->windowTitle(), u"Kurbo－タイムカード"_q);
 }
 
@@ -133,7 +132,7 @@ TEST_F(FrmKurbo, AnotherSiteGoneMidwayIsToldAndTheScreenStays) {
     const QString other = addOtherSite();
     openAs(u"1002"_q);
     choose("dcbSection", u"S02"_q);
-    EXPECT_EQ(find<DataCombo>("dcbStaff")->currentText(), u""_q);
+    EXPECT_EQ(of<DataCombo>("dcbStaff").currentText(), u""_q);
     EXPECT_EQ(cells().Rows(), firstCardDay + 31) << "the old card stays until a name is chosen";
     choose("dcbStaff", u"2001"_q);
     EXPECT_EQ(shown(), u"2001 2026/04/01-2026/04/30"_q);
@@ -141,7 +140,7 @@ TEST_F(FrmKurbo, AnotherSiteGoneMidwayIsToldAndTheScreenStays) {
     ASSERT_TRUE(QFile::rename(other, other + u".away"_q));
     desk.prompts.expect(u"が見つかりません。データベースの保存場所，ファイル名"_q);
     choose("dcbSection", u"S02"_q);
-    EXPECT_EQ(find<DataCombo>("dcbSection")->boundText(), u"S01"_q);
+    EXPECT_EQ(of<DataCombo>("dcbSection").boundText(), u"S01"_q);
     choose("dcbStaff", u"1001"_q);
     EXPECT_EQ(cells().Rows(), firstCardDay + 30);
 }
@@ -152,9 +151,9 @@ TEST_F(FrmKurbo, AScreenWithoutACardCanOnlyBeClosed) {
     openAs(u"1002"_q);
     for (const char* closed : {"dcbSection", "dcbStaff", "txtYear", "mskStart", "udcEnd", "cmdDisplay", "cmdPrint",
                                "optMonth_7", "chkSuperior", "vfgKurbo"})
-        EXPECT_FALSE(find<QWidget>(closed)->isEnabled()) << closed;
+        EXPECT_FALSE(of<QWidget>(closed).isEnabled()) << closed;
     for (const char* closed : {"mnuMonthly", "mnuKrb", "mnuGrid"})
-        EXPECT_FALSE(find<QMenu>(closed)->menuAction()->isEnabled()) << closed;
+        EXPECT_FALSE(of<QMenu>(closed).menuAction()->isEnabled()) << closed;
     EXPECT_TRUE(form->close());
 }
 
@@ -167,7 +166,7 @@ TEST_F(FrmKurbo, TwoWindowsOnOneFileSeeEachOthersWork) {
     auto* const second = new frmKurbo(secondClient);
     second->load();
     type(1, plan, u"x"_q);
-    find<QMenu>("mnuFile")->popup({});
+    of<QMenu>("mnuFile").popup({});
     desk.prompts.expect(u"追加・変更を更新します。"_q);
     trigger("mnuUpdate");
     second->findChild<QPushButton*>(u"cmdDisplay"_q)->click();

@@ -34,10 +34,10 @@ class ManyClients : public SampleCompany {
     static QString code(int i) { return u"P%1"_q.arg(i, 2, 10, QChar(u'0')); }
     static Day dayOfRound(int round) { return *makeDay(2026, 1, 1) + std::chrono::days(round); }
 
-    [[nodiscard]] std::unique_ptr<QProcess> started(int client, int round) const {
+    [[nodiscard]] std::unique_ptr<QProcess> started(int puncher, int round) const {
         auto process = std::make_unique<QProcess>();
         process->start(QStringLiteral(KURBO_BIN "/kurboctl"),
-                       {u"punch"_q, path, u"--staff"_q, code(client), u"--password"_q, u"pw"_q, u"enter"_q, u"--at"_q,
+                       {u"punch"_q, path, u"--staff"_q, code(puncher), u"--password"_q, u"pw"_q, u"enter"_q, u"--at"_q,
                         slashDate(dayOfRound(round)) + u" 09:00"_q, u"--app-folder"_q, desk.folder.path()});
         return process;
     }
@@ -59,7 +59,7 @@ class ManyClients : public SampleCompany {
 TEST_F(ManyClients, PunchAtTheSameMoment) {
     for (int round = 0; round < rounds; ++round) {
         std::vector<std::unique_ptr<QProcess>> running;
-        for (int client = 0; client < clients; ++client) running.push_back(started(client, round));
+        for (int puncher = 0; puncher < clients; ++puncher) running.push_back(started(puncher, round));
         for (const auto& process : running) {
             ASSERT_TRUE(process->state() == QProcess::NotRunning || process->waitForFinished(60000));
             EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardError().toStdString();
@@ -73,15 +73,15 @@ TEST_F(ManyClients, AreKilledAtAnyMoment) {
     std::map<QString, int> done; // by "staff day"
     for (int round = 0; round < rounds; ++round) {
         std::vector<std::unique_ptr<QProcess>> running;
-        for (int client = 0; client < clients; ++client) running.push_back(started(client, round));
-        for (int client = 0; client < clients; ++client) {
-            auto& process = *running[static_cast<std::size_t>(client)];
-            if (client % 3 == 0 && !process.waitForFinished(static_cast<int>(random.bounded(1, 25)))) process.kill();
+        for (int puncher = 0; puncher < clients; ++puncher) running.push_back(started(puncher, round));
+        for (int puncher = 0; puncher < clients; ++puncher) {
+            auto& process = *running[static_cast<std::size_t>(puncher)];
+            if (puncher % 3 == 0 && !process.waitForFinished(static_cast<int>(random.bounded(1, 25)))) process.kill();
             ASSERT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished(60000));
             const bool ended = process.exitStatus() == QProcess::NormalExit;
             if (!ended) continue;
             EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-            ++done[code(client) + u' ' + dateId(dayOfRound(round))];
+            ++done[code(puncher) + u' ' + dateId(dayOfRound(round))];
         }
     }
     EXPECT_LT(done.size(), clients * rounds) << "some were killed";

@@ -1,20 +1,19 @@
 #include "demo/demo_company.h"
 
-#include "base/failure.h"
 #include "base/system/code_page.h"
 #include "demo/demo_people.h"
 #include "store/file/database_file.h"
 #include "store/schema.h"
+#include "support/desk.h"
 
 #include <QMap>
 #include <QSet>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
+#include <map>
 
 using namespace std::chrono;
 
-namespace kurbo {
+namespace kurbo::test {
 namespace {
 
 // A Wednesday behind a working Tuesday.
@@ -28,7 +27,7 @@ DemoOptions options(int people = 12, int sections = 3, int months = 4, std::uint
 class Company {
   public:
     explicit Company(const DemoOptions& options) {
-        const QString path = folder_.filePath(QStringLiteral("demo.mdb"));
+        const QString path = folder_.filePath(u"demo.mdb"_q);
         createDatabase(path);
         connection_.open(path, databasePassword());
         makeDemoCompany(connection_, options);
@@ -39,13 +38,13 @@ class Company {
     }
     // The number that a "SELECT Count(...)" gives.
     [[nodiscard]] std::int64_t count(const QString& tail) {
-        return connection_.firstValue(QStringLiteral("SELECT Count(*) FROM ") + tail)->integer();
+        return connection_.firstValue(u"SELECT Count(*) FROM "_q + tail)->integer();
     }
     [[nodiscard]] bool has(const QString& tail) { return count(tail) > 0; }
     [[nodiscard]] QStringList contents() {
         QStringList lines;
         for (const QString& table : tableNames()) {
-            Rows all = rows(QStringLiteral("SELECT * FROM ") + table);
+            Rows all = rows(u"SELECT * FROM "_q + table);
             while (all.next()) {
                 QString line = table;
                 for (int i = 0; i < all.columns(); ++i) line += u'|' + all.value(i).text();
@@ -60,56 +59,33 @@ class Company {
     Connection connection_;
 };
 
-struct Width {
-    QString table;
-    QString field;
-    int most;
-};
-
-const QList<Width>& widths() {
-    static const QList<Width> list = [] {
-        QList<Width> all;
-        const auto add = [&](const char* table, const char* fields, int most) {
-            for (const QString& field : QString::fromLatin1(fields).split(u' '))
-                all.append({QString::fromLatin1(table), QStringLiteral("F_") + field, most});
-        };
-        add("C01_Corp", "Corp Branch Address1 Address2", 50);
-        add("C01_Corp", "Tel Fax Title", 20);
-        add("C01_Corp", "President", 30);
-        add("C02_Section", "SectionCode", 10);
-        add("C02_Section", "SectionName", 30);
-        add("C02_Section", "Tel Fax", 20);
-        add("C03_Staff", "StaffCode Section", 10);
-        add("C03_Staff", "StaffName Kana Tel HPhone", 20);
-        add("C03_Staff", "ZipCode", 12);
-        add("C03_Staff", "Address1 Address2 EMail", 50);
-        add("M02_StaffInfo", "Password", 10);
-        add("M03_WeekdayStyle", "WeekdayName", 30);
-        add("M04_HolidayStyle", "HolidayName", 30);
-        add("M05_AmHolidayStyle", "AmHolidayName", 30);
-        add("M06_PmHolidayStyle", "PmHolidayName", 30);
-        add("M07_AdjustHours", "AdjustName", 30);
-        add("M08_Access", "AccessName", 30);
-        add("T01_Calendar", "Holiday", 30);
-        add("T02_Kurbo", "Plan", 30);
-        add("T04_Destination", "DestName", 30);
-        return all;
-    }();
-    return list;
-}
+// The most bytes of each text: the tables and fields of a width.
+const std::map<int, const char*> widths{
+    {10, "C02_Section.SectionCode C03_Staff.StaffCode C03_Staff.Section M02_StaffInfo.Password"},
+    {12, "C03_Staff.ZipCode"},
+    {20, "C01_Corp.Tel C01_Corp.Fax C01_Corp.Title C02_Section.Tel C02_Section.Fax C03_Staff.StaffName C03_Staff.Kana "
+         "C03_Staff.Tel C03_Staff.HPhone"},
+    {30, "C01_Corp.President C02_Section.SectionName M03_WeekdayStyle.WeekdayName M04_HolidayStyle.HolidayName "
+         "M05_AmHolidayStyle.AmHolidayName M06_PmHolidayStyle.PmHolidayName M07_AdjustHours.AdjustName "
+         "M08_Access.AccessName T01_Calendar.Holiday T02_Kurbo.Plan T04_Destination.DestName"},
+    {50, "C01_Corp.Corp C01_Corp.Branch C01_Corp.Address1 C01_Corp.Address2 C03_Staff.Address1 C03_Staff.Address2 "
+         "C03_Staff.EMail"}};
 
 TEST(DemoCompany, FitsAllTextIntoItsFields) {
     DemoOptions flexible = options();
     flexible.flexible = true;
     for (const DemoOptions& each : {options(mostPeople, mostSections, 0), options(), flexible}) {
         Company company(each);
-        for (const auto& [table, field, most] : widths()) {
-            Rows rows = company.rows(QStringLiteral("SELECT %1 FROM %2 WHERE (%1 IS NOT NULL)").arg(field, table));
-            while (rows.next()) {
-                EXPECT_LE(byteLength(rows.text(0)), most) << field.toStdString() << ' ' << rows.text(0).toStdString();
-                EXPECT_TRUE(toCodePage(rows.text(0)).has_value()) << rows.text(0).toStdString();
+        for (const auto& [most, fields] : widths)
+            for (const QString& field : QString::fromLatin1(fields).split(u' ')) {
+                const QString name = u"F_"_q + field.section(u'.', 1);
+                Rows rows =
+                    company.rows(u"SELECT %1 FROM %2 WHERE (%1 IS NOT NULL)"_q.arg(name, field.section(u'.', 0, 0)));
+                while (rows.next()) {
+                    EXPECT_LE(byteLength(rows.text(0)), most) << field << ' ' << rows.text(0);
+                    EXPECT_TRUE(toCodePage(rows.text(0)).has_value()) << rows.text(0);
+                }
             }
-        }
     }
 }
 
@@ -120,8 +96,8 @@ TEST(DemoCompany, GivesEveryoneAndEverySectionAnotherName) {
         for (Rows rows = company.rows(statement); rows.next();) names.insert(rows.text(0));
         return names.size();
     };
-    EXPECT_EQ(distinct(QStringLiteral("SELECT F_StaffName FROM C03_Staff WHERE (F_Order > 0)")), mostPeople);
-    EXPECT_EQ(distinct(QStringLiteral("SELECT F_SectionName FROM C02_Section WHERE (F_Order > 0)")), mostSections);
+    EXPECT_EQ(distinct(u"SELECT F_StaffName FROM C03_Staff WHERE (F_Order > 0)"_q), mostPeople);
+    EXPECT_EQ(distinct(u"SELECT F_SectionName FROM C02_Section WHERE (F_Order > 0)"_q), mostSections);
 }
 
 TEST(DemoCompany, IsTheSameForTheSameSeed) {
@@ -135,14 +111,14 @@ TEST(DemoCompany, LetsNoStayRunIntoTheNext) {
         DemoOptions large = options(60, 3, 12);
         large.flexible = flexible;
         Company company(large);
-        Rows rows = company.rows(
-            QStringLiteral("SELECT F_User, F_DateID, F_Enter, F_Leave FROM T02_Kurbo ORDER BY F_User, F_DateID"));
+        Rows rows =
+            company.rows(u"SELECT F_User, F_DateID, F_Enter, F_Leave FROM T02_Kurbo ORDER BY F_User, F_DateID"_q);
         QString user;
         Moment left;
         while (rows.next()) {
             const auto enter = rows.moment(2);
             const auto leave = rows.moment(3);
-            const std::string where = (rows.text(0) + u' ' + rows.text(1)).toStdString();
+            const QString where = rows.text(0) + u' ' + rows.text(1);
             if (std::exchange(user, rows.text(0)) != rows.text(0)) left = {};
             EXPECT_TRUE(!enter || *enter > left) << where;
             EXPECT_TRUE(!enter || dateId(dayOf(*enter)) == rows.text(1)) << where;
@@ -155,8 +131,8 @@ TEST(DemoCompany, LetsNoStayRunIntoTheNext) {
 
 TEST(DemoCompany, KeepsOutingsWithinTheDay) {
     Company company(options());
-    Rows rows = company.rows(QStringLiteral("SELECT F_Enter, F_Leave, F_Out, F_In FROM T03_GoOut INNER JOIN T02_Kurbo "
-                                            "ON T03_GoOut.F_KurboID = T02_Kurbo.F_KurboID"));
+    Rows rows = company.rows(u"SELECT F_Enter, F_Leave, F_Out, F_In FROM T03_GoOut INNER JOIN T02_Kurbo "
+                             "ON T03_GoOut.F_KurboID = T02_Kurbo.F_KurboID"_q);
     while (rows.next()) {
         const auto out = rows.moment(2);
         const auto in = rows.moment(3);
@@ -170,28 +146,34 @@ TEST(DemoCompany, KeepsOutingsWithinTheDay) {
 // Rows that point at nothing, or at somebody else's.
 TEST(DemoCompany, LeavesNoRowWithoutItsParent) {
     Company company(options(40, 5, 3));
-    for (const QString& orphans :
-         {QStringLiteral("T02_Kurbo WHERE (F_User NOT IN (SELECT F_StaffCode FROM C03_Staff))"),
-          QStringLiteral("T02_Kurbo WHERE (F_DateID NOT IN (SELECT F_DateID FROM T01_Calendar))"),
-          QStringLiteral("T03_GoOut WHERE (F_KurboID NOT IN (SELECT F_KurboID FROM T02_Kurbo))"),
-          QStringLiteral("T03_GoOut INNER JOIN T02_Kurbo ON T03_GoOut.F_KurboID = T02_Kurbo.F_KurboID "
-                         "WHERE (F_Destination IS NOT NULL) AND (F_Destination NOT IN "
-                         "(SELECT F_DestCode FROM T04_Destination WHERE T04_Destination.F_User = T02_Kurbo.F_User))"),
-          QStringLiteral("T05_Approved WHERE (F_Staff NOT IN (SELECT F_StaffCode FROM C03_Staff))"),
-          QStringLiteral("T05_Approved WHERE (F_Section NOT IN (SELECT F_SectionCode FROM C02_Section))"),
-          QStringLiteral(
-              "C03_Staff WHERE (F_Order > 0) AND (F_Section NOT IN (SELECT F_SectionCode FROM C02_Section))"),
-          QStringLiteral(
-              "C03_Staff WHERE (F_Order > 0) AND (F_StaffCode NOT IN (SELECT F_StaffCode FROM M02_StaffInfo))"),
-          QStringLiteral("M02_StaffInfo WHERE (F_Access NOT IN (SELECT F_AccessCode FROM M08_Access))"),
-          QStringLiteral("M02_StaffInfo WHERE (F_Weekday NOT IN (SELECT F_WeekdayCode FROM M03_WeekdayStyle))"),
-          QStringLiteral("M02_StaffInfo WHERE (F_AdjustHours NOT IN (SELECT F_AdjustCode FROM M07_AdjustHours))")})
-        EXPECT_EQ(company.count(orphans), 0) << orphans.toStdString();
+    struct Relation {
+        QString child;
+        QString parent;
+    };
+    for (const auto& [child, parent] : {Relation{u"T02_Kurbo.F_User"_q, u"C03_Staff.F_StaffCode"_q},
+                                        {u"T02_Kurbo.F_DateID"_q, u"T01_Calendar.F_DateID"_q},
+                                        {u"T03_GoOut.F_KurboID"_q, u"T02_Kurbo.F_KurboID"_q},
+                                        {u"T05_Approved.F_Staff"_q, u"C03_Staff.F_StaffCode"_q},
+                                        {u"T05_Approved.F_Section"_q, u"C02_Section.F_SectionCode"_q},
+                                        {u"C03_Staff.F_Section"_q, u"C02_Section.F_SectionCode"_q},
+                                        {u"C03_Staff.F_StaffCode"_q, u"M02_StaffInfo.F_StaffCode"_q},
+                                        {u"M02_StaffInfo.F_Access"_q, u"M08_Access.F_AccessCode"_q},
+                                        {u"M02_StaffInfo.F_Weekday"_q, u"M03_WeekdayStyle.F_WeekdayCode"_q},
+                                        {u"M02_StaffInfo.F_AdjustHours"_q, u"M07_AdjustHours.F_AdjustCode"_q}})
+        EXPECT_EQ(company.count(u"%1 WHERE %2 (%3 NOT IN (SELECT %4 FROM %5))"_q.arg(
+                      child.section(u'.', 0, 0), child.startsWith(u"C03"_q) ? u"(F_Order > 0) AND"_q : QString(),
+                      child.section(u'.', 1), parent.section(u'.', 1), parent.section(u'.', 0, 0))),
+                  0)
+            << child;
+    EXPECT_EQ(company.count(u"T03_GoOut INNER JOIN T02_Kurbo ON T03_GoOut.F_KurboID = T02_Kurbo.F_KurboID "
+                            "WHERE (F_Destination IS NOT NULL) AND (F_Destination NOT IN (SELECT F_DestCode FROM "
+                            "T04_Destination WHERE T04_Destination.F_User = T02_Kurbo.F_User))"_q),
+              0);
 }
 
 TEST(DemoCompany, NumbersCardsWithoutGapsInTheOrderOfDays) {
     Company company(options());
-    Rows rows = company.rows(QStringLiteral("SELECT F_KurboID, F_DateID, F_User FROM T02_Kurbo ORDER BY F_KurboID"));
+    Rows rows = company.rows(u"SELECT F_KurboID, F_DateID, F_User FROM T02_Kurbo ORDER BY F_KurboID"_q);
     QString before;
     for (std::int64_t id = 1; rows.next(); ++id) {
         EXPECT_EQ(rows.integer(0), id);
@@ -203,7 +185,7 @@ TEST(DemoCompany, NumbersCardsWithoutGapsInTheOrderOfDays) {
 
 TEST(DemoCompany, HasACalendarOfWholeYears) {
     Company company(options());
-    Rows rows = company.rows(QStringLiteral("SELECT F_DateID, F_Date, F_Type FROM T01_Calendar ORDER BY F_DateID"));
+    Rows rows = company.rows(u"SELECT F_DateID, F_Date, F_Type FROM T01_Calendar ORDER BY F_DateID"_q);
     Day day = *makeDay(2026, 1, 1);
     for (; rows.next(); day += days{1}) {
         EXPECT_EQ(rows.text(0), dateId(day));
@@ -217,54 +199,52 @@ TEST(DemoCompany, ShowsEverySituation) {
     for (const std::uint32_t seed : {1U, 2U, 3U}) {
         Company company(options(12, 3, 4, seed));
         for (const QString& situation :
-             {QStringLiteral("C03_Staff WHERE (F_Retire IS NOT NULL) AND (F_Display = False)"),
-              QStringLiteral("M02_StaffInfo WHERE (F_StaffCode <> 'ADMIN') AND (F_Access IS NULL)"),
-              QStringLiteral("M02_StaffInfo WHERE (F_Access = 3)"),
-              QStringLiteral("M02_StaffInfo WHERE (F_CloseDay = 20)"),
-              QStringLiteral("T02_Kurbo WHERE (F_DateID = '20261124') AND (F_Leave IS NULL) AND (F_Enter IS NOT NULL)"),
-              QStringLiteral("T02_Kurbo WHERE (Left(F_Leave, 10) > Left(F_Enter, 10))"),
-              QStringLiteral("T02_Kurbo WHERE (F_DateID < '20261124') AND (F_Leave IS NULL) AND (F_Enter IS NOT NULL)"),
-              QStringLiteral("T02_Kurbo WHERE (F_Enter IS NULL) AND (F_Leave IS NOT NULL)"),
-              QStringLiteral("T02_Kurbo WHERE (F_Paid = '0') AND (F_DateID < '20261125')"),
-              QStringLiteral("T02_Kurbo WHERE (F_Paid = '1') AND (F_Leave IS NOT NULL)"),
-              QStringLiteral("T02_Kurbo WHERE (F_Paid = '2') AND (F_Leave IS NOT NULL)"),
-              QStringLiteral("T02_Kurbo WHERE (F_Special = '0')"),
-              QStringLiteral("T02_Kurbo WHERE (F_Compens = '0')"),
-              QStringLiteral("T02_Kurbo WHERE (F_Paid = '0') AND (F_DateID > '20261125')"),
-              QStringLiteral("T03_GoOut WHERE (F_In IS NULL)"),
-              QStringLiteral("T03_GoOut WHERE (F_Out IS NULL)"),
-              QStringLiteral("T05_Approved WHERE (F_PersonalApproval = True) AND (F_SuperiorApproval = True)"),
-              QStringLiteral("T05_Approved WHERE (F_PersonalApproval = True) AND (F_SuperiorApproval = False)"),
-              QStringLiteral("T05_Approved WHERE (F_PersonalApproval = False)"),
-              QStringLiteral("T05_Approved WHERE (F_Holiday > 0)"),
-              QStringLiteral("T05_Approved WHERE (F_Late > 0)"),
-              QStringLiteral("T05_Approved WHERE (F_AbsentDay > 0)"),
-              QStringLiteral("T05_Approved WHERE (F_LateEnter > 0)"),
-              QStringLiteral("T05_Approved WHERE (F_EarlyLeave > 0)")})
-            EXPECT_TRUE(company.has(situation)) << seed << ' ' << situation.toStdString();
+             {u"C03_Staff WHERE (F_Retire IS NOT NULL) AND (F_Display = False)"_q,
+              u"M02_StaffInfo WHERE (F_StaffCode <> 'ADMIN') AND (F_Access IS NULL)"_q,
+              u"M02_StaffInfo WHERE (F_Access = 3)"_q,
+              u"M02_StaffInfo WHERE (F_CloseDay = 20)"_q,
+              u"T02_Kurbo WHERE (F_DateID = '20261124') AND (F_Leave IS NULL) AND (F_Enter IS NOT NULL)"_q,
+              u"T02_Kurbo WHERE (Left(F_Leave, 10) > Left(F_Enter, 10))"_q,
+              u"T02_Kurbo WHERE (F_DateID < '20261124') AND (F_Leave IS NULL) AND (F_Enter IS NOT NULL)"_q,
+              u"T02_Kurbo WHERE (F_Enter IS NULL) AND (F_Leave IS NOT NULL)"_q,
+              u"T02_Kurbo WHERE (F_Paid = '0') AND (F_DateID < '20261125')"_q,
+              u"T02_Kurbo WHERE (F_Paid = '1') AND (F_Leave IS NOT NULL)"_q,
+              u"T02_Kurbo WHERE (F_Paid = '2') AND (F_Leave IS NOT NULL)"_q,
+              u"T02_Kurbo WHERE (F_Special = '0')"_q,
+              u"T02_Kurbo WHERE (F_Compens = '0')"_q,
+              u"T02_Kurbo WHERE (F_Paid = '0') AND (F_DateID > '20261125')"_q,
+              u"T03_GoOut WHERE (F_In IS NULL)"_q,
+              u"T03_GoOut WHERE (F_Out IS NULL)"_q,
+              u"T05_Approved WHERE (F_PersonalApproval = True) AND (F_SuperiorApproval = True)"_q,
+              u"T05_Approved WHERE (F_PersonalApproval = True) AND (F_SuperiorApproval = False)"_q,
+              u"T05_Approved WHERE (F_PersonalApproval = False)"_q,
+              u"T05_Approved WHERE (F_Holiday > 0)"_q,
+              u"T05_Approved WHERE (F_Late > 0)"_q,
+              u"T05_Approved WHERE (F_AbsentDay > 0)"_q,
+              u"T05_Approved WHERE (F_LateEnter > 0)"_q,
+              u"T05_Approved WHERE (F_EarlyLeave > 0)"_q})
+            EXPECT_TRUE(company.has(situation)) << seed << ' ' << situation;
     }
 }
 
 TEST(DemoCompany, StandsAtTheMorningOfToday) {
     Company company(options());
-    EXPECT_FALSE(company.has(QStringLiteral("T02_Kurbo WHERE (F_Enter >= #2026/11/25#)")));
-    EXPECT_FALSE(company.has(QStringLiteral("T02_Kurbo WHERE (F_Leave >= #2026/11/25#)")));
+    EXPECT_FALSE(company.has(u"T02_Kurbo WHERE (F_Enter >= #2026/11/25#)"_q));
+    EXPECT_FALSE(company.has(u"T02_Kurbo WHERE (F_Leave >= #2026/11/25#)"_q));
     // The closing days 31 and 20 give four whole periods each; the newest is not saved by everybody.
-    Rows rows =
-        company.rows(QStringLiteral("SELECT F_Year, F_Month, F_Term FROM T05_Approved ORDER BY F_Year, F_Month"));
+    Rows rows = company.rows(u"SELECT F_Year, F_Month, F_Term FROM T05_Approved ORDER BY F_Year, F_Month"_q);
     QSet<QString> periods;
     while (rows.next()) periods.insert(rows.text(0) + rows.text(1) + u' ' + rows.text(2));
     EXPECT_EQ(periods.size(), 8);
-    EXPECT_TRUE(periods.contains(QStringLiteral("202607 2026/07/01-2026/07/31")));
-    EXPECT_TRUE(periods.contains(QStringLiteral("202611 2026/10/21-2026/11/20")));
+    EXPECT_TRUE(periods.contains(u"202607 2026/07/01-2026/07/31"_q));
+    EXPECT_TRUE(periods.contains(u"202611 2026/10/21-2026/11/20"_q));
 }
 
 TEST(DemoCompany, KeepsThePaidLeaveOfTheNewestMonth) {
     Company company(options());
-    Rows rows =
-        company.rows(QStringLiteral("SELECT T05_Approved.F_Staff, T05_Approved.F_PaidTotal, M02_StaffInfo.F_PaidTotal "
-                                    "FROM T05_Approved INNER JOIN M02_StaffInfo ON T05_Approved.F_Staff = "
-                                    "M02_StaffInfo.F_StaffCode ORDER BY F_Staff, F_Year, F_Month"));
+    Rows rows = company.rows(u"SELECT T05_Approved.F_Staff, T05_Approved.F_PaidTotal, M02_StaffInfo.F_PaidTotal "
+                             "FROM T05_Approved INNER JOIN M02_StaffInfo ON T05_Approved.F_Staff = "
+                             "M02_StaffInfo.F_StaffCode ORDER BY F_Staff, F_Year, F_Month"_q);
     QMap<QString, std::pair<double, double>> newest;
     while (rows.next()) newest[rows.text(0)] = {rows.real(1), rows.real(2)};
     EXPECT_EQ(newest.size(), 12);
@@ -277,10 +257,10 @@ TEST(DemoCompany, AnswersForThePeopleToTry) {
     QSet<QString> roles;
     for (const DemoPerson& person : people) {
         roles.insert(person.role);
-        EXPECT_EQ(company.count(QStringLiteral("C03_Staff INNER JOIN M02_StaffInfo ON C03_Staff.F_StaffCode = "
-                                               "M02_StaffInfo.F_StaffCode WHERE (C03_Staff.F_StaffCode = '%1') AND "
-                                               "(F_Section = '%2') AND (F_StaffName = '%3') AND (F_Password = '%4')")
-                                    .arg(person.code, person.section, person.name, person.password)),
+        EXPECT_EQ(company.count(u"C03_Staff INNER JOIN M02_StaffInfo ON C03_Staff.F_StaffCode = "
+                                "M02_StaffInfo.F_StaffCode WHERE (C03_Staff.F_StaffCode = '%1') AND "
+                                "(F_Section = '%2') AND (F_StaffName = '%3') AND (F_Password = '%4')"_q.arg(
+                                    person.code, person.section, person.name, person.password)),
                   1);
     }
     EXPECT_EQ(roles.size(), 6);
@@ -294,18 +274,16 @@ TEST(DemoCompany, CanBeSmallLargeOrNew) {
           DemoOptions{12, 200, 1, 1, *makeDay(2024, 2, 29), false}, DemoOptions{12, 1, 2, 1, today, false},
           DemoOptions{50, 2, 1, 4'294'967'295U, *makeDay(2026, 12, 31), true}}) {
         Company company(each);
-        EXPECT_EQ(company.count(QStringLiteral("C03_Staff WHERE (F_Order > 0)")), each.people);
-        EXPECT_TRUE(company.has(QStringLiteral("M02_StaffInfo WHERE (F_Access = 3)")));
+        EXPECT_EQ(company.count(u"C03_Staff WHERE (F_Order > 0)"_q), each.people);
+        EXPECT_TRUE(company.has(u"M02_StaffInfo WHERE (F_Access = 3)"_q));
     }
 }
 
 TEST(DemoCompany, RefusesOptionsThatMakeNoCompany) {
-    EXPECT_THROW(Company(options(0)), Complaint);
-    EXPECT_THROW(Company(options(mostPeople + 1)), Complaint);
-    EXPECT_THROW(Company(options(12, 0)), Complaint);
-    EXPECT_THROW(Company(options(12, 3, -1)), Complaint);
-    EXPECT_THROW(Company(DemoOptions{}), Complaint);
+    for (const DemoOptions& none :
+         {options(0), options(mostPeople + 1), options(12, 0), options(12, 3, -1), DemoOptions{}})
+        EXPECT_THROW(Company{none}, Complaint);
 }
 
 } // namespace
-} // namespace kurbo
+} // namespace kurbo::test

@@ -21,15 +21,29 @@ std::array<int, 6> figuresOf(const MonthFigures& month) {
             month.of(Figure::Late), month.of(Figure::Early),     month.of(Figure::Absent)};
 }
 
-using Figures = std::array<int, 6>;
+struct Case {
+    DemoFacts facts;
+    std::array<int, 6> figures;
+    Shift shift = Shift::Days;
+};
 
-TEST(DemoMonth, SplitsAFixedDayIntoItsBands) {
-    const DemoFacts longDay{DemoDay::Work, DayKind::Weekday, clock(7, 50, 10), clock(23, 59)};
-    EXPECT_EQ(figuresOf(ofDay(longDay)), (Figures{450, 30, 240, 105, 60, 0}));
-    const DemoFacts allNight{DemoDay::Work, DayKind::Holiday, clock(8, 59), clock(24 + 6, 10)};
-    EXPECT_EQ(figuresOf(ofDay(allNight)), (Figures{450, 30, 240 + 60, 420, 0, 0}));
-    const DemoFacts night{DemoDay::Work, DayKind::Weekday, clock(14, 52), clock(24, 40)};
-    EXPECT_EQ(figuresOf(ofDay(night, false, Shift::Nights)), (Figures{480, 0, 0, 150, 0, 0}));
+TEST(DemoMonth, SplitsADayIntoTheBandsOfItsKind) {
+    using enum DemoDay;
+    for (const Case& c :
+         {Case{{Work, DayKind::Weekday, clock(7, 50, 10), clock(23, 59)}, {450, 30, 240, 105, 60, 0}},
+          {{Work, DayKind::Holiday, clock(8, 59), clock(24 + 6, 10)}, {450, 30, 240 + 60, 420, 0, 0}},
+          {{Work, DayKind::Weekday, clock(14, 52), clock(24, 40)}, {480, 0, 0, 150, 0, 0}, Shift::Nights},
+          {{MorningLeave, DayKind::Weekday, clock(12, 50), clock(18, 0)}, {270, 30, 0, 0, 0, 0}},
+          {{AfternoonLeave, DayKind::Weekday, clock(8, 0), clock(14, 0)}, {180, 0, 0, 0, 60, 0}},
+          {{AfternoonOff, DayKind::Holiday, clock(8, 50), clock(14, 0)}, {180, 60, 0, 0, 0, 0}},
+          {{Work, DayKind::Weekday, {}, {}}, {0, 0, 0, 0, 0, 450}},
+          {{Work, DayKind::Weekday, clock(9, 0), {}}, {0, 0, 0, 0, 0, 0}}}) {
+        const MonthFigures month = ofDay(c.facts, false, c.shift);
+        EXPECT_EQ(figuresOf(month), c.figures);
+        EXPECT_EQ(month.absentDays, c.figures[5] == 450 ? 1 : 0) << "neither a forgotten punch";
+        EXPECT_EQ(month.workDays, c.facts.enter && c.facts.leave ? 1 : 0);
+    }
+    EXPECT_EQ(ofDay({WholeLeave, DayKind::Weekday, {}, {}}).absentDays, 0);
 }
 
 TEST(DemoMonth, CountsLatenessByTheRealTimesAndAbsenceByTheRounded) {
@@ -38,25 +52,6 @@ TEST(DemoMonth, CountsLatenessByTheRealTimesAndAbsenceByTheRounded) {
     EXPECT_EQ(late.earlyLeaves, 1);
     EXPECT_EQ(late.of(Figure::Absent), 30);
     EXPECT_EQ(late.workDays, 1);
-}
-
-TEST(DemoMonth, TakesHalfAndWholeLeaveByTheirOwnBands) {
-    const DemoFacts afternoon{DemoDay::MorningLeave, DayKind::Weekday, clock(12, 50), clock(18, 0)};
-    EXPECT_EQ(figuresOf(ofDay(afternoon)), (Figures{270, 30, 0, 0, 0, 0}));
-    const DemoFacts morning{DemoDay::AfternoonLeave, DayKind::Weekday, clock(8, 0), clock(14, 0)};
-    EXPECT_EQ(figuresOf(ofDay(morning)), (Figures{180, 0, 0, 0, 60, 0}));
-    const DemoFacts cleaning{DemoDay::AfternoonOff, DayKind::Holiday, clock(8, 50), clock(14, 0)};
-    EXPECT_EQ(figuresOf(ofDay(cleaning)), (Figures{180, 60, 0, 0, 0, 0}));
-    const DemoFacts leave{DemoDay::WholeLeave, DayKind::Weekday, {}, {}};
-    EXPECT_EQ(ofDay(leave).absentDays, 0);
-}
-
-TEST(DemoMonth, TellsAbsenceFromAForgottenPunch) {
-    const MonthFigures absent = ofDay({DemoDay::Work, DayKind::Weekday, {}, {}});
-    EXPECT_EQ(absent.absentDays, 1);
-    EXPECT_EQ(absent.of(Figure::Absent), 450);
-    const MonthFigures forgotten = ofDay({DemoDay::Work, DayKind::Weekday, clock(9, 0), {}});
-    EXPECT_EQ(forgotten.absentDays + forgotten.workDays + forgotten.of(Figure::Absent), 0);
 }
 
 TEST(DemoMonth, KeepsHolidayWorkApart) {

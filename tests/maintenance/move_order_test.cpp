@@ -13,12 +13,7 @@ namespace {
 class Order : public OldDays {
   protected:
     QString refusal(const MoveOrder& given) {
-        try {
-            checkMove(desk.context, path, given);
-        } catch (const Complaint& complaint) {
-            return complaint.description();
-        }
-        return {};
+        return refusalOf([&] { checkMove(desk.context, path, given); });
     }
     QString refusedPlace(const QString& place) {
         MoveOrder given = order(false);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "store/client.h"
 #include "store/file/database_file.h"
 #include "support/sample_company.h"
 
@@ -11,7 +10,6 @@ namespace kurbo::test {
 class PurgeOffice : public SampleCompany {
   protected:
     PurgeOffice() {
-        client.DbPath = path;
         int code = 0;
         for (const char16_t* user : {u"1002", u"1002", u"1001", u"1001", u"1001", u"9999"}) {
             ++code;
@@ -32,8 +30,6 @@ class PurgeOffice : public SampleCompany {
         while (rows.next()) codes += rows.text(0);
         return codes;
     }
-
-    Client client{desk.context};
 };
 
 } // namespace kurbo::test

@@ -7,14 +7,10 @@ namespace kurbo::test {
 namespace {
 
 TEST(ReportRecords, CutsFieldsByBytesAndNeverHalfACharacter) {
-    struct Case {
-        QString text;
-        int bytes;
-        QString cut;
-    };
-    for (const Case& c : {Case{u"12345678"_q, 6, u"123456"_q}, Case{u"漢字か"_q, 5, u"漢字"_q},
-                          Case{u"ｱｲｳ漢"_q, 4, u"ｱｲｳ"_q}, Case{u"a髙𠮷b"_q, 4, u"a髙"_q}, Case{u"漢"_q, 1, {}}})
-        EXPECT_EQ(cutToBytes(c.text, c.bytes), c.cut) << c.text;
+    for (const auto& [text, bytes, cut] :
+         {std::tuple{u"12345678"_q, 6, u"123456"_q}, std::tuple{u"漢字か"_q, 5, u"漢字"_q},
+          std::tuple{u"ｱｲｳ漢"_q, 4, u"ｱｲｳ"_q}, std::tuple{u"a髙𠮷b"_q, 4, u"a髙"_q}, std::tuple{u"漢"_q, 1, QString()}})
+        EXPECT_EQ(cutToBytes(text, bytes), cut) << text;
     for (char16_t sign = 0xA0; sign < 0xFFFE; sign += 7) {
         const QString text = QString(QChar(sign)) + u'x';
         EXPECT_TRUE(QChar(sign).isSurrogate() || (cutToBytes(text, 2) == text) == (byteLength(text) <= 2)) << text;
@@ -111,18 +107,13 @@ TEST(Report, GroupsStartCleanlyAndGoOnUnderTheirHeading) {
 }
 
 TEST(Report, ItsFileIsNamedByWhomAndWhen) {
-    struct Case {
-        QString start;
-        QString end;
-        QString name;
-    };
-    for (const Case& c : {Case{u"2026/05/01"_q, u"2026/05/31"_q, u"t_1001_202605"_q},
-                          {u"2026/04/21"_q, u"2026/05/20"_q, u"t_1001_202605"_q},
-                          {u"2026/05/01"_q, u"2026/05/30"_q, u"t_1001_20260501-20260530"_q},
-                          {u"2026/05/01"_q, u"2026/05/01"_q, u"t_1001_20260501"_q},
-                          {u"2026/05"_q, u"2026/05"_q, u"t_1001_202605"_q},
-                          {u"2026/05"_q, u"2026/06"_q, u"t_1001_202605-202606"_q}})
-        EXPECT_EQ(reportFileName(u"t"_q, u"1001"_q, c.start, c.end), c.name);
+    for (const auto& [start, end, name] : {std::tuple{u"2026/05/01"_q, u"2026/05/31"_q, u"t_1001_202605"_q},
+                                           {u"2026/04/21"_q, u"2026/05/20"_q, u"t_1001_202605"_q},
+                                           {u"2026/05/01"_q, u"2026/05/30"_q, u"t_1001_20260501-20260530"_q},
+                                           {u"2026/05/01"_q, u"2026/05/01"_q, u"t_1001_20260501"_q},
+                                           {u"2026/05"_q, u"2026/05"_q, u"t_1001_202605"_q},
+                                           {u"2026/05"_q, u"2026/06"_q, u"t_1001_202605-202606"_q}})
+        EXPECT_EQ(reportFileName(u"t"_q, u"1001"_q, start, end), name);
     EXPECT_EQ(reportFileName(u"t"_q, {}, u"2026/05"_q, u"2026/05"_q), u"t_202605"_q);
 }
 

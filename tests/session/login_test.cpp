@@ -9,14 +9,12 @@ class LogIn : public SampleCompany {
   protected:
     LogIn() {
         connection.close();
-        client.DbPath = path;
         client.openHome();
     }
     LoginResult attempt(const QString& staff, const QString& password) {
         return login.attempt({isAdminCode(staff) ? QString() : u"s01"_q, staff, password});
     }
 
-    Client client{desk.context};
     Login login{client};
     const QString wrong = u"不正なパスワードです。正しいパスワードを入力して下さい。"_q;
     const QString last = u"不正なパスワードです。強制終了します。"_q;

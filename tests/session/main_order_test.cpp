@@ -29,7 +29,10 @@ class Screens final : public StartScreens {
 
 class Start : public SampleCompany {
   protected:
-    Start() { connection.close(); }
+    Start() {
+        connection.close();
+        client.DbPath.clear();
+    }
     bool start(const QByteArray& parm) {
         if (!parm.isNull()) replaceFile(desk.paths.ParmPath, parm);
         screens.seen.clear();
@@ -38,7 +41,6 @@ class Start : public SampleCompany {
     const QString toLogin = u"splash(起動中です･･･) login"_q;
     const QString toParm = u"splash(起動中です･･･) parm "_q;
 
-    Client client{desk.context};
     Screens screens;
 };
 

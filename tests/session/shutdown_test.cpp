@@ -15,12 +15,9 @@ class ShutDown : public SampleCompany {
   protected:
     ShutDown() {
         connection.close();
-        client.DbPath = path;
         client.openHome();
     }
     [[nodiscard]] bool backedUp() const { return QFileInfo::exists(desk.paths.BackupPath); }
-
-    Client client{desk.context};
 };
 
 } // namespace

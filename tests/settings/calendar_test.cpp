@@ -23,10 +23,7 @@ class Watched final : public Progress {
 // The calendar of 2026 is there, and today is in it.
 class CalendarDays : public SampleCompany {
   protected:
-    CalendarDays() {
-        client.DbPath = path;
-        client.openHome();
-    }
+    CalendarDays() { client.openHome(); }
     [[nodiscard]] int days(int year) {
         return asked(u"SELECT Count(*) FROM T01_Calendar WHERE (F_DateID LIKE '%1%')"_q.arg(year)).toInt();
     }
@@ -37,19 +34,9 @@ class CalendarDays : public SampleCompany {
     void edit(int row, int column, const QString& text) { calendar.sheet.grid.edit(row, column, text); }
     void update() { UpdateCalendar(watched, client.HomeConnection, calendar.sheet); }
 
-    Client client{desk.context};
     Calendar calendar{client};
     Watched watched;
 };
-
-QString complaintOf(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const Complaint& complaint) {
-        return complaint.description();
-    }
-    return {};
-}
 
 } // namespace
 
@@ -105,7 +92,7 @@ TEST_F(CalendarDays, OpenOnThisYearOrTheOldest) {
     EXPECT_EQ(calendar.sheet.year, 2027);
     EXPECT_EQ(days(2027), 365);
     connection.execute(u"DELETE FROM M01_CorpInfo"_q);
-    EXPECT_EQ(complaintOf([&] { calendar.load(); }).left(15), u"勤務形態設定に不備があります。"_q);
+    EXPECT_EQ(refusalOf([&] { calendar.load(); }).left(15), u"勤務形態設定に不備があります。"_q);
 }
 
 TEST_F(CalendarDays, YearsAreMadeWithinLimits) {
@@ -184,7 +171,7 @@ TEST_F(CalendarDays, CellsAndRowsAreChecked) {
                           {kindColumn, u"x"_q, badKind, wrongKind}}) {
         EXPECT_EQ(rules.refusal(5, c.column, c.text), c.refusal) << c.text;
         edit(5, c.column, c.text);
-        EXPECT_EQ(complaintOf([&] { checkCalendar(calendar.sheet); }), c.complaint) << c.text;
+        EXPECT_EQ(refusalOf([&] { checkCalendar(calendar.sheet); }), c.complaint) << c.text;
         edit(5, c.column, {});
     }
     EXPECT_FALSE(rules.mayEdit(0, nameColumn) || rules.mayEdit(5, 1) || rules.mayEdit(5, 4));

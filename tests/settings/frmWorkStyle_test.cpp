@@ -1,6 +1,6 @@
 #include "settings/work_style/frmWorkStyle.h"
 
-#include "settings/settings_window.h"
+#include "support/window.h"
 
 #include <QDir>
 #include <QTabWidget>
@@ -8,7 +8,7 @@
 namespace kurbo::test {
 namespace {
 
-using frmWorkStyleTest = SettingsWindow<frmWorkStyle>;
+using frmWorkStyleTest = Window<frmWorkStyle>;
 
 TEST_F(frmWorkStyleTest, OneRound) {
     open();

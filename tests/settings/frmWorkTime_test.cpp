@@ -4,14 +4,10 @@
 #include "screen/grid/grid.h"
 #include "settings/times.h"
 #include "settings/work_time/day_chart.h"
+#include "support/window.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QLabel>
-#include <QPointer>
-#include <QStatusBar>
 #include <QTabWidget>
-#include <QTest>
 
 namespace kurbo::test {
 namespace {
@@ -20,26 +16,10 @@ const QString update = u"追加・変更を更新します。\r\n\r\nよろし�
 const QString discard = u"平日勤務時間は変更されています。変更を破棄しますか？"_q;
 
 // The window, worked as an administrator works it.
-class FrmWorkTime : public Times {
+class FrmWorkTime : public Window<frmWorkTime, Times> {
   protected:
-    FrmWorkTime() { client.DbPath = path; }
-    ~FrmWorkTime() override { delete form; }
-    void open() {
-        client.openHome();
-        form = new frmWorkTime(client);
-        form->load();
-        form->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    }
-    template <typename Part>
-    [[nodiscard]] Part& of(const char* name) const {
-        return *form->findChild<Part*>(QString::fromLatin1(name));
-    }
     [[nodiscard]] Grid& grid() const { return of<Grid>("vfgWeekday"); }
     [[nodiscard]] QString cell(int row, int column) const { return grid().grid()->TextMatrix(row, column); }
-    static void press(int key, Qt::KeyboardModifiers with = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), with);
-    }
     void type(int row, int column, const QString& text, int end = Qt::Key_Return) const {
         grid().setFocus();
         grid().Select(row, column);
@@ -50,13 +30,6 @@ class FrmWorkTime : public Times {
         of<DataList>(list).setCurrentRow(row);
         QCoreApplication::processEvents();
     }
-    [[nodiscard]] bool isUpdatable() const {
-        EXPECT_EQ(of<QWidget>("cmdUpdateWeekday").isEnabled(), of<QAction>("mnuUpdateWeekday").isEnabled());
-        return of<QWidget>("cmdUpdateWeekday").isEnabled();
-    }
-
-    Client client{desk.context};
-    QPointer<frmWorkTime> form;
 };
 
 TEST_F(FrmWorkTime, TimesAreTypedRefusedAndStored) {
@@ -64,31 +37,31 @@ TEST_F(FrmWorkTime, TimesAreTypedRefusedAndStored) {
     EXPECT_EQ(form->windowTitle(), u"Kurbo－勤務時間設定"_q);
     choose("dtsWeekday", 1);
     EXPECT_EQ(of<QLineEdit>("txtWeekday").text() + cell(2, 1) + cell(2, 2), u"日勤09:0017:30"_q);
-    EXPECT_FALSE(isUpdatable());
+    EXPECT_FALSE(isUpdatable("Weekday"));
     const QImage before = of<DayChart>("picWeekday").grab().toImage();
     desk.prompts.expect(u"開始時刻が入力されていません。"_q);
     type(5, 2, u"2200"_q);
     grid().cancelEdit();
     type(5, 1, u"1800"_q, Qt::Key_Tab);
     type(5, 2, u"2200"_q);
-    EXPECT_TRUE(isUpdatable());
+    EXPECT_TRUE(isUpdatable("Weekday"));
     EXPECT_NE(of<DayChart>("picWeekday").grab().toImage(), before);
     desk.prompts.expect(discard, Answer::No);
     choose("dtsWeekday", 0);
     EXPECT_EQ(of<DataList>("dtsWeekday").boundText() + cell(5, 1), u"118:00"_q);
     desk.prompts.expect(update, Answer::Cancel).expect(update);
-    of<QPushButton>("cmdUpdateWeekday").click();
-    EXPECT_TRUE(isUpdatable());
-    of<QAction>("mnuUpdateWeekday").trigger();
-    EXPECT_FALSE(isUpdatable());
+    click("cmdUpdateWeekday");
+    EXPECT_TRUE(isUpdatable("Weekday"));
+    trigger("mnuUpdateWeekday");
+    EXPECT_FALSE(isUpdatable("Weekday"));
     EXPECT_EQ(asked(u"SELECT F_StartOver0 FROM M03_WeekdayStyle WHERE (F_WeekdayCode = 1)"_q), u"18:00"_q);
     choose("dtsWeekday", 0);
     of<QLineEdit>("txtWeekday").setText(u"夜勤"_q);
     desk.prompts.expect(u"就業時間が入力されていません。"_q).expect(update);
-    of<QPushButton>("cmdUpdateWeekday").click();
+    click("cmdUpdateWeekday");
     type(2, 1, u"1500"_q, Qt::Key_Tab);
     type(2, 2, u"0000"_q);
-    of<QPushButton>("cmdUpdateWeekday").click();
+    click("cmdUpdateWeekday");
     EXPECT_EQ(of<DataList>("dtsWeekday").boundText() + of<DataList>("dtsWeekday").text(), u"2夜勤"_q);
     type(2, 3, u"0100"_q);
     const auto* const tip = form->statusBar()->findChild<QLabel*>();
@@ -107,26 +80,26 @@ TEST_F(FrmWorkTime, WhatIsUsedOrReservedStays) {
     open();
     desk.prompts.expect(u"「新しい勤務時間」は削除できません。"_q)
         .expect(u"表示されている平日勤務時間設定は使用されているため削除できません。"_q);
-    of<QAction>("mnuDeleteWeekday").trigger();
+    trigger("mnuDeleteWeekday");
     choose("dtsWeekday", 1);
-    of<QAction>("mnuDeleteWeekday").trigger();
+    trigger("mnuDeleteWeekday");
     EXPECT_EQ(of<DataList>("dtsWeekday").count(), 2);
     connection.execute(u"UPDATE M02_StaffInfo SET F_AdjustHours = 0"_q);
     of<QTabWidget>("tabTime").setCurrentIndex(Adjust);
     choose("dtsAdjust", 1);
     desk.prompts.expect(u"表示されている時間調整設定を削除します。"_q);
-    of<QAction>("mnuDeleteAdjust").trigger();
+    trigger("mnuDeleteAdjust");
     EXPECT_EQ(of<DataList>("dtsAdjust").boundText() + of<QLineEdit>("txtAdjust").text(), u"0新しい時間調整"_q);
     EXPECT_EQ(count(u"M07_AdjustHours"_q), 1);
     connection.execute(u"INSERT INTO M07_AdjustHours (F_AdjustCode, F_AdjustName) VALUES (3, 'x')"_q);
     connection.engine("CREATE TRIGGER Kept BEFORE DELETE ON M07_AdjustHours BEGIN SELECT RAISE(ABORT, 'kept'); END");
     of<QLineEdit>("txtAdjust").setText(u"y"_q);
     desk.prompts.expect(update);
-    of<QAction>("mnuUpdateAdjust").trigger();
+    trigger("mnuUpdateAdjust");
     desk.prompts.expect(u"表示されている時間調整設定を削除します。"_q)
         .expect(u"エラー番号"_q)
         .expect(u"午後休日勤務時間設定の削除に失敗しました。"_q);
-    of<QAction>("mnuDeleteAdjust").trigger();
+    trigger("mnuDeleteAdjust");
     EXPECT_EQ(of<DataList>("dtsAdjust").boundText(), u"4"_q) << "the highest code and one";
 }
 
@@ -139,10 +112,10 @@ TEST_F(FrmWorkTime, APasteGoesToTheGridInViewAndNotIntoNavyCells) {
     press(Qt::Key_V, Qt::ControlModifier);
     grid().selectionModel()->select({grid().model()->index(4, 1), grid().model()->index(4, 3)},
                                     QItemSelectionModel::ClearAndSelect);
-    of<QAction>("mnuGPaste").trigger();
+    trigger("mnuGPaste");
     EXPECT_EQ(cell(4, 1) + cell(4, 2) + cell(4, 3), u"18:0020:00"_q);
     EXPECT_EQ(of<Grid>("vfgHoliday").grid()->TextMatrix(2, 1), QString());
-    EXPECT_TRUE(isUpdatable());
+    EXPECT_TRUE(isUpdatable("Weekday"));
     type(2, 1, u"99"_q, Qt::Key_Left);
     ASSERT_TRUE(grid().isEditing());
     const QString refusal = u"不正な入力です。時刻をhh:mm形式(00:00～23:59)で入力して下さい。"_q;

@@ -38,12 +38,7 @@ class HolidayRules : public ::testing::Test {
         return days.join(u' ');
     }
     [[nodiscard]] QString refusal() const {
-        try {
-            checkRules(rules);
-        } catch (const Complaint& complaint) {
-            return complaint.description();
-        }
-        return {};
+        return refusalOf([&] { checkRules(rules); });
     }
 
     CalendarSheet calendar;

@@ -4,9 +4,8 @@
 #include "settings/records/frmCorp.h"
 #include "settings/records/frmSection.h"
 #include "settings/records/frmStaff.h"
-#include "settings/settings_window.h"
+#include "support/window.h"
 
-#include <QLabel>
 #include <QRadioButton>
 
 namespace kurbo::test {
@@ -14,9 +13,9 @@ namespace {
 
 const QString update = u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q;
 
-using FrmCorp = SettingsWindow<frmCorp>;
-using FrmSection = SettingsWindow<frmSection>;
-using FrmStaff = SettingsWindow<frmStaff>;
+using FrmCorp = Window<frmCorp>;
+using FrmSection = Window<frmSection>;
+using FrmStaff = Window<frmStaff>;
 
 TEST_F(FrmCorp, IsTypedRefusedStoredAndPrinted) {
     open();
@@ -37,13 +36,13 @@ TEST_F(FrmCorp, IsTypedRefusedStoredAndPrinted) {
     trigger("mnuUpdate");
     type("txtCorp", u"𠮷田商事"_q);
     desk.prompts.expect(update, Answer::Cancel).expect(update);
-    of<QPushButton>("cmdUpdate").click();
+    click("cmdUpdate");
     EXPECT_TRUE(isUpdatable());
-    of<QPushButton>("cmdUpdate").click();
+    click("cmdUpdate");
     EXPECT_FALSE(isUpdatable());
     EXPECT_EQ(asked(u"SELECT F_Corp & F_Branch & F_Pref FROM C01_Corp"_q), u"𠮷田商事大阪'%支店27"_q);
     type("txtTel", u"06"_q);
-    of<QPushButton>("cmdPrint").click();
+    click("cmdPrint");
     EXPECT_EQ(desk.prompts.shownTexts().constLast(),
               u"会社情報登録  (2026/04/15 現在)\n      会社名：𠮷田商事\n    支社店名：大阪'%支店\n    郵便番号：\n"
               u"    都道府県：大阪府\n       住所1：\n       住所2：\n    電話番号：06\n     FAX番号：\n"
@@ -62,21 +61,21 @@ TEST_F(FrmSection, SectionsAreAddedMovedAndRemoved) {
     EXPECT_EQ(list.text() + of("txtCode").text() + of("txtName").text(), u"新しい部課新しい部課"_q);
     desk.prompts.expect(u"部課名を変更して下さい。"_q);
     type("txtCode", u"s9"_q);
-    of<QPushButton>("cmdUpdate").click();
+    click("cmdUpdate");
     type("txtName", u"研究所"_q);
     desk.prompts.expectFile(u"/srv/Lab/Store.mdb"_q).expect(update);
-    of<QPushButton>("cmdDB").click();
+    click("cmdDB");
     EXPECT_EQ(desk.prompts.lastFileQuestion().filter, u"DBﾌｧｲﾙ(*.mdb)|*.mdb"_q);
-    of<QPushButton>("cmdUpdate").click();
+    click("cmdUpdate");
     EXPECT_EQ(list.boundText(), u"s9"_q);
     EXPECT_EQ(of("txtCode").text(), u"s9"_q);
     type("txtTel", u"03"_q);
-    of<QPushButton>("cmdUp").click();
+    click("cmdUp");
     EXPECT_EQ(list.currentRow(), 1);
-    of<QPushButton>("cmdUp").click();
+    click("cmdUp");
     EXPECT_EQ(list.currentRow(), 1);
     EXPECT_EQ(of("txtTel").text(), u"03"_q) << "a move keeps what was typed";
-    of<QPushButton>("cmdPrint").click();
+    click("cmdPrint");
     EXPECT_EQ(desk.prompts.shownTexts().constLast(),
               u"部課情報登録  (2026/04/15 現在)\n    部課名：研究所\n  部課ｺｰﾄﾞ：s9\n  電話番号：03\n   FAX番号：\n"
               u"    DBﾌｧｲﾙ：/srv/Lab/Store.mdb\n      表示：する\n"_q);
@@ -130,12 +129,12 @@ TEST_F(FrmStaff, PeopleAreTypedCheckedAndStored) {
     of<MaskedBox>("mskRetire").clear();
     of<QRadioButton>("optSex_1").click();
     desk.prompts.expect(update);
-    of<QPushButton>("cmdUpdate").click();
+    click("cmdUpdate");
     EXPECT_EQ(list.boundText(), u"A-1"_q);
     EXPECT_EQ(asked(u"SELECT F_StaffName & F_Section & F_Sex & F_Birth FROM C03_Staff "
                     "WHERE (F_StaffCode = 'A-1')"_q),
               u"𠮷田　'花'S0111980-01-15 00:00:00"_q);
-    of<QPushButton>("cmdPrint").click();
+    click("cmdPrint");
     const QString listing = desk.prompts.shownTexts().constLast();
     for (const QString& line :
          {u"  所属部課：S01 (総務部)\n"_q, u"  生年月日：1980/01/15 (年齢：46歳3月)\n"_q,
@@ -144,7 +143,7 @@ TEST_F(FrmStaff, PeopleAreTypedCheckedAndStored) {
     connection.execute(u"DELETE FROM C03_Staff WHERE (F_StaffCode = 'A-1')"_q);
     type("txtTel", u"03"_q);
     desk.prompts.expect(update).expect(u"エラー番号："_q).expect(u"追加・変更を更新できませんでした。"_q);
-    of<QPushButton>("cmdUpdate").click();
+    click("cmdUpdate");
     EXPECT_TRUE(isUpdatable());
 }
 

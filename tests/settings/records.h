@@ -23,17 +23,4 @@ inline RecordTexts with(RecordFields fields, const QString& field, const QString
     return texts;
 }
 
-// The words of the complaint, the number of the fault, or nothing.
-template <typename Body>
-QString refusalOf(Body body) {
-    try {
-        body();
-        return {};
-    } catch (const Complaint& complaint) {
-        return complaint.description();
-    } catch (const Fault& fault) {
-        return QString::number(fault.number());
-    }
-}
-
 } // namespace kurbo::test

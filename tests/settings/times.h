@@ -34,16 +34,6 @@ class Times : public SampleCompany {
         }
         return shown;
     }
-    // What a body complains of; empty when it doesn't.
-    template <typename Body>
-    static QString complaint(Body body) {
-        try {
-            body();
-        } catch (const Complaint& refused) {
-            return refused.description();
-        }
-        return {};
-    }
 
     clsWorkTime style;
 };

@@ -10,12 +10,7 @@ namespace {
 class WorkStyleTest : public SampleCompany {
   protected:
     [[nodiscard]] static QString refusal(const WorkStyle& style) {
-        try {
-            checkWorkStyle(style);
-        } catch (const Complaint& complaint) {
-            return complaint.description();
-        }
-        return {};
+        return refusalOf([&] { checkWorkStyle(style); });
     }
     [[nodiscard]] static WorkStyle good() {
         WorkStyle style;

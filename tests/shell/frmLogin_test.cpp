@@ -2,43 +2,32 @@
 
 #include "screen/fields/data_combo.h"
 #include "screen/windows/open_forms.h"
-#include "shell/office.h"
+#include "store/file/database_file.h"
+#include "support/window.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
-namespace kurbo {
+namespace kurbo::test {
 namespace {
 
-class FrmLogin : public Office {
+// On Friday, 20 November 2026, which has a name.
+class FrmLogin : public Window<frmLogin> {
   protected:
-    void SetUp() override {
-        window.load();
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    FrmLogin() {
+        connection.execute(u"UPDATE T01_Calendar SET F_Holiday = '創立記念日' WHERE (F_DateID = '20261120')"_q);
+        desk.clock.set(*parseSlashMoment(u"2026/11/20 08:55:12"));
+        show();
     }
-
-    template <typename Widget>
-    [[nodiscard]] Widget* find(const char* name) const {
-        auto* const widget = window.findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_TRUE(widget) << name;
-        return widget;
-    }
-    [[nodiscard]] QPushButton* button(const char* name) const { return find<QPushButton>(name); }
-    [[nodiscard]] QLineEdit* password() const { return find<QLineEdit>("txtPassWord"); }
-    [[nodiscard]] DataCombo* section() const { return find<DataCombo>("dcbSection"); }
-    [[nodiscard]] DataCombo* staff() const { return find<DataCombo>("dcbStaff"); }
-    void choose(const char* menu) const { find<QAction>(menu)->trigger(); }
-    void tick(const char* timer) const { QMetaObject::invokeMethod(find<QTimer>(timer), "timeout"); }
+    [[nodiscard]] QPushButton* button(const char* name) const { return &of<QPushButton>(name); }
+    [[nodiscard]] QLineEdit* password() const { return &of("txtPassWord"); }
+    [[nodiscard]] DataCombo* section() const { return &of<DataCombo>("dcbSection"); }
+    [[nodiscard]] DataCombo* staff() const { return &of<DataCombo>("dcbStaff"); }
+    void tick(const char* timer) const { QMetaObject::invokeMethod(&of<QTimer>(timer), "timeout"); }
     static void close(const char* screen) {
         for (QWidget* const form : openScreens())
             if (form->objectName() == QLatin1String(screen)) form->close();
@@ -53,32 +42,31 @@ class FrmLogin : public Office {
         for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
     }
 
-    void give(const char* word) const {
-        password()->setFocus();
-        QTest::keyClicks(password(), QString::fromLatin1(word));
+    void give(const QString& word) const {
+        typeInto(password(), word);
         QTest::keyClick(password(), Qt::Key_Return);
     }
-    void logInAs(const char* person, const char* word) const {
+    void logInAs(const QString& person, const QString& word = u"kurbo1"_q) const {
         section()->setFocus();
-        section()->setBoundText(QStringLiteral("S1"));
+        section()->setBoundText(u"S01"_q);
         staff()->setFocus();
-        staff()->setBoundText(QString::fromLatin1(person));
+        staff()->setBoundText(person);
         give(word);
     }
     void logInAsAdmin() const {
-        staff()->setFocus();
-        staff()->clearEditText();
-        QTest::keyClicks(staff(), QStringLiteral("admin"));
-        give("ADMIN");
+        typeInto(staff(), u"admin"_q);
+        give(u"ADMIN"_q);
     }
-
-    frmLogin window{client};
+    void comeBack() const {
+        form->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    }
 };
 
 // A screen that is open beside the main window, and may have changes that somebody keeps.
 struct OtherScreen final : QWidget {
     OtherScreen() {
-        setObjectName(QStringLiteral("frmKurbo"));
+        setObjectName(u"frmKurbo"_q);
         show();
     }
     void closeEvent(QCloseEvent* event) override { event->setAccepted(!kept); }
@@ -86,188 +74,190 @@ struct OtherScreen final : QWidget {
 };
 
 TEST_F(FrmLogin, ASessionEndsWithItsScreensOrGoesOn) {
-    logInAs("P1", "pw1");
+    logInAs(u"1001"_q);
     OtherScreen card;
     card.kept = true;
     staff()->setFocus();
     settle();
-    EXPECT_TRUE(window.isLoggedIn() && card.isVisible());
-    EXPECT_EQ(window.focusWidget(), find<QLineEdit>("txtClock"));
-    button("cmdEnter")->click();
-    EXPECT_TRUE(window.isLoggedIn());
+    EXPECT_TRUE(form->isLoggedIn() && card.isVisible());
+    EXPECT_EQ(form->focusWidget(), &of("txtClock"));
+    click("cmdEnter");
+    EXPECT_TRUE(form->isLoggedIn());
     card.kept = false;
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    comeBack();
     staff()->setFocus();
     settle();
-    EXPECT_FALSE(window.isLoggedIn() || card.isVisible() || client.session.access.CanPunch);
-    EXPECT_EQ(window.focusWidget(), staff());
-    EXPECT_TRUE(staff()->boundText() == u"P1" && password()->text().isEmpty());
+    EXPECT_FALSE(form->isLoggedIn() || card.isVisible() || client.session.access.CanPunch);
+    EXPECT_EQ(form->focusWidget(), staff());
+    EXPECT_TRUE(staff()->boundText() == u"1001" && password()->text().isEmpty());
     logInAsAdmin();
     password()->setFocus();
-    EXPECT_TRUE(staff()->currentText().isEmpty() && !window.isLoggedIn());
-    logInAs("P1", "pw1");
+    EXPECT_TRUE(staff()->currentText().isEmpty() && !form->isLoggedIn());
+    logInAs(u"1001"_q);
     card.show();
-    button("cmdLeave")->click();
-    EXPECT_FALSE(window.isLoggedIn() || card.isVisible());
+    click("cmdLeave");
+    EXPECT_FALSE(form->isLoggedIn() || card.isVisible());
 }
 
 TEST_F(FrmLogin, AHiddenPersonGetsInByNoWay) {
-    execute("UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = 'P2')");
-    execute("UPDATE M02_StaffInfo SET F_Access = 1 WHERE (F_StaffCode = 'P2')");
-    const QString refusal = QStringLiteral("不正な入力です。リストから選択して下さい。");
-    section()->setBoundText(QStringLiteral("S1"));
+    connection.execute(u"UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = '1002')"_q);
+    connection.execute(u"UPDATE M02_StaffInfo SET F_Access = 1 WHERE (F_StaffCode = '1002')"_q);
+    const QString refusal = u"不正な入力です。リストから選択して下さい。"_q;
+    section()->setBoundText(u"S01"_q);
     staff()->setFocus();
-    QTest::keyClicks(staff(), QStringLiteral("P2"));
-    prompts.expect(refusal).expect(refusal);
-    find<QMenuBar>("menus")->setFocus();
-    give("pw2");
+    QTest::keyClicks(staff(), u"1002"_q);
+    desk.prompts.expect(refusal).expect(refusal);
+    of<QMenuBar>("menus").setFocus();
+    give(u"kurbo1"_q);
     settle();
-    EXPECT_EQ(window.focusWidget(), staff()) << "the way over the menus";
+    EXPECT_EQ(form->focusWidget(), staff()) << "the way over the menus";
     QTest::keyClick(password(), Qt::Key_Return);
-    EXPECT_TRUE(prompts.allShown());
-    prompts.expect(refusal);
+    EXPECT_TRUE(desk.prompts.allShown());
+    desk.prompts.expect(refusal);
     QTest::mouseClick(button("cmdLogin"), Qt::LeftButton);
     settle();
-    EXPECT_TRUE(prompts.allShown() && !window.isLoggedIn()) << "a quick click";
+    EXPECT_TRUE(desk.prompts.allShown() && !form->isLoggedIn()) << "a quick click";
 }
 
 TEST_F(FrmLogin, LoggedOffOnlyTheLoginIsOffered) {
-    EXPECT_FALSE(window.isLoggedIn() || button("cmdEnter")->isVisible());
-    for (const char* menu : {"mnuDB", "mnuPassword", "mnuDeleteDest"}) EXPECT_FALSE(find<QAction>(menu)->isEnabled());
-    for (const char* menu : {"mnuAsign", "mnuMaintainance"}) EXPECT_FALSE(find<QMenu>(menu)->menuAction()->isVisible());
-    section()->setBoundText(QStringLiteral("S1"));
-    EXPECT_EQ(staff()->count(), 2);
-    staff()->setBoundText(QStringLiteral("P1"));
+    EXPECT_FALSE(form->isLoggedIn() || button("cmdEnter")->isVisible());
+    for (const char* menu : {"mnuDB", "mnuPassword", "mnuDeleteDest"}) EXPECT_FALSE(of<QAction>(menu).isEnabled());
+    for (const char* menu : {"mnuAsign", "mnuMaintainance"}) EXPECT_FALSE(of<QMenu>(menu).menuAction()->isVisible());
+    section()->setBoundText(u"S01"_q);
+    EXPECT_EQ(staff()->count(), 3);
+    staff()->setBoundText(u"1001"_q);
     section()->clearEditText();
     EXPECT_TRUE(staff()->currentText().isEmpty()) << "people of another section";
     EXPECT_FALSE(button("cmdLogin")->isEnabled());
 }
 
 TEST_F(FrmLogin, ThePersonsRightsOpenTheCommands) {
-    const int shortHeight = window.height();
-    logInAs("P1", "PW1");
-    ASSERT_TRUE(window.isLoggedIn());
-    EXPECT_GT(window.height(), shortHeight);
+    const int shortHeight = form->height();
+    logInAs(u"1001"_q, u"KURBO1"_q);
+    ASSERT_TRUE(form->isLoggedIn());
+    EXPECT_GT(form->height(), shortHeight);
     for (const char* name : {"cmdEnter", "cmdOut", "cmdIn", "cmdLeave", "cmdKurbo"})
         EXPECT_TRUE(button(name)->isEnabled()) << name;
     EXPECT_FALSE(button("cmdTotal")->isEnabled());
-    EXPECT_TRUE(find<QLabel>("lblTimeDiff")->isVisible());
-    EXPECT_TRUE(find<QAction>("mnuDeleteDest")->isEnabled());
-    EXPECT_FALSE(find<QMenu>("mnuAsign")->menuAction()->isVisible());
-    EXPECT_EQ(window.focusWidget(), button("cmdEnter"));
-    choose("mnuDeleteDest");
-    EXPECT_TRUE(QApplication::activeModalWidget() && IsFormLoaded(QStringLiteral("frmDeleteDest")));
+    EXPECT_TRUE(of<QLabel>("lblTimeDiff").isVisible());
+    EXPECT_TRUE(of<QAction>("mnuDeleteDest").isEnabled());
+    EXPECT_FALSE(of<QMenu>("mnuAsign").menuAction()->isVisible());
+    EXPECT_EQ(form->focusWidget(), button("cmdEnter"));
+    trigger("mnuDeleteDest");
+    EXPECT_TRUE(QApplication::activeModalWidget() && IsFormLoaded(u"frmDeleteDest"_q));
     close("frmDeleteDest");
-    window.HideTimeRecorder();
-    EXPECT_EQ(window.height(), shortHeight);
+    form->HideTimeRecorder();
+    EXPECT_EQ(form->height(), shortHeight);
 }
 
 TEST_F(FrmLogin, TheAdministratorGetsTheSettingsInTheirOrder) {
     logInAsAdmin();
-    ASSERT_TRUE(window.isLoggedIn());
+    ASSERT_TRUE(form->isLoggedIn());
     EXPECT_EQ(client.session.SessionSection, u"ADMIN");
-    EXPECT_TRUE(find<QMenu>("mnuAsign")->menuAction()->isVisible());
-    EXPECT_TRUE(find<QMenu>("mnuMaintainance")->menuAction()->isVisible());
-    EXPECT_FALSE(find<QAction>("mnuDeleteDest")->isEnabled());
+    connection.execute(u"DELETE * FROM C01_Corp"_q);
+    EXPECT_TRUE(of<QMenu>("mnuAsign").menuAction()->isVisible());
+    EXPECT_TRUE(of<QMenu>("mnuMaintainance").menuAction()->isVisible());
+    EXPECT_FALSE(of<QAction>("mnuDeleteDest").isEnabled());
     EXPECT_FALSE(button("cmdEnter")->isEnabled());
-    prompts.expect(QStringLiteral("会社情報が登録されていません。"));
-    choose("mnuSection");
-    prompts.expect(QStringLiteral("設定メニューの表示順序"));
-    choose("mnuCorp");
+    desk.prompts.expect(u"会社情報が登録されていません。"_q);
+    trigger("mnuSection");
+    desk.prompts.expect(u"設定メニューの表示順序"_q);
+    trigger("mnuCorp");
     close("frmCorp");
-    prompts.expect(QStringLiteral("移動するデータがありません。"));
-    choose("mnuMove");
-    prompts.expect(QStringLiteral("KurboAdm.hlp"));
-    choose("mnuTopic");
+    connection.execute(u"DELETE * FROM T01_Calendar WHERE (F_DateID < '20261120')"_q);
+    desk.prompts.expect(u"移動するデータがありません。"_q);
+    trigger("mnuMove");
+    desk.prompts.expect(u"KurboAdm.hlp"_q);
+    trigger("mnuTopic");
 }
 
 TEST_F(FrmLogin, ListsFollowWhatASettingsScreenHasChanged) {
-    execute("INSERT INTO C01_Corp (F_Corp) VALUES ('見本商事')");
     logInAsAdmin();
-    choose("mnuSection");
-    execute("UPDATE C02_Section SET F_SectionName = '管理部' WHERE (F_SectionCode = 'S1')");
-    execute("INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
-            "VALUES ('S2', '工場', '/srv/other.mdb', 2, -1)");
+    trigger("mnuSection");
+    connection.execute(u"UPDATE C02_Section SET F_SectionName = '管理部' WHERE (F_SectionCode = 'S01')"_q);
+    connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
+                       "VALUES ('S02', '工場', '/srv/other.mdb', 2, -1)"_q);
     close("frmSection");
     EXPECT_EQ(staff()->currentText(), u"admin");
-    EXPECT_EQ(section()->itemText(0), u8("管理部"));
+    EXPECT_EQ(section()->itemText(0), u"管理部"_q);
     EXPECT_EQ(section()->count(), 1) << "the factory lies in another file";
-    logInAs("P1", "pw1");
-    choose("mnuPassword");
-    execute("UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = 'P1')");
+    logInAs(u"1001"_q);
+    trigger("mnuPassword");
+    connection.execute(u"UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = '1001')"_q);
     close("frmPassword");
-    EXPECT_EQ(section()->boundText(), u"S1");
+    EXPECT_EQ(section()->boundText(), u"S01");
     EXPECT_EQ(staff()->currentText(), QString()) << "no longer in the list";
 }
 
 TEST_F(FrmLogin, AComboRefusesWhatIsNotInItsList) {
     section()->setFocus();
-    QTest::keyClicks(section(), QStringLiteral("zzz"));
-    prompts.expect(QStringLiteral("不正な入力です。リストから選択して下さい。"));
+    QTest::keyClicks(section(), u"zzz"_q);
+    desk.prompts.expect(u"不正な入力です。リストから選択して下さい。"_q);
     QTest::keyClick(section(), Qt::Key_Tab);
     QCoreApplication::processEvents();
-    EXPECT_TRUE(prompts.allShown());
-    EXPECT_EQ(window.focusWidget(), section());
+    EXPECT_TRUE(desk.prompts.allShown());
+    EXPECT_EQ(form->focusWidget(), section());
     section()->clearEditText();
     QTest::keyClick(section(), Qt::Key_Tab);
-    QTest::keyClicks(staff(), QStringLiteral("Admin"));
+    QTest::keyClicks(staff(), u"Admin"_q);
     QTest::keyClick(staff(), Qt::Key_Tab);
     QCoreApplication::processEvents();
-    EXPECT_EQ(window.focusWidget(), password());
+    EXPECT_EQ(form->focusWidget(), password());
 }
 
 TEST_F(FrmLogin, APunchByKeyboardWritesTheRowAndEndsTheSession) {
-    logInAs("P1", "pw1");
+    logInAs(u"1001"_q);
     QKeyEvent heldTooLong(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(window.focusWidget(), &heldTooLong);
-    ASSERT_TRUE(window.isLoggedIn()) << "the password's Enter key, held down";
-    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(stored("SELECT F_Enter FROM T02_Kurbo WHERE (F_User = 'P1');"), u"2026/11/20 08:54:12");
-    EXPECT_FALSE(window.isLoggedIn());
+    QCoreApplication::sendEvent(form->focusWidget(), &heldTooLong);
+    ASSERT_TRUE(form->isLoggedIn()) << "the password's Enter key, held down";
+    QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(asked(u"SELECT F_Enter FROM T02_Kurbo WHERE (F_User = '1001');"_q), u"2026/11/20 08:54:42");
+    EXPECT_FALSE(form->isLoggedIn());
     EXPECT_TRUE(password()->text().isEmpty());
-    EXPECT_EQ(window.focusWidget(), staff());
-    EXPECT_EQ(staff()->currentText(), u"佐藤");
+    EXPECT_EQ(form->focusWidget(), staff());
+    EXPECT_EQ(staff()->currentText(), u"山田太郎");
 }
 
 TEST_F(FrmLogin, ARefusedPunchEndsTheSessionAndAFailedOneDoesNot) {
-    execute("INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Enter) "
-            "VALUES (1, '20261120', 'P1', #2026/11/20 08:00:00#)");
-    logInAs("P1", "pw1");
-    prompts.expect(QStringLiteral("既に出社打刻済です。打刻できません。"));
-    button("cmdEnter")->click();
-    EXPECT_FALSE(window.isLoggedIn());
-    clock.set(*parseSlashMoment(u"2026/11/21 08:00:00"));
-    logInAs("P1", "pw1");
-    prompts.expect(QStringLiteral("カレンダーが作成されていません。"));
-    button("cmdEnter")->click();
-    EXPECT_TRUE(window.isLoggedIn());
+    connection.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Enter) "
+                       "VALUES (1, '20261120', '1001', #2026/11/20 08:00:00#)"_q);
+    logInAs(u"1001"_q);
+    desk.prompts.expect(u"既に出社打刻済です。打刻できません。"_q);
+    click("cmdEnter");
+    EXPECT_FALSE(form->isLoggedIn());
+    desk.clock.set(*parseSlashMoment(u"2027/01/02 08:00:00"));
+    logInAs(u"1001"_q);
+    desk.prompts.expect(u"カレンダーが作成されていません。"_q);
+    click("cmdEnter");
+    EXPECT_TRUE(form->isLoggedIn());
 }
 
 TEST_F(FrmLogin, FiveIdleMinutesLetTheDatabaseGoButNotTheSession) {
-    logInAs("P1", "pw1");
+    logInAs(u"1001"_q);
+    connection.close();
     idleAway();
-    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("store.ldb"))));
-    EXPECT_TRUE(window.isLoggedIn());
-    execute("UPDATE C03_Staff SET F_StaffName = '佐藤花' WHERE (F_StaffCode = 'P1')");
-    button("cmdEnter")->click();
-    EXPECT_EQ(stored("SELECT F_User FROM T02_Kurbo;"), u"P1");
+    EXPECT_FALSE(QFile::exists(desk.file(u"store.ldb"_q)));
+    EXPECT_TRUE(form->isLoggedIn());
+    connection.open(path, databasePassword());
+    connection.execute(u"UPDATE C03_Staff SET F_StaffName = '山田花' WHERE (F_StaffCode = '1001')"_q);
+    click("cmdEnter");
+    EXPECT_EQ(asked(u"SELECT F_User FROM T02_Kurbo;"_q), u"1001");
     EXPECT_TRUE(client.HomeConnection.isOpen());
-    EXPECT_EQ(staff()->currentText(), u"佐藤花") << "the lists are read anew, the choice stays";
+    EXPECT_EQ(staff()->currentText(), u"山田花") << "the lists are read anew, the choice stays";
 }
 
 TEST_F(FrmLogin, IdleReleaseDoesNotMindATextThatIsRead) {
-    QFile(paths.helpPath).open(QIODevice::WriteOnly);
-    choose("mnuTopic");
+    QFile(desk.paths.helpPath).open(QIODevice::WriteOnly);
+    trigger("mnuTopic");
     idleAway();
-    EXPECT_TRUE(IsFormLoaded(QStringLiteral("frmHelp")) && !client.HomeConnection.isOpen());
-    QTimer::singleShot(0, &window, [this] {
-        EXPECT_TRUE(client.HomeConnection.isOpen() && find<QTimer>("tmrTimer")->isActive());
+    EXPECT_TRUE(IsFormLoaded(u"frmHelp"_q) && !client.HomeConnection.isOpen());
+    QTimer::singleShot(0, form, [this] {
+        EXPECT_TRUE(client.HomeConnection.isOpen() && of<QTimer>("tmrTimer").isActive());
         idleAway();
         EXPECT_FALSE(client.HomeConnection.isOpen());
         QApplication::activeModalWidget()->close();
     });
-    choose("mnuVersion");
+    trigger("mnuVersion");
 }
 
 TEST_F(FrmLogin, IdleReleaseAsksNothingAndWaitsWhileAScreenIsOpen) {
@@ -275,10 +265,9 @@ TEST_F(FrmLogin, IdleReleaseAsksNothingAndWaitsWhileAScreenIsOpen) {
     idleAway();
     EXPECT_TRUE(client.HomeConnection.isOpen());
     card.close();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    comeBack();
     section()->setFocus();
-    QTest::keyClicks(section(), QStringLiteral("zz"));
+    QTest::keyClicks(section(), u"zz"_q);
     settle();
     idleAway();
     QCoreApplication::processEvents();
@@ -286,65 +275,66 @@ TEST_F(FrmLogin, IdleReleaseAsksNothingAndWaitsWhileAScreenIsOpen) {
 }
 
 TEST_F(FrmLogin, TheThirdWrongPasswordInARowEndsTheClient) {
-    const QSignalSpy ended(&window, &frmLogin::ended);
-    prompts.expect(QStringLiteral("正しいパスワードを")).expect(QStringLiteral("正しいパスワードを"));
-    logInAs("P1", "no");
+    connection.close();
+    const QSignalSpy ended(form, &frmLogin::ended);
+    desk.prompts.expect(u"正しいパスワードを"_q).expect(u"正しいパスワードを"_q);
+    logInAs(u"1001"_q, u"no"_q);
     EXPECT_TRUE(password()->text().isEmpty());
-    EXPECT_EQ(window.focusWidget(), password());
-    give("no");
+    EXPECT_EQ(form->focusWidget(), password());
+    give(u"no"_q);
     OtherScreen card;
-    prompts.expect(QStringLiteral("強制終了します。")).expect(QStringLiteral("他のメニューが開いているので"));
-    give("no");
-    prompts.expect(QStringLiteral("他のメニューが開いているので"));
-    give("pw1");
-    EXPECT_TRUE(window.isVisible() && !window.isLoggedIn());
+    desk.prompts.expect(u"強制終了します。"_q).expect(u"他のメニューが開いているので"_q);
+    give(u"no"_q);
+    desk.prompts.expect(u"他のメニューが開いているので"_q);
+    give(u"kurbo1"_q);
+    EXPECT_TRUE(form->isVisible() && !form->isLoggedIn());
     card.close();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    comeBack();
     settle();
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(ended.count(), 1);
-    EXPECT_TRUE(QFile::exists(paths.BackupPath));
+    EXPECT_TRUE(QFile::exists(desk.paths.BackupPath));
 }
 
 TEST_F(FrmLogin, TheClockNamesTheDayAndChangesAtMidnight) {
-    auto* const text = find<QLineEdit>("txtClock");
+    const auto* const text = &of("txtClock");
     const auto colour = [text] { return text->palette().color(QPalette::Text); };
     tick("tmrClock");
     EXPECT_EQ(text->text(), u"2026年11月20日(金)  8:55:12");
     EXPECT_EQ(colour(), QColor(Qt::black));
-    EXPECT_EQ(find<QLabel>("lblHoliday")->text(), u"創立記念日");
-    prompts.expect(QStringLiteral("カレンダー"));
-    clock.set(*parseSlashMoment(u"2026/11/21 00:00:00"));
+    EXPECT_EQ(of<QLabel>("lblHoliday").text(), u"創立記念日");
+    desk.prompts.expect(u"カレンダー"_q);
+    desk.clock.set(*parseSlashMoment(u"2027/01/02 00:00:00"));
     tick("tmrClock");
     tick("tmrClock");
     EXPECT_EQ(colour(), QColor(0, 0, 255));
-    EXPECT_EQ(find<QLabel>("lblHoliday")->text(), u"創立記念日");
+    EXPECT_EQ(of<QLabel>("lblHoliday").text(), u"創立記念日");
 }
 
-TEST_F(Office, AWindowThatCouldNotLoadOnlyCloses) {
+TEST_F(SampleCompany, AWindowThatCouldNotLoadOnlyCloses) {
+    connection.close();
     QFile::remove(client.DbPath);
     frmLogin window(client);
-    prompts.expect(QStringLiteral("エラー番号："));
+    desk.prompts.expect(u"エラー番号："_q);
     window.load();
     window.show();
     window.greet();
-    window.findChild<DataCombo*>(QStringLiteral("dcbSection"))->setFocus();
+    window.findChild<DataCombo*>(u"dcbSection"_q)->setFocus();
     QCoreApplication::processEvents();
-    prompts.expect(QStringLiteral("が見つかりません。"));
+    desk.prompts.expect(u"が見つかりません。"_q);
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(Office, MoreThanAYearOfRowsIsTold) {
-    execute("INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20251119', #2025/11/19#)");
-    execute("INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (1, '20251119', 'P1')");
-    execute("INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (2, '20261120', 'P1')");
+TEST_F(SampleCompany, MoreThanAYearOfRowsIsTold) {
+    connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20251119', #2025/11/19#)"_q);
+    connection.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (1, '20251119', '1001')"_q);
+    connection.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (2, '20261120', '1001')"_q);
     frmLogin window(client);
     window.load();
-    prompts.expect(QStringLiteral("レコード数が１年分を超えています。"));
+    desk.prompts.expect(u"レコード数が１年分を超えています。"_q);
     window.greet();
 }
 
 } // namespace
-} // namespace kurbo
+} // namespace kurbo::test

@@ -1,114 +1,104 @@
 #include "shell/frmParm.h"
 
 #include "base/system/files.h"
-#include "shell/office.h"
+#include "store/file/database_file.h"
+#include "support/window.h"
 
 #include <QFile>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
-namespace kurbo {
+namespace kurbo::test {
 namespace {
 
-class FrmParm : public Office {
+class FrmParm : public SampleCompany {
   protected:
-    void SetUp() override {
-        good = client.DbPath;
-        client.DbPath = first();
+    FrmParm() { connection.close(); }
+    void show(const QString& first) {
+        client.DbPath = first;
         form = std::make_unique<frmParm>(client);
         form->show();
     }
-
-    [[nodiscard]] virtual QString first() const { return good; }
-    void type(const QString& path) const { form->findChild<QLineEdit*>(QStringLiteral("txtDB"))->setText(path); }
-    [[nodiscard]] QString typed() const { return form->findChild<QLineEdit*>(QStringLiteral("txtDB"))->text(); }
-    void press(const char* name) const { form->findChild<QPushButton*>(QString::fromLatin1(name))->click(); }
+    void SetUp() override { show(path); }
+    [[nodiscard]] QLineEdit& box() const { return named<QLineEdit>(*form, "txtDB"); }
+    void press(const char* button) const { named<QPushButton>(*form, button).click(); }
     [[nodiscard]] QString other(const QString& name) const {
-        const QString path = folder.filePath(name);
-        createDatabase(path);
-        return path;
+        createDatabase(desk.file(name));
+        return desk.file(name);
     }
 
-    QString good;
     std::unique_ptr<frmParm> form;
 };
 
-class FrmParmAtFirstStart : public FrmParm {
-  protected:
-    [[nodiscard]] QString first() const override { return {}; }
-};
-
 TEST_F(FrmParm, AMissingFileIsAskedAboutUntilThePersonStops) {
-    type(folder.filePath(QStringLiteral("none.mdb")));
-    prompts.expect(QStringLiteral("指定したパスが見つかりません。設定を中断しますか？"), Answer::No);
+    box().setText(desk.file(u"none.mdb"_q));
+    desk.prompts.expect(u"指定したパスが見つかりません。設定を中断しますか？"_q, Answer::No);
     press("cmdOK");
     EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(prompts.last().preset, Answer::Yes);
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Yes);
     EXPECT_TRUE(client.DbUsable);
-    prompts.expect(QStringLiteral("指定したパスが見つかりません。"), Answer::Yes);
+    desk.prompts.expect(u"指定したパスが見つかりません。"_q, Answer::Yes);
     form->close();
     EXPECT_FALSE(form->isVisible());
     EXPECT_FALSE(client.DbUsable);
-    EXPECT_EQ(client.DbPath, good);
+    EXPECT_EQ(client.DbPath, path);
 }
 
 TEST_F(FrmParm, AForeignFileIsToldApartFromAMissingOne) {
-    const QString text = folder.filePath(QStringLiteral("text.mdb"));
+    const QString text = desk.file(u"text.mdb"_q);
     replaceFile(text, "no database");
-    type(text);
-    prompts.expect(QStringLiteral("の形式が異なります。設定を中断しますか？"), Answer::Yes);
+    box().setText(text);
+    desk.prompts.expect(u"の形式が異なります。設定を中断しますか？"_q, Answer::Yes);
     press("cmdOK");
-    EXPECT_TRUE(prompts.last().text.contains(text));
+    EXPECT_TRUE(desk.prompts.last().text.contains(text));
     EXPECT_FALSE(client.DbUsable);
-    EXPECT_FALSE(QFile::exists(paths.ParmPath));
+    EXPECT_FALSE(QFile::exists(desk.paths.ParmPath));
 }
 
 TEST_F(FrmParm, AGoodFileIsTakenOverHoweverTheFormIsLeft) {
     const QSignalSpy chosen(form.get(), &frmParm::databaseChosen);
-    const QString path = other(QStringLiteral("other.mdb"));
+    const QString chosenPath = other(u"other.mdb"_q);
     client.DbUsable = false;
-    prompts.expectFile(path);
+    desk.prompts.expectFile(chosenPath);
     press("cmdDB");
-    EXPECT_EQ(typed(), path);
+    EXPECT_EQ(box().text(), chosenPath);
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(chosen.count(), 1);
     EXPECT_TRUE(client.DbUsable);
-    EXPECT_EQ(client.DbPath, path);
-    EXPECT_EQ(client.CurrentConnection->path(), path);
-    EXPECT_EQ(readFile(paths.ParmPath), '"' + path.toLocal8Bit() + "\"\r\n");
+    EXPECT_EQ(client.DbPath, chosenPath);
+    EXPECT_EQ(client.CurrentConnection->path(), chosenPath);
+    EXPECT_EQ(readFile(desk.paths.ParmPath), '"' + chosenPath.toLocal8Bit() + "\"\r\n");
 }
 
 TEST_F(FrmParm, WhatParmDatCannotHoldLeavesTheOldDatabase) {
     client.openHome();
-    type(other(QStringLiteral("😀.mdb")));
-    prompts.expect(QStringLiteral("使用できない文字")).expect(QStringLiteral("フォルダ設定に失敗しました。"));
+    box().setText(other(u"😀.mdb"_q));
+    desk.prompts.expect(u"使用できない文字"_q).expect(u"フォルダ設定に失敗しました。"_q);
     press("cmdOK");
     EXPECT_FALSE(client.DbUsable);
-    EXPECT_EQ(client.DbPath, good);
+    EXPECT_EQ(client.DbPath, path);
     EXPECT_FALSE(client.HomeConnection.isOpen());
 }
 
 TEST_F(FrmParm, CancelKeepsAGoodPath) {
-    type(QStringLiteral("/none"));
+    box().setText(u"/none"_q);
     press("cmdCancel");
     EXPECT_FALSE(form->isVisible());
     EXPECT_TRUE(client.DbUsable);
-    EXPECT_EQ(client.DbPath, good);
+    EXPECT_EQ(client.DbPath, path);
 }
 
-TEST_F(FrmParmAtFirstStart, WithoutAPathThereIsNothingToGoOnWith) {
-    const auto* const ok = form->findChild<QPushButton*>(QStringLiteral("cmdOK"));
+TEST_F(FrmParm, WithoutAPathThereIsNothingToGoOnWith) {
+    show({});
+    const auto* const ok = &named<QPushButton>(*form, "cmdOK");
     EXPECT_FALSE(ok->isEnabled());
-    type(QStringLiteral("  "));
+    box().setText(u"  "_q);
     EXPECT_FALSE(ok->isEnabled());
-    type(QStringLiteral("x"));
+    box().setText(u"x"_q);
     EXPECT_TRUE(ok->isEnabled());
     press("cmdCancel");
     EXPECT_FALSE(client.DbUsable);
 }
 
 } // namespace
-} // namespace kurbo
+} // namespace kurbo::test

@@ -1,7 +1,8 @@
 #include "shell/frmWaiting.h"
 
-#include "shell/office.h"
 #include "shell/wait_box.h"
+#include "store/file/database_file.h"
+#include "support/sample_company.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -13,20 +14,20 @@
 #include <QTest>
 #include <QWindow>
 
-namespace kurbo {
+namespace kurbo::test {
 namespace {
 
 TEST(FrmWaiting, MovesWithoutAKnownEndAndGoesAwayByAClick) {
     frmWaiting window;
-    const auto* const bar = window.findChild<QProgressBar*>(QStringLiteral("pgbWaiting"));
+    const auto* const bar = window.findChild<QProgressBar*>(u"pgbWaiting"_q);
     window.begin(QString(), 0);
     EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("lblPrompt"))->text(), u"処理中です・・・");
+    EXPECT_EQ(window.findChild<QLabel*>(u"lblPrompt"_q)->text(), u"処理中です・・・");
     const int before = bar->value();
     QTest::qSleep(120);
     window.step(0);
     EXPECT_NE(bar->value(), before);
-    window.begin(QStringLiteral("集計中です"), 3);
+    window.begin(u"集計中です"_q, 3);
     window.step(2);
     EXPECT_EQ(bar->value(), 2);
     QTest::mouseClick(&window, Qt::LeftButton);
@@ -80,19 +81,19 @@ TEST(FrmWaiting, NoOtherWindowClosesAndTheOwnCrossStops) {
     EXPECT_FALSE(other);
 }
 
-TEST_F(Office, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {
+TEST_F(SampleCompany, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {
     WaitBox box;
     Connection waiting;
     box.watch(waiting);
-    waiting.open(client.DbPath, databasePassword());
+    waiting.open(path, databasePassword());
     bool shown = false;
     const auto waitFor = [&](std::chrono::milliseconds time) {
         shown = false;
         Connection busy;
-        busy.open(client.DbPath, databasePassword());
+        busy.open(path, databasePassword());
         busy.engine("BEGIN EXCLUSIVE");
         waiting.setTimeout(time);
-        EXPECT_THROW((void)waiting.hasRow(QStringLiteral("SELECT * FROM C02_Section;")), Fault);
+        EXPECT_THROW((void)waiting.hasRow(u"SELECT * FROM C02_Section;"_q), Fault);
         const QWidgetList windows = QApplication::topLevelWidgets();
         for (const QWidget* window : windows)
             shown = shown || (window->isVisible() && window->objectName() == u"frmWaiting");
@@ -108,4 +109,4 @@ TEST_F(Office, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {
 }
 
 } // namespace
-} // namespace kurbo
+} // namespace kurbo::test

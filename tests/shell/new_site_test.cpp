@@ -6,12 +6,9 @@
 #include "settings/people/access_sheet.h"
 #include "shell/frmLogin.h"
 #include "support/kurboctl.h"
-#include "support/typing.h"
+#include "support/window.h"
 
-#include <QAction>
 #include <QCheckBox>
-#include <QPushButton>
-#include <QStatusBar>
 #include <QTabWidget>
 
 namespace kurbo::test {
@@ -32,15 +29,9 @@ class NewSite : public ::testing::Test {
         desk.prompts.expect(u"2026 年のカレンダーが作成されていません。"_q).expect(u"氏名に ADMIN、"_q);
         window.greet();
     }
-    template <typename Widget = QWidget>
-    [[nodiscard]] static Widget* find(const QWidget* form, const char* name) {
-        auto* const widget = form->findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_TRUE(widget) << name;
-        return widget;
-    }
     // The screen that a menu entry opens.
     QWidget* open(const char* menu, const QString& name) {
-        find<QAction>(&window, menu)->trigger();
+        named<QAction>(window, menu).trigger();
         return screen(name);
     }
     static QWidget* screen(const QString& name) {
@@ -49,20 +40,20 @@ class NewSite : public ::testing::Test {
             if (form->isVisible() && form->objectName() == name) return form;
         return nullptr;
     }
-    static void press(const QWidget* form, const char* button) { find<QPushButton>(form, button)->click(); }
+    static void press(const QWidget* form, const char* button) { named<QPushButton>(*form, button).click(); }
     static void fill(const QWidget* form, const Texts& texts) {
-        for (const auto& [name, text] : texts) typeInto(find(form, name), text);
+        for (const auto& [name, text] : texts) typeInto(&named<QWidget>(*form, name), text);
     }
     void update(const QWidget* form, const char* button = "cmdUpdate") {
         desk.prompts.expect(u"追加・変更を更新します。"_q);
         press(form, button);
-        EXPECT_FALSE(find(form, button)->isEnabled()) << button;
+        EXPECT_FALSE(named<QWidget>(*form, button).isEnabled()) << button;
     }
     static void tick(const QWidget* form, std::initializer_list<const char*> boxes) {
-        for (const char* box : boxes) find<QCheckBox>(form, box)->setChecked(true);
+        for (const char* box : boxes) named<QCheckBox>(*form, box).setChecked(true);
     }
     static void chooseNew(const QWidget* form, const char* list) {
-        find<DataList>(form, list)->setCurrentRow(0);
+        named<DataList>(*form, list).setCurrentRow(0);
         QCoreApplication::processEvents();
     }
     static void close(QWidget* form) {
@@ -132,8 +123,8 @@ void NewSite::setWorkStyle() {
     QWidget* const form = open("mnuWorkStyle", u"frmWorkStyle"_q);
     ASSERT_TRUE(form);
     for (const char* const item : {"chkDisplay_2", "chkDisplay_5", "chkDisplay_10"})
-        EXPECT_TRUE(find<QCheckBox>(form, item)->isChecked()) << item;
-    typeInto(find(form, "txtUnit"), u"15"_q);
+        EXPECT_TRUE(named<QCheckBox>(*form, item).isChecked()) << item;
+    typeInto(&named<QWidget>(*form, "txtUnit"), u"15"_q);
     update(form);
     close(form);
 }
@@ -141,22 +132,22 @@ void NewSite::setWorkStyle() {
 void NewSite::setWorkTimes() {
     QWidget* const form = open("mnuWorkTime", u"frmWorkTime"_q);
     ASSERT_TRUE(form);
-    auto* const tab = find<QTabWidget>(form, "tabTime");
-    auto& weekday = *find<Grid>(form, "vfgWeekday");
-    typeInto(find(form, "txtWeekday"), u"日勤"_q);
+    auto* const tab = &named<QTabWidget>(*form, "tabTime");
+    auto& weekday = named<Grid>(*form, "vfgWeekday");
+    typeInto(&named<QWidget>(*form, "txtWeekday"), u"日勤"_q);
     const QStringList times{u"0900"_q, u"1200"_q, u"1300"_q, u"1800"_q};
     for (int slot = 0; slot < times.size(); ++slot) typeCell(weekday, 2, slot + 1, times[slot]);
     typeCell(weekday, 5, 1, u"1800"_q);
     typeCell(weekday, 5, 2, u"2200"_q);
     update(form, "cmdUpdateWeekday");
     tab->setCurrentIndex(1);
-    typeInto(find(form, "txtHoliday"), u"休日"_q);
-    typeCell(*find<Grid>(form, "vfgHoliday"), 2, 1, u"0500"_q);
-    typeCell(*find<Grid>(form, "vfgHoliday"), 2, 2, u"2200"_q);
+    typeInto(&named<QWidget>(*form, "txtHoliday"), u"休日"_q);
+    typeCell(named<Grid>(*form, "vfgHoliday"), 2, 1, u"0500"_q);
+    typeCell(named<Grid>(*form, "vfgHoliday"), 2, 2, u"2200"_q);
     update(form, "cmdUpdateHoliday");
     tab->setCurrentIndex(4);
-    typeInto(find(form, "txtAdjust"), u"上限45時間"_q);
-    typeCell(*find<Grid>(form, "vfgAdjust"), 2, 1, u"45:00"_q);
+    typeInto(&named<QWidget>(*form, "txtAdjust"), u"上限45時間"_q);
+    typeCell(named<Grid>(*form, "vfgAdjust"), 2, 1, u"45:00"_q);
     update(form, "cmdUpdateAdjust");
     close(form);
 }
@@ -164,8 +155,8 @@ void NewSite::setWorkTimes() {
 void NewSite::setRights() {
     QWidget* const form = open("mnuAccess", u"frmAccess"_q);
     ASSERT_TRUE(form);
-    auto& grid = *find<Grid>(form, "vfgAccess");
-    typeInto(find(form, "txtAccess"), u"一般"_q);
+    auto& grid = named<Grid>(*form, "vfgAccess");
+    typeInto(&named<QWidget>(*form, "txtAccess"), u"一般"_q);
     typeCell(grid, firstAccessRow, static_cast<int>(AccessColumn::Section), u"所属部課"_q);
     grid.Select(firstAccessRow, static_cast<int>(AccessColumn::FirstRight));
     QTest::keyClick(&grid, Qt::Key_Space);
@@ -178,20 +169,20 @@ void NewSite::setPeople() {
     ASSERT_TRUE(form);
 
     // Who keeps the changes there keeps the session: the window would be left to the next person.
-    typeInto(find(form, "txtPaid"), u"11"_q);
+    typeInto(&named<QWidget>(*form, "txtPaid"), u"11"_q);
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
-    find(&window, "txtPassWord")->setFocus();
+    named<QWidget>(window, "txtPassWord").setFocus();
     QCoreApplication::processEvents();
     EXPECT_TRUE(form->isVisible() && window.isLoggedIn());
 
     const auto set = [&](int row) {
-        find<DataList>(form, "dtsStaff")->setCurrentRow(row);
+        named<DataList>(*form, "dtsStaff").setCurrentRow(row);
         QCoreApplication::processEvents();
-        find<QTabWidget>(form, "tabStaff")->setCurrentIndex(0);
+        named<QTabWidget>(*form, "tabStaff").setCurrentIndex(0);
         fill(form, {{"txtPassword", u"pass1"_q}, {"txtCloseDay", u"31"_q}, {"txtPaid", u"10"_q}});
-        find<QTabWidget>(form, "tabStaff")->setCurrentIndex(1);
+        named<QTabWidget>(*form, "tabStaff").setCurrentIndex(1);
         fill(form, {{"dcbWeekday", u"日勤"_q},
                     {"dcbHoliday", u"休日"_q},
                     {"dcbAdjust", u"上限45時間"_q},
@@ -200,7 +191,7 @@ void NewSite::setPeople() {
     };
     set(0);
     set(1);
-    typeInto(find(form, "dcbSection"), u"製造部"_q);
+    typeInto(&named<QWidget>(*form, "dcbSection"), u"製造部"_q);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     set(0);
     close(form);
@@ -212,7 +203,7 @@ void NewSite::setCalendar() {
     press(calendar, "cmdHoliday");
     QWidget* const form = screen(u"frmHoliday"_q);
     ASSERT_TRUE(form);
-    auto& rules = *find<Grid>(form, "vfgHoliday");
+    auto& rules = named<Grid>(*form, "vfgHoliday");
     typeCell(rules, 1, 1, u"毎週"_q);
     typeCell(rules, 1, 2, u"日曜日"_q);
     typeCell(rules, 1, 5, u"定休日"_q);
@@ -252,7 +243,7 @@ TEST_F(NewSite, IsSetUpThroughTheWindowsInTheirOrder) {
     press(&window, "cmdKurbo");
     QWidget* const card = screen(u"frmKurbo"_q);
     ASSERT_TRUE(card);
-    const GridModel& cells = *find<Grid>(card, "vfgKurbo")->grid();
+    const GridModel& cells = *named<Grid>(*card, "vfgKurbo").grid();
     const int today = firstCardDay + 14;
     EXPECT_EQ(cells.CellText(today, static_cast<int>(CardColumn::Enter)), u"09:00"_q);
     EXPECT_EQ(cells.CellText(today, static_cast<int>(CardColumn::Leave)), u"19:40"_q);

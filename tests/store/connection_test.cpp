@@ -17,14 +17,7 @@ class Connections : public SampleCompany {
   protected:
     Connections() { other.open(path, databasePassword()); }
 
-    static std::int64_t faultOf(const std::function<void()>& action) {
-        try {
-            action();
-        } catch (const Fault& fault) {
-            return fault.number();
-        }
-        return 0;
-    }
+    static std::int64_t faultOf(const std::function<void()>& action) { return refusalOf(action).toLongLong(); }
 
     Connection other;
     const QString addCorp = u"INSERT INTO C01_Corp (F_Corp) VALUES (?)"_q;
@@ -102,13 +95,6 @@ TEST_F(Connections, AWriterFollowsAsSoonAsTheOneBeforeEnds) {
     other.execute(addCorp, {u"乙"_q});
     holder.join();
     EXPECT_EQ(count(u"C01_Corp"_q), 3);
-}
-
-TEST_F(Connections, APlaceInTheQueueWithoutAWriteStopsNobodyForGood) {
-    const Turn standing(connection);
-    other.setTimeout(std::chrono::milliseconds{200});
-    other.execute(addCorp, {u"乙"_q});
-    EXPECT_EQ(count(u"C01_Corp"_q), 2);
 }
 
 TEST_F(Connections, PatienceComesBackWithTheNextTurn) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/failure.h"
 #include "base/guard.h"
 #include "support/scripted_prompts.h"
 
@@ -35,6 +36,19 @@ struct Desk {
 
     [[nodiscard]] QString file(const QString& name) const { return folder.filePath(name); }
 };
+
+// The words of the complaint of a body, the number of its fault, or nothing.
+template <typename Body>
+QString refusalOf(Body body) {
+    try {
+        body();
+    } catch (const Complaint& complaint) {
+        return complaint.description();
+    } catch (const Fault& fault) {
+        return QString::number(fault.number());
+    }
+    return {};
+}
 
 // While it lives, the test runs without the rights of root.
 class AsNobody final {

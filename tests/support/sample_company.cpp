@@ -58,6 +58,7 @@ void makeSampleCompany(const QString& path) {
 SampleCompany::SampleCompany() {
     makeSampleCompany(path);
     connection.open(path, databasePassword());
+    client.DbPath = path;
 }
 
 void SampleCompany::addCard(int id, Day day, const QString& enter, const QString& leave, const QString& paid,

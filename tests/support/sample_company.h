@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/connection.h"
+#include "store/client.h"
 #include "support/desk.h"
 
 namespace kurbo::test {
@@ -10,7 +10,7 @@ namespace kurbo::test {
 // Passwords are "kurbo1".
 void makeSampleCompany(const QString& path);
 
-// A desk with such a database, open.
+// A desk with such a database, open, and a client that will open it too.
 class SampleCompany : public ::testing::Test {
   protected:
     SampleCompany();
@@ -25,6 +25,7 @@ class SampleCompany : public ::testing::Test {
     Desk desk;
     QString path = desk.file(QStringLiteral("store.mdb"));
     Connection connection;
+    Client client{desk.context};
     Day today = desk.clock.today();
 };
 

@@ -18,21 +18,11 @@ QByteArray withField(int field, const QByteArray& cell) {
 }
 
 QString refusal(const QByteArray& bytes) {
-    try {
-        (void)readCsv(bytes, u"x.csv"_q);
-    } catch (const Complaint& complaint) {
-        return complaint.description();
-    }
-    return u"read"_q;
+    return refusalOf([&] { (void)readCsv(bytes, u"x.csv"_q); });
 }
 
 QString refusal(const MonthRecord& month) {
-    try {
-        (void)csvBytes({month});
-    } catch (const Complaint& complaint) {
-        return complaint.description();
-    }
-    return u"written"_q;
+    return refusalOf([&] { (void)csvBytes({month}); });
 }
 
 } // namespace

@@ -5,72 +5,57 @@
 #include "screen/fields/data_combo.h"
 #include "screen/fields/masked_box.h"
 #include "screen/grid/grid.h"
+#include "support/window.h"
 #include "totals/csv/csv_file.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 #include <QTimer>
 
 namespace kurbo::test {
 namespace {
 
-class FrmTotal : public CardOffice {
+class FrmTotal : public Window<frmTotal, CardOffice> {
   protected:
     FrmTotal() {
         connection.execute(
             u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, F_PaidTotal) "
             "VALUES ('1001', 'S01', '2026', '04', 20, 9000, 12.5)"_q);
         logIn(u"1002"_q);
-        form = new frmTotal(client);
-        form->load();
-        form->show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+        show();
     }
-    ~FrmTotal() override { delete form; }
-    template <typename Widget>
-    [[nodiscard]] Widget* find(const char* name) const {
-        auto* const found = form->findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_TRUE(found) << name;
-        return found;
-    }
-    [[nodiscard]] GridModel& cells() const { return *find<Grid>("vfgKurbo")->grid(); }
+    [[nodiscard]] GridModel& cells() const { return *of<Grid>("vfgKurbo").grid(); }
     [[nodiscard]] QString span() const {
-        return find<MaskedBox>("mskStart")->maskText() + u'-' + find<MaskedBox>("mskEnd")->maskText();
+        return of<MaskedBox>("mskStart").maskText() + u'-' + of<MaskedBox>("mskEnd").maskText();
     }
     void type(const QString& text) const {
         for (const QChar sign : text) QTest::keyClick(QApplication::focusWidget(), sign.toLatin1());
     }
-
-    frmTotal* form = nullptr;
 };
 
 TEST_F(FrmTotal, IsWorkedByItsControls) {
     EXPECT_EQ(span(), u"2026/04-2026/04"_q);
-    EXPECT_TRUE(find<QRadioButton>("optMethod_0")->isChecked());
-    EXPECT_FALSE(find<QPushButton>("cmdUpdate")->isEnabled() || find<QAction>("mnuDelete")->isEnabled());
-    find<QRadioButton>("optMethod_1")->click();
+    EXPECT_TRUE(of<QRadioButton>("optMethod_0").isChecked());
+    EXPECT_FALSE(of<QPushButton>("cmdUpdate").isEnabled() || of<QAction>("mnuDelete").isEnabled());
+    click("optMethod_1");
     EXPECT_EQ(cells().TextMatrix(1, 1), u"2026年 04月"_q);
-    find<QRadioButton>("optMonth_5")->click();
+    click("optMonth_5");
     EXPECT_EQ(span(), u"2026/05-2026/05"_q);
-    QTest::keyClick(find<QWidget>("mskStart"), Qt::Key_Down);
-    auto* const names = find<DataCombo>("dcbStaff");
+    QTest::keyClick(&of<QWidget>("mskStart"), Qt::Key_Down);
+    auto* const names = &of<DataCombo>("dcbStaff");
     names->setBoundText(u"1001"_q);
     Q_EMIT names->activated(names->currentIndex());
     EXPECT_EQ(span(), u"2026/04-2026/05"_q);
     EXPECT_EQ(cells().Rows(), 1 + 2 + 2);
-    Grid& grid = *find<Grid>("vfgKurbo");
+    Grid& grid = of<Grid>("vfgKurbo");
     grid.setFocus();
     grid.Select(1, 3);
     type(u"19"_q);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_TRUE(find<QPushButton>("cmdUpdate")->isEnabled());
+    EXPECT_TRUE(of<QPushButton>("cmdUpdate").isEnabled());
     desk.prompts.expect(u"集計データは変更されています。変更を破棄しますか？"_q, Answer::No);
     EXPECT_FALSE(form->close());
     desk.prompts.expect(u"追加・変更を更新します。"_q);
-    find<QPushButton>("cmdUpdate")->click();
+    click("cmdUpdate");
     EXPECT_EQ(asked(u"SELECT F_WorkDay FROM T05_Approved"_q), u"19"_q);
     EXPECT_TRUE(form->close());
     form = nullptr;
@@ -97,20 +82,20 @@ TEST_F(FrmTotal, MonthsOutOfAFileAreLookedAtAndEntered) {
     });
     connection.execute(u"UPDATE M08_Access SET F_WriteOtherMonthly = True"_q);
     desk.prompts.expectFiles({file});
-    find<QAction>("mnuLoadCsv")->trigger();
+    trigger("mnuLoadCsv");
     EXPECT_EQ(seen, u"months.csv 佐藤次郎 総務部 2026年 04月 10:30 済 "_q);
     EXPECT_EQ(asked(u"SELECT F_Work FROM T05_Approved WHERE (F_Staff = '1003')"_q), u"630"_q);
 }
 
 TEST_F(FrmTotal, PrintsWhatItShows) {
-    find<QPushButton>("cmdPrint")->click();
+    click("cmdPrint");
     auto* const preview = form->findChild<frmPreview*>();
     ASSERT_TRUE(preview);
     EXPECT_EQ(preview->windowTitle(), u"Kurbo－集計"_q);
     delete preview;
-    find<MaskedBox>("mskEnd")->setText(u"2026/03"_q);
+    of<MaskedBox>("mskEnd").setText(u"2026/03"_q);
     desk.prompts.expect(u"開始年月が終了年月以降に設定されています。"_q);
-    find<QAction>("mnuPrint")->trigger();
+    trigger("mnuPrint");
     EXPECT_FALSE(form->findChild<frmPreview*>());
 }
 
