@@ -28,7 +28,7 @@ void MonthRead(benchmark::State& state) {
     connection.open(companyFile(), databasePassword());
     int i = 0;
     for (auto _ : state)
-        benchmark::DoNotOptimize(readCardDays(connection, person(++i), *makeDay(2026, 5, 1), *makeDay(2026, 5, 31)));
+        benchmark::DoNotOptimize(readCardDays(connection, person(++i), {*makeDay(2026, 5, 1), *makeDay(2026, 5, 31)}));
 }
 
 void MonthCard(benchmark::State& state) {

@@ -200,13 +200,13 @@ std::array<bool, cardColumns> hiddenColumns(const clsWorkTime& rules) {
 
 Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff, Period span) {
     const Reading reading(connection);
-    const CardDays read = readCardDays(connection, staff, span.from, span.to);
+    const CardDays read = readCardDays(connection, staff, span);
     std::vector<DayFacts> facts;
     facts.reserve(read.days.size());
     for (const CardDay& day : read.days) facts.push_back(day.facts);
     std::optional<Moment> carry;
     if (!facts.empty())
-        carry = leaveBeyond(connection, staff, startOfDay(rules, facts.front().date, facts.front().type));
+        carry = carryInto(rules, facts.front(), leaveBeyond(connection, staff, Moment{facts.front().date}));
     CardFigures figures = calculateDays(rules, facts, read.next, carry, context.clock.today());
     roundSums(rules, figures.sum);
 

@@ -140,11 +140,13 @@ void clsWorkTime::placeLeave() {
 
 void clsWorkTime::plngNextDayType(int type) {
     nextDayType_ = type;
-    if (type < 0 || type > 3) return;
-    const auto day = static_cast<DayType>(type);
+    if (type >= 0 && type <= 3) border_ = borderOf(static_cast<DayType>(type));
+}
+
+std::int32_t clsWorkTime::borderOf(DayType day) const {
     const bool flexible = (day == DayType::Weekday && pbleFlexTime) || (day == DayType::AmHoliday && pbleAmFlexTime) ||
                           (day == DayType::PmHoliday && pblePmFlexTime);
-    border_ = bands(day, flexible ? BandKind::Flex : BandKind::Work).at(0).start;
+    return bands(day, flexible ? BandKind::Flex : BandKind::Work).at(0).start;
 }
 
 // The stay's overlap with the bands placed on the day that begins at `dayStart`.

@@ -86,6 +86,9 @@ class clsWorkTime final {
     [[nodiscard]] std::int32_t endBusiness(DayType day) const { return business_[index(day)].end; }
     // The time at which the next day begins.
     [[nodiscard]] std::int32_t borderTime() const { return border_; }
+    // The time at which a day of that kind begins: the start of its first band of flexible or fixed work, -1 without
+    // one.
+    [[nodiscard]] std::int32_t borderOf(DayType day) const;
 
     // --- Results.
     [[nodiscard]] Minutes WorkTime() const;

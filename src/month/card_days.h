@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/hours.h"
 #include "month/day_loop.h"
 #include "store/connection.h"
 
@@ -13,14 +14,17 @@ struct CardDay {
     QString plan;
     std::optional<std::int64_t> kurboId;
 };
+[[nodiscard]] inline DayFacts& factsIn(CardDay& row) {
+    return row.facts;
+}
 
 struct CardDays {
     std::vector<CardDay> days;
     QChar next; // calendar type of the day behind the span, 0 when the calendar ends with it
 };
 
-// The calendar days from `from` to `to` in their order. Two questions that go through indexes and are merged here give
-// the same rows as the one with UNION and NOT IN. Throws a Fault.
-[[nodiscard]] CardDays readCardDays(Connection& connection, const QString& staff, Day from, Day to);
+// The calendar days of the span in their order. Two questions that go through indexes and are merged here give the same
+// rows as the one with UNION and NOT IN. Throws a Fault.
+[[nodiscard]] CardDays readCardDays(Connection& connection, const QString& staff, Period span);
 
 } // namespace kurbo

@@ -87,10 +87,10 @@ const WorkingDay* workingDay(DayCode code) {
     }
 }
 
-int dayTypeOf(QChar type) {
-    if (type == u'0' || type == u'3') return 1;
-    if (type == u'1') return 2;
-    return type == u'2' ? 3 : 0;
+DayType dayTypeOf(QChar type) {
+    if (type == u'0' || type == u'3') return DayType::Holiday;
+    if (type == u'1') return DayType::AmHoliday;
+    return type == u'2' ? DayType::PmHoliday : DayType::Weekday;
 }
 
 class DayLoop final {
@@ -100,8 +100,8 @@ class DayLoop final {
     Figures day(const DayFacts& facts, QChar next) {
         figures_ = {};
         addLeave(facts);
+        rules_.plngNextDayType(static_cast<int>(dayTypeOf(next)));
         const Moment start = startOfDay(rules_, facts.date, facts.type);
-        // Asked last, so that the rules know the kind of the next day.
         const Moment border = startOfDay(rules_, facts.date + std::chrono::days(1), next);
         const DayCode code = dayCodeOf(facts);
         if (code == DayCode::PH || code == DayCode::SH || code == DayCode::CH) return figures_;
@@ -252,9 +252,12 @@ Figures& Figures::operator+=(const Figures& other) {
     return *this;
 }
 
-Moment startOfDay(clsWorkTime& rules, Day date, QChar type) {
-    rules.plngNextDayType(dayTypeOf(type));
-    return date + std::chrono::seconds(std::max(rules.borderTime(), 0));
+Moment startOfDay(const clsWorkTime& rules, Day date, QChar type) {
+    return date + std::chrono::seconds(std::max(rules.borderOf(dayTypeOf(type)), 0));
+}
+
+std::optional<Moment> carryInto(const clsWorkTime& rules, const DayFacts& first, std::optional<Moment> leave) {
+    return leave && *leave > startOfDay(rules, first.date, first.type) ? leave : std::nullopt;
 }
 
 CardFigures calculateDays(clsWorkTime& rules, std::span<const DayFacts> days, QChar next, std::optional<Moment> carry,

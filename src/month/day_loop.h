@@ -62,7 +62,12 @@ struct CardFigures {
 
 // When the work of a day begins by its calendar type: its date at the start of the first band of that kind of day, at
 // 00:00 where there is none.
-[[nodiscard]] Moment startOfDay(clsWorkTime& rules, Day date, QChar type);
+[[nodiscard]] Moment startOfDay(const clsWorkTime& rules, Day date, QChar type);
+
+// What is carried into `first`, the first of some days: the end of the person's last shift before it, `leave`, where
+// that lies beyond the day's start.
+[[nodiscard]] std::optional<Moment> carryInto(const clsWorkTime& rules, const DayFacts& first,
+                                              std::optional<Moment> leave);
 
 // Walks the days of one person in their order. `rules` are loaded; their day state is overwritten. `next` is the
 // calendar type of the day behind the last, 0 when the calendar ends there. `carry` is the end of a shift that ran over

@@ -1,5 +1,6 @@
 #include "month/month_pass.h"
 
+#include "month/day_merger.h"
 #include "store/readers.h"
 #include "store/text_order.h"
 
@@ -10,29 +11,6 @@
 
 namespace kurbo {
 namespace {
-
-struct CalendarDay {
-    std::string id;
-    Day date;
-    QChar type;
-};
-
-QChar code(const Rows& rows, int column) {
-    const std::string_view text = rows.bytes(column);
-    return text.empty() ? QChar() : QChar(QLatin1Char(text.front()));
-}
-
-// With the day behind the span, whose kind tells where the last day ends.
-std::vector<CalendarDay> readCalendar(Connection& connection, Period span) {
-    Rows rows = connection.rows(QStringLiteral("SELECT F_Date, F_Type, F_DateID FROM T01_Calendar "
-                                               "WHERE (F_Date BETWEEN ? AND ?) ORDER BY F_Date;"),
-                                {span.from, span.to + std::chrono::days(1)});
-    std::vector<CalendarDay> days;
-    while (rows.next())
-        if (const auto moment = rows.moment(0))
-            days.push_back({std::string(rows.bytes(2)), dayOf(*moment), code(rows, 1)});
-    return days;
-}
 
 // The people by their codes as the rows spell them: equal codes may differ in the case of their letters. The rows of a
 // day stand in nearly the order of those of the day before, so who follows whom is guessed before it is looked up.
@@ -86,18 +64,20 @@ class Directory final {
 class MonthMaker final {
   public:
     MonthMaker(Connection& connection, const std::vector<CalendarDay>& calendar, PersonMonths& person, Day today)
-        : connection_(connection), calendar_(calendar), person_(person), today_(today) {
+        : connection_(connection),
+          person_(person),
+          today_(today),
+          period_(person.periods.front()),
+          merger_(calendar, period_) {
         person_.sums.clear();
-        period_ = person_.periods.front();
     }
 
-    // The place of the next row, to be filled: they come in the order of their days. Rows built aside and copied show
-    // in the time of the whole.
-    DayFacts& rowOn(Day date) {
-        while (date > period_.to && !isDone()) make();
-        DayFacts& row = date >= period_.from && date <= period_.to ? cards_.emplace_back() : last_;
-        if (&row == &last_) lastKnown_ = true;
-        return row;
+    // The place of the next row, to be filled: they come in the order of their days.
+    DayFacts& rowOn(const CalendarDay& day) {
+        while (day.date > period_.to && !isDone()) make();
+        if (day.date >= period_.from && day.date <= period_.to) return merger_.rowOn(day);
+        lastKnown_ = true;
+        return last_;
     }
 
     void finish() {
@@ -107,49 +87,34 @@ class MonthMaker final {
   private:
     [[nodiscard]] bool isDone() const { return person_.sums.size() == person_.periods.size(); }
 
-    // The end of a shift that ran over the start of the period. The last row before it stands before the whole span
-    // when the span has none.
-    std::optional<Moment> carryInto(const DayFacts& first) {
+    // The last row before the period stands before the whole span when the span has none.
+    [[nodiscard]] std::optional<Moment> leaveBefore(const DayFacts& first) {
         if (!lastKnown_) last_.leave = leaveBeyond(connection_, person_.staff, Moment{first.date});
         lastKnown_ = true;
-        return last_.leave && *last_.leave > startOfDay(person_.rules, first.date, first.type) ? last_.leave
-                                                                                               : std::nullopt;
+        return last_.leave;
     }
 
     void make() {
-        const auto byDate = [](const CalendarDay& day, Day date) { return day.date < date; };
-        auto day = std::ranges::lower_bound(calendar_, period_.from, {}, &CalendarDay::date);
-        const auto end = std::lower_bound(day, calendar_.end(), period_.to + std::chrono::days(1), byDate);
-        const bool goesOn = end != calendar_.end() && end->date == period_.to + std::chrono::days(1);
-        facts_.clear();
-        auto card = cards_.begin();
-        for (; day != end; ++day) {
-            if (card == cards_.end() || card->date != day->date)
-                facts_.push_back({day->date, day->type, {}, {}, {}, {}, {}});
-            for (; card != cards_.end() && card->date == day->date; ++card) facts_.push_back(*card);
-        }
-        const auto carry = facts_.empty() ? std::nullopt : carryInto(facts_.front());
-        const QChar next = goesOn ? end->type : QChar();
-        Figures sum = calculateDays(person_.rules, facts_, next, carry, today_).sum;
+        const std::vector<DayFacts>& days = merger_.finish();
+        const auto carry =
+            days.empty() ? std::nullopt : carryInto(person_.rules, days.front(), leaveBefore(days.front()));
+        Figures sum = calculateDays(person_.rules, days, merger_.next(), carry, today_).sum;
         roundSums(person_.rules, sum);
         person_.sums.push_back(sum);
-        if (!cards_.empty()) {
-            last_ = cards_.back();
+        if (const DayFacts* const last = merger_.last()) {
+            last_ = *last;
             lastKnown_ = true;
         }
-        cards_.clear();
-        if (!isDone()) period_ = person_.periods[person_.sums.size()];
+        if (!isDone()) merger_.begin(period_ = person_.periods[person_.sums.size()]);
     }
 
     Connection& connection_;
-    const std::vector<CalendarDay>& calendar_;
     PersonMonths& person_;
     const Day today_;
-    Period period_{};             // in hand
-    std::vector<DayFacts> cards_; // of that period
-    std::vector<DayFacts> facts_; // the same with the days between
-    DayFacts last_;               // before that period
-    bool lastKnown_ = false;      // it has been seen or asked for
+    Period period_; // in hand
+    DayMerger<DayFacts> merger_;
+    DayFacts last_;          // before that period
+    bool lastKnown_ = false; // it has been seen or asked for
 };
 
 Period wholeSpan(const std::vector<PersonMonths>& people) {
@@ -159,16 +124,6 @@ Period wholeSpan(const std::vector<PersonMonths>& people) {
         span.to = std::max(span.to, person.periods.back().to);
     }
     return span;
-}
-
-void readRow(DayFacts& row, const CalendarDay& day, const Rows& rows) {
-    row.date = day.date;
-    row.type = day.type;
-    row.enter = rows.moment(2);
-    row.leave = rows.moment(3);
-    row.paid = code(rows, 4);
-    row.special = code(rows, 5);
-    row.compens = code(rows, 6);
 }
 
 // All people over the span, by one of two ways that hand each person the same rows in the same order.
@@ -194,8 +149,6 @@ class MonthPass final {
     }
 
   private:
-    using Place = std::vector<CalendarDay>::const_iterator;
-
     // A row found by the index on people lies on a page of its own, and costs as much as so many that lie together.
     static constexpr std::int64_t scattered = 12;
 
@@ -212,9 +165,10 @@ class MonthPass final {
             const PersonMonths& person = people_[i];
             Rows rows = connection_.rows(
                 statement, {person.staff, dateId(person.periods.front().from), dateId(person.periods.back().to)});
-            auto day = calendar_.cbegin();
+            CalendarWalk walk(calendar_);
             while (rows.next())
-                if (goTo(day, rows.bytes(0), i, people_.size())) readRow(makers_[i].rowOn(day->date), *day, rows);
+                if (const CalendarDay* const day = dayOf(rows, walk, i, people_.size()))
+                    readFacts(makers_[i].rowOn(*day), rows, firstFact);
         }
     }
 
@@ -224,26 +178,27 @@ class MonthPass final {
         Directory directory(people_);
         Rows rows = connection_.rows(fields() + QStringLiteral("(F_DateID BETWEEN ? AND ?) ORDER BY F_DateID;"),
                                      {dateId(span_.from), dateId(span_.to)});
-        auto day = calendar_.cbegin();
+        CalendarWalk walk(calendar_);
         while (rows.next()) {
-            if (!goTo(day, rows.bytes(0), 0, 1)) continue;
-            const std::size_t person = directory.find(rows.bytes(1));
-            if (person != Directory::stranger) readRow(makers_[person].rowOn(day->date), *day, rows);
+            const CalendarDay* const day = dayOf(rows, walk, 0, 1);
+            const std::size_t person = day ? directory.find(rows.bytes(1)) : Directory::stranger;
+            if (person != Directory::stranger) readFacts(makers_[person].rowOn(*day), rows, firstFact);
         }
     }
 
+    static constexpr int firstFact = 2;
     static QString fields() {
         return QStringLiteral("SELECT F_DateID, F_User, F_Enter, F_Leave, F_Paid, F_Special, F_Compens "
                               "FROM T02_Kurbo WHERE ");
     }
 
-    // On to the day of the row, in this round of so many; false when the calendar lacks it.
-    bool goTo(Place& day, std::string_view id, std::size_t round, std::size_t rounds) {
-        for (; day != calendar_.cend() && day->id < id; ++day) {
-            const auto passed = static_cast<std::size_t>(day - calendar_.cbegin());
-            tell(static_cast<int>((round * calendar_.size() + passed) * 100 / (rounds * calendar_.size())));
-        }
-        return day != calendar_.cend() && day->id == id;
+    // The day of the row, in this round of so many; none when the calendar lacks it.
+    const CalendarDay* dayOf(const Rows& rows, CalendarWalk& walk, std::size_t round, std::size_t rounds) {
+        const std::size_t before = walk.passed();
+        const CalendarDay* const day = walk.to(rows.bytes(0));
+        if (walk.passed() != before)
+            tell(static_cast<int>((round * calendar_.size() + walk.passed()) * 100 / (rounds * calendar_.size())));
+        return day;
     }
 
     void tell(int percent) {

@@ -59,7 +59,7 @@ TEST(CardDays, AreTheRowsOfTheUnion) {
                 for (int i = 0; i < rows.columns(); ++i) cells.append(rows.text(i));
                 expected.append(cells.join(u'|'));
             }
-            const CardDays read = readCardDays(connection, staff, from, to - std::chrono::days(1));
+            const CardDays read = readCardDays(connection, staff, {from, to - std::chrono::days(1)});
             QStringList lines;
             for (const CardDay& day : read.days) lines.append(line(day));
             EXPECT_EQ(code(read.next), expected.takeLast().section(u'|', 1, 1));
@@ -73,10 +73,10 @@ TEST(CardDays, AreTheRowsOfTheUnion) {
 TEST_F(SampleCompany, CardDaysKnowTheirEnds) {
     addCard(1, *makeDay(2026, 12, 31), u"09:00"_q, u"17:00"_q);
     addCard(2, *makeDay(2026, 12, 31), u"10:00"_q, QString());
-    const CardDays end = readCardDays(connection, u"1001"_q, *makeDay(2026, 12, 30), *makeDay(2027, 1, 5));
+    const CardDays end = readCardDays(connection, u"1001"_q, {*makeDay(2026, 12, 30), *makeDay(2027, 1, 5)});
     EXPECT_EQ(end.days.size(), 3U) << "two rows of one day both stand; the calendar ends with the year";
     EXPECT_TRUE(end.next.isNull());
-    EXPECT_TRUE(readCardDays(connection, u"1001"_q, *makeDay(2031, 1, 1), *makeDay(2031, 1, 31)).days.empty());
+    EXPECT_TRUE(readCardDays(connection, u"1001"_q, {*makeDay(2031, 1, 1), *makeDay(2031, 1, 31)}).days.empty());
 }
 
 } // namespace kurbo::test
