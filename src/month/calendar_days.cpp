@@ -4,12 +4,12 @@
 
 namespace kurbo {
 
-std::vector<CalendarDay> readCalendar(Connection& connection, Period span) {
+std::vector<StoredDay> readCalendar(Connection& connection, Period span) {
     const Day behind = span.to + std::chrono::days(1);
     Rows rows = connection.rows(QStringLiteral("SELECT F_Date, F_Type, F_DateID FROM T01_Calendar "
                                                "WHERE (F_Date BETWEEN ? AND ?) ORDER BY F_Date;"),
                                 {span.from, behind});
-    std::vector<CalendarDay> days;
+    std::vector<StoredDay> days;
     days.reserve(static_cast<std::size_t>((behind - span.from).count()) + 1);
     while (rows.next())
         if (const auto moment = rows.moment(0))

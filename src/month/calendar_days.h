@@ -10,21 +10,21 @@
 namespace kurbo {
 
 // A day of the calendar as stored; a type of 0 means none.
-struct CalendarDay {
+struct StoredDay {
     std::string id; // "yyyymmdd"
     Day date;
     QChar type;
 };
 
 // The days of the span in their order, and the one behind it, whose kind tells where the last day ends. Throws a Fault.
-[[nodiscard]] std::vector<CalendarDay> readCalendar(Connection& connection, Period span);
+[[nodiscard]] std::vector<StoredDay> readCalendar(Connection& connection, Period span);
 
 // Finds the days of rows that come in their order. The days outlive it.
 class CalendarWalk final {
   public:
-    explicit CalendarWalk(const std::vector<CalendarDay>& days) : days_(days) {}
+    explicit CalendarWalk(const std::vector<StoredDay>& days) : days_(days) {}
     // The day of that id; none when the calendar lacks it.
-    [[nodiscard]] const CalendarDay* to(std::string_view id) {
+    [[nodiscard]] const StoredDay* to(std::string_view id) {
         while (passed_ < days_.size() && days_[passed_].id < id) ++passed_;
         return passed_ < days_.size() && days_[passed_].id == id ? &days_[passed_] : nullptr;
     }
@@ -32,7 +32,7 @@ class CalendarWalk final {
     [[nodiscard]] std::size_t passed() const { return passed_; }
 
   private:
-    const std::vector<CalendarDay>& days_;
+    const std::vector<StoredDay>& days_;
     std::size_t passed_ = 0;
 };
 

@@ -16,7 +16,7 @@ void readCard(CardDay& day, const Rows& card) {
 
 CardDays readCardDays(Connection& connection, const QString& staff, Period span) {
     const Reading reading(connection);
-    const std::vector<CalendarDay> calendar = readCalendar(connection, span);
+    const std::vector<StoredDay> calendar = readCalendar(connection, span);
     DayMerger<CardDay> merger(calendar, span);
     Rows cards = connection.rows(
         QStringLiteral("SELECT F_DateID, F_Enter, F_Leave, F_Paid, F_Special, F_Compens, F_Plan, F_KurboID "
@@ -24,7 +24,7 @@ CardDays readCardDays(Connection& connection, const QString& staff, Period span)
         {staff, dateId(span.from), dateId(span.to)});
     CalendarWalk walk(calendar);
     while (cards.next())
-        if (const CalendarDay* const day = walk.to(cards.bytes(0))) readCard(merger.rowOn(*day), cards);
+        if (const StoredDay* const day = walk.to(cards.bytes(0))) readCard(merger.rowOn(*day), cards);
     return {std::move(merger.finish()), merger.next()};
 }
 

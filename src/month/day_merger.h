@@ -19,12 +19,12 @@ namespace kurbo {
 template <typename Row>
 class DayMerger final {
   public:
-    DayMerger(const std::vector<CalendarDay>& calendar, Period period) : calendar_(calendar) { begin(period); }
+    DayMerger(const std::vector<StoredDay>& calendar, Period period) : calendar_(calendar) { begin(period); }
 
     // Another period; the rows of the last one go.
     void begin(Period period) {
-        const auto first = std::ranges::lower_bound(calendar_, period.from, {}, &CalendarDay::date);
-        const auto end = std::ranges::upper_bound(first, calendar_.end(), period.to, {}, &CalendarDay::date);
+        const auto first = std::ranges::lower_bound(calendar_, period.from, {}, &StoredDay::date);
+        const auto end = std::ranges::upper_bound(first, calendar_.end(), period.to, {}, &StoredDay::date);
         missing_ = std::span(first, end);
         const bool goesOn = end != calendar_.end() && end->date == period.to + std::chrono::days(1);
         next_ = goesOn ? end->type : QChar();
@@ -35,7 +35,7 @@ class DayMerger final {
 
     // The place of the next row, to be filled. Rows come in the order of their days, which lie in the period. Filled in
     // their place: rows built aside and moved in show in the time of a card.
-    Row& rowOn(const CalendarDay& day) {
+    Row& rowOn(const StoredDay& day) {
         while (!missing_.empty() && missing_.front().date < day.date) addMissing();
         if (!missing_.empty() && missing_.front().date == day.date) missing_ = missing_.subspan(1);
         last_ = days_.size();
@@ -56,7 +56,7 @@ class DayMerger final {
   private:
     static constexpr auto none = static_cast<std::size_t>(-1);
 
-    Row& add(const CalendarDay& day) {
+    Row& add(const StoredDay& day) {
         Row& row = days_.emplace_back();
         factsIn(row).date = day.date;
         factsIn(row).type = day.type;
@@ -67,8 +67,8 @@ class DayMerger final {
         missing_ = missing_.subspan(1);
     }
 
-    const std::vector<CalendarDay>& calendar_;
-    std::span<const CalendarDay> missing_; // the days without a row so far
+    const std::vector<StoredDay>& calendar_;
+    std::span<const StoredDay> missing_; // the days without a row so far
     std::vector<Row> days_;
     std::size_t last_ = none;
     QChar next_;

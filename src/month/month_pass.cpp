@@ -63,7 +63,7 @@ class Directory final {
 // The months of one person, made one after another while the rows come in.
 class MonthMaker final {
   public:
-    MonthMaker(Connection& connection, const std::vector<CalendarDay>& calendar, PersonMonths& person, Day today)
+    MonthMaker(Connection& connection, const std::vector<StoredDay>& calendar, PersonMonths& person, Day today)
         : connection_(connection),
           person_(person),
           today_(today),
@@ -73,7 +73,7 @@ class MonthMaker final {
     }
 
     // The place of the next row, to be filled: they come in the order of their days.
-    DayFacts& rowOn(const CalendarDay& day) {
+    DayFacts& rowOn(const StoredDay& day) {
         while (day.date > period_.to && !isDone()) make();
         if (day.date >= period_.from && day.date <= period_.to) return merger_.rowOn(day);
         lastKnown_ = true;
@@ -167,7 +167,7 @@ class MonthPass final {
                 statement, {person.staff, dateId(person.periods.front().from), dateId(person.periods.back().to)});
             CalendarWalk walk(calendar_);
             while (rows.next())
-                if (const CalendarDay* const day = dayOf(rows, walk, i, people_.size()))
+                if (const StoredDay* const day = dayOf(rows, walk, i, people_.size()))
                     readFacts(makers_[i].rowOn(*day), rows, firstFact);
         }
     }
@@ -180,7 +180,7 @@ class MonthPass final {
                                      {dateId(span_.from), dateId(span_.to)});
         CalendarWalk walk(calendar_);
         while (rows.next()) {
-            const CalendarDay* const day = dayOf(rows, walk, 0, 1);
+            const StoredDay* const day = dayOf(rows, walk, 0, 1);
             const std::size_t person = day ? directory.find(rows.bytes(1)) : Directory::stranger;
             if (person != Directory::stranger) readFacts(makers_[person].rowOn(*day), rows, firstFact);
         }
@@ -193,9 +193,9 @@ class MonthPass final {
     }
 
     // The day of the row, in this round of so many; none when the calendar lacks it.
-    const CalendarDay* dayOf(const Rows& rows, CalendarWalk& walk, std::size_t round, std::size_t rounds) {
+    const StoredDay* dayOf(const Rows& rows, CalendarWalk& walk, std::size_t round, std::size_t rounds) {
         const std::size_t before = walk.passed();
-        const CalendarDay* const day = walk.to(rows.bytes(0));
+        const StoredDay* const day = walk.to(rows.bytes(0));
         if (walk.passed() != before)
             tell(static_cast<int>((round * calendar_.size() + walk.passed()) * 100 / (rounds * calendar_.size())));
         return day;
@@ -209,7 +209,7 @@ class MonthPass final {
     std::vector<PersonMonths>& people_;
     const PassNotice& notice_;
     const Period span_;
-    const std::vector<CalendarDay> calendar_;
+    const std::vector<StoredDay> calendar_;
     std::vector<MonthMaker> makers_;
     int told_ = -1;
 };
