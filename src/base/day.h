@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/units.h"
+
 #include <QString>
 
 #include <chrono>
@@ -12,8 +14,6 @@ namespace kurbo {
 // A calendar day and a moment of the office's wall clock, to the second; neither knows a time zone.
 using Day = std::chrono::local_days;
 using Moment = std::chrono::local_seconds;
-// A length of time in whole minutes.
-using Minutes = std::int32_t;
 
 // Gives nothing for a day that the calendar lacks (2026/02/29) and for years outside 100 to 9999.
 [[nodiscard]] std::optional<Day> makeDay(int year, int month, int day);

@@ -1,6 +1,7 @@
 #include "card/card_cells.h"
 
 #include "month/figure_texts.h"
+#include "month/month_figures.h"
 #include "month/saved_figures.h"
 #include "store/readers.h"
 
@@ -40,10 +41,9 @@ const QStringList& headingsFor(bool flexible) {
 // The texts of all minutes of a day in one form, written once: a card repeats them, and shares them at no cost.
 template <typename Write>
 QList<QString> textsOfDay(Write write) {
-    constexpr int minutesOfDay = 24 * 60;
     QList<QString> texts;
-    texts.reserve(minutesOfDay);
-    for (Minutes minutes = 0; minutes < minutesOfDay; ++minutes) texts.append(write(minutes));
+    texts.reserve(wholeDay / Minutes(1));
+    for (Minutes minutes{}; minutes < wholeDay; ++minutes) texts.append(write(minutes));
     return texts;
 }
 
@@ -55,7 +55,7 @@ const QList<QString>& hourTexts(int unit) {
 
 // The numbers of a long card's rows.
 QString numberText(int number) {
-    static const QList<QString> numbers = textsOfDay([](Minutes m) { return QString::number(m); });
+    static const QList<QString> numbers = textsOfDay([](Minutes m) { return QString::number(m.count()); });
     return number < numbers.size() ? numbers[number] : QString::number(number);
 }
 
@@ -65,8 +65,7 @@ QString typeText(QChar type) {
 }
 
 QString timeText(Moment moment) {
-    static const QList<QString> clocks =
-        textsOfDay([](Minutes m) { return hourMinute(Moment{} + std::chrono::minutes(m)); });
+    static const QList<QString> clocks = textsOfDay([](Minutes m) { return hourMinute(Moment{} + m); });
     return clocks[static_cast<qsizetype>((moment - dayOf(moment)).count() / 60)];
 }
 
@@ -84,7 +83,7 @@ class CellWriter final {
         QString* const cells = row.data();
         writeFacts(cells, number, day);
         writeTimes(cells, figures);
-        if (figures.work != 0) cells[index(CardColumn::WorkTime)] = hours(figures.work);
+        if (figures.work != Minutes{}) cells[index(CardColumn::WorkTime)] = hours(figures.work);
         return row;
     }
 
@@ -97,32 +96,28 @@ class CellWriter final {
     }
 
     // `balance`: days of paid leave at the beginning.
-    [[nodiscard]] QStringList sums(const Figures& sum, double balance) const {
+    [[nodiscard]] QStringList sums(const Figures& sum, DayHundredths balance) const {
         QStringList row = blankRow();
         row[index(CardColumn::Date)] = QStringLiteral("合計(実働)");
-        for (const QuantityFacts& facts : quantities) row[index(cardColumnOf(facts.id))] = sumText(facts, sum, balance);
+        const FigureList figures = monthFigures(sum, balance);
+        for (const QuantityFacts& facts : quantities)
+            row[index(cardColumnOf(facts.id))] = text(figures[placeOf(facts.id)]);
         if (rules_.pbleFlexTime)
             row[index(CardColumn::LegalOver)] = FormatHours(sum.difference, rules_.plngCountUnit, true);
         return row;
     }
 
-    // A saved figure as text; nothing for Null.
-    [[nodiscard]] QString saved(Unit unit, const Rows& month, int field) const {
-        if (month.isNull(field)) return {};
-        if (unit == Unit::Days) return daysText(month.real(field));
-        return unit == Unit::Count ? month.text(field) : hours(static_cast<Minutes>(month.integer(field)));
+    // Nothing for none.
+    [[nodiscard]] QString text(const MonthFigure& figure) const {
+        if (const auto* const minutes = std::get_if<Minutes>(&figure)) return hours(*minutes);
+        if (const auto* const days = std::get_if<DayHundredths>(&figure)) return daysText(*days);
+        return isKnown(figure) ? QString::number(countOf(figure)) : QString();
     }
 
   private:
-    [[nodiscard]] QString sumText(const QuantityFacts& facts, const Figures& sum, double balance) const {
-        if (!facts.member) return daysText(balance - sum.paidHalves * 0.5);
-        if (facts.unit == Unit::Days) return daysText(sum.*facts.member * 0.5);
-        return facts.unit == Unit::Time ? hours(sum.*facts.member) : QString::number(sum.*facts.member);
-    }
-
     [[nodiscard]] QString hours(Minutes minutes) const {
-        return minutes >= 0 && minutes < hours_.size() ? hours_[minutes]
-                                                       : FormatHours(minutes, rules_.plngCountUnit, false);
+        return minutes >= Minutes{} && minutes < wholeDay ? hours_[minutes.count()]
+                                                          : FormatHours(minutes, rules_.plngCountUnit, false);
     }
 
     static void writeFacts(QString* cells, int number, const CardDay& day) {
@@ -142,11 +137,14 @@ class CellWriter final {
     }
 
     void writeTimes(QString* cells, const Figures& figures) const {
-        for (const QuantityFacts& facts : dayQuantities)
-            if (facts.unit != Unit::Days && figures.*facts.member != 0)
-                cells[index(cardColumnOf(facts.id))] =
-                    facts.unit == Unit::Time ? hours(figures.*facts.member) : QStringLiteral("1");
-        if (figures.difference != 0 && figures.legalOver == 0)
+        forEachOfDay([&](const QuantityFacts& facts, auto member) {
+            using Figure = std::remove_cvref_t<decltype(figures.*member)>;
+            if (facts.id < firstOfDay || figures.*member == Figure()) return;
+            QString& cell = cells[index(cardColumnOf(facts.id))];
+            if constexpr (std::is_same_v<Figure, Minutes>) cell = hours(figures.*member);
+            if constexpr (std::is_same_v<Figure, Count>) cell = QStringLiteral("1");
+        });
+        if (figures.difference != Minutes{} && figures.legalOver == Minutes{})
             cells[index(CardColumn::LegalOver)] = FormatHours(figures.difference, rules_.plngCountUnit, true);
     }
 
@@ -175,9 +173,9 @@ double readSavedMonth(Connection& connection, const CellWriter& cells, const QSt
     const QString id = dateId(end);
     Rows month = connection.rows(statement, {staff, id.left(4), id.mid(4, 2)});
     if (!month.next()) return 0;
+    const FigureList figures = readMonthFigures(month);
     for (const QuantityFacts& facts : quantities)
-        card.summary[2][index(cardColumnOf(facts.id))] =
-            cells.saved(facts.unit, month, static_cast<int>(placeOf(facts.id)));
+        card.summary[2][index(cardColumnOf(facts.id))] = cells.text(figures[placeOf(facts.id)]);
     constexpr int behind = quantityCount;
     card.saved = true;
     card.personalApproval = month.yes(behind);
@@ -216,10 +214,10 @@ Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, 
     card.wholePeriod = isWholePeriod(rules, span, context.clock.today());
     card.summary[2] = blankRow();
     card.summary[2][index(CardColumn::Date)] = QStringLiteral("合計(最終)");
-    auto balance = static_cast<double>(rules.psngPaidTotal);
+    double balance = rules.psngPaidTotal;
     if (card.wholePeriod) balance += readSavedMonth(connection, cells, staff, span.to, card);
     card.summary[0] = cells.captions();
-    card.summary[1] = cells.sums(figures.sum, balance);
+    card.summary[1] = cells.sums(figures.sum, hundredths(balance));
     card.days.reserve(static_cast<qsizetype>(read.days.size()));
     for (std::size_t i = 0; i < read.days.size(); ++i)
         card.days.append(cells.day(static_cast<int>(i) + 1, read.days[i], figures.days[i]));

@@ -22,7 +22,7 @@ int widthOf(CardColumn column) {
     }
     const QuantityFacts* const facts = quantityAt(column);
     if (!facts) return 500;
-    return facts->unit == Unit::Time ? 900 : 600;
+    return facts->unit() == Unit::Time ? 900 : 600;
 }
 
 // Holidays red, half holidays blue.

@@ -30,8 +30,8 @@ Values readLimits(Connection& connection, const QString& staff) {
 }
 
 QString limited(const QString& sum, const Value& limit, int unit) {
-    if (sum.isEmpty() || limit.isNull() || ParseHours(sum, unit) <= limit.integer()) return sum;
-    return FormatHours(static_cast<Minutes>(limit.integer()), unit, false);
+    if (sum.isEmpty() || limit.isNull() || ParseHours(sum, unit).count() <= limit.integer()) return sum;
+    return FormatHours(Minutes(limit.integer()), unit, false);
 }
 
 QStringList adjustedSums(const GridModel& grid, const clsWorkTime& rules, const Values& limits) {

@@ -24,8 +24,8 @@ constexpr std::array facts{
 
 constexpr ReportColumn columnOf(const QuantityFacts& quantity) {
     const int column = at(cardColumnOf(quantity.id));
-    if (quantity.unit == Unit::Time) return {quantity.field, 6, column, 760};
-    return {quantity.field, quantity.unit == Unit::Days ? 4 : 1, column, 514, centre};
+    if (quantity.unit() == Unit::Time) return {quantity.field, 6, column, 760};
+    return {quantity.field, quantity.unit() == Unit::Days ? 4 : 1, column, 514, centre};
 }
 
 constexpr auto columns = [] {

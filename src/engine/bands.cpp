@@ -58,25 +58,25 @@ int digit(QChar c) {
 
 } // namespace
 
-std::optional<std::int32_t> timeOfDay(QStringView text) {
+std::optional<Seconds> timeOfDay(QStringView text) {
     if (text.size() != 5 || text[2] != u':') return {};
     for (const qsizetype i : {0, 1, 3, 4})
         if (digit(text[i]) < 0) return {};
     const int hour = digit(text[0]) * 10 + digit(text[1]);
     const int minute = digit(text[3]) * 10 + digit(text[4]);
     if (hour > 23 || minute > 59) return {};
-    return (hour * 60 + minute) * 60;
+    return Minutes(hour * 60 + minute);
 }
 
-void BandList::set(int index, std::int32_t start, std::int32_t end) {
+void BandList::set(int index, Seconds start, Seconds end) {
     bands_[static_cast<std::size_t>(index)] = {start, end};
     starts_ = {};
     ends_ = {};
-    length_ = 0;
+    length_ = {};
     for (std::size_t i = 0; i < bands_.size() && !bands_[i].isEmpty(); ++i) {
-        starts_[i] = bands_[i].start;
-        ends_[i] = bands_[i].end;
-        length_ += ends_[i] - starts_[i];
+        starts_[i] = bands_[i].start.count();
+        ends_[i] = bands_[i].end.count();
+        length_ += bands_[i].end - bands_[i].start;
     }
 }
 

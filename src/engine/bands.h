@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/units.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -16,16 +18,18 @@ inline constexpr std::size_t dayTypeCount = 4;
 enum class BandKind { Work, Core, Flex, LegalOver, Over, Late, AfterLate, Early };
 inline constexpr std::size_t bandKindCount = 8;
 
-inline constexpr std::int32_t secondsOfDay = 24 * 60 * 60;
+inline constexpr Seconds wholeDay = std::chrono::hours(24);
+// Of a time that isn't set.
+inline constexpr Seconds noTimeOfDay{-1};
 
-// "HH:MM" from "00:00" to "23:59", in seconds since midnight; nothing for any other text.
-[[nodiscard]] std::optional<std::int32_t> timeOfDay(QStringView text);
+// "HH:MM" from "00:00" to "23:59", since midnight; nothing for any other text.
+[[nodiscard]] std::optional<Seconds> timeOfDay(QStringView text);
 
-// Seconds since midnight. An end at "00:00" is the end of the day.
+// Times since midnight. An end at "00:00" is the end of the day.
 struct Band {
-    std::int32_t start = -1; // -1: empty
-    std::int32_t end = -1;
-    [[nodiscard]] bool isEmpty() const { return start < 0 || end < 0; }
+    Seconds start = noTimeOfDay;
+    Seconds end = noTimeOfDay;
+    [[nodiscard]] bool isEmpty() const { return start == noTimeOfDay || end == noTimeOfDay; }
 };
 
 // Up to four bands; the walk over them ends at the first empty one, whatever comes behind it.
@@ -33,25 +37,28 @@ class BandList final {
   public:
     static constexpr int capacity = 4;
     [[nodiscard]] const Band& at(int index) const { return bands_[static_cast<std::size_t>(index)]; }
-    // How much of a stay lies in the bands, all in seconds since the midnight of the bands.
-    [[nodiscard]] std::int32_t overlap(std::int32_t enter, std::int32_t leave) const {
+    // How much of a stay lies in the bands, all since the midnight of the bands.
+    [[nodiscard]] Seconds overlap(Seconds enter, Seconds leave) const {
+        const std::int32_t from = enter.count();
+        const std::int32_t to = leave.count();
         std::int32_t total = 0;
         for (std::size_t i = 0; i < starts_.size(); ++i)
-            total += std::max(0, std::min(leave, ends_[i]) - std::max(enter, starts_[i]));
-        return total;
+            total += std::max(0, std::min(to, ends_[i]) - std::max(from, starts_[i]));
+        return Seconds(total);
     }
-    [[nodiscard]] std::int32_t length() const { return length_; }
-    void setStart(int index, std::int32_t seconds) { set(index, seconds, at(index).end); }
-    void setEnd(int index, std::int32_t seconds) { set(index, at(index).start, seconds); }
+    [[nodiscard]] Seconds length() const { return length_; }
+    void setStart(int index, Seconds start) { set(index, start, at(index).end); }
+    void setEnd(int index, Seconds end) { set(index, at(index).start, end); }
 
   private:
-    void set(int index, std::int32_t start, std::int32_t end);
+    void set(int index, Seconds start, Seconds end);
 
     std::array<Band, capacity> bands_;
-    // The bands of the walk side by side, so that all four are compared at once; places behind them have no length.
+    // The bands of the walk side by side, as bare seconds, so that all four are compared at once; places behind them
+    // have no length.
     std::array<std::int32_t, capacity> starts_{};
     std::array<std::int32_t, capacity> ends_{};
-    std::int32_t length_ = 0;
+    Seconds length_{};
 };
 
 // One pair of band properties, as "pstrStartWork" and "pstrEndWork", with the words of its failures.

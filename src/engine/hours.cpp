@@ -27,27 +27,28 @@ std::optional<double> wholeNumber(const QString& text) {
 } // namespace
 
 QString FormatHours(Minutes minutes, int unit, bool signedText) {
-    const std::int64_t size = std::abs(std::int64_t{minutes});
-    const QString sign = minutes < 0 ? QStringLiteral("-") : QStringLiteral("+");
-    if (unit == 0) return (signedText || minutes < 0 ? sign : QString()) + decimalHours(size);
+    const std::int64_t count = minutes.count();
+    const std::int64_t size = std::abs(count);
+    const QString sign = count < 0 ? QStringLiteral("-") : QStringLiteral("+");
+    if (unit == 0) return (signedText || count < 0 ? sign : QString()) + decimalHours(size);
     if (signedText) return sign + sexagesimal(size / 60, size % 60);
-    return sexagesimal(minutes / 60, size % 60);
+    return sexagesimal(count / 60, size % 60);
 }
 
 Minutes ParseHours(const QString& text, int unit) {
     if (unit == 0) {
         const auto hours = numberOf(text);
-        return hours ? wholeOf<Minutes>(static_cast<double>(singleOf(*hours) * 60.0F)) : 0;
+        return Minutes(hours ? wholeOf<Minutes::rep>(static_cast<double>(singleOf(*hours) * 60.0F)) : 0);
     }
     const auto hours = wholeNumber(text.chopped(qMin(text.size(), qsizetype{3})));
     const auto minutes = wholeNumber(text.right(2));
-    return hours && minutes ? wholeOf<Minutes>(*hours * 60 + *minutes) : 0;
+    return Minutes(hours && minutes ? wholeOf<Minutes::rep>(*hours * 60 + *minutes) : 0);
 }
 
 Minutes RoundMinutes(Minutes value, int direction, Minutes unit) {
-    if (unit == 0 || (direction != 0 && direction != 1)) return 0;
+    if (unit == Minutes{} || (direction != 0 && direction != 1)) return {};
     const Minutes over = (value % unit + unit) % unit;
-    if (over == 0) return value;
+    if (over == Minutes{}) return value;
     return direction == 0 ? value - over : value - over + unit;
 }
 

@@ -21,8 +21,8 @@ void checkIndex(int index) {
     if (index < 0) refuse(WorkTimeError::Bounds, text);
 }
 
-Minutes minutes(std::int32_t seconds) {
-    return seconds / 60;
+Minutes minutes(Seconds seconds) {
+    return std::chrono::duration_cast<Minutes>(seconds);
 }
 
 const BandProperty& known(const BandProperty* property) {
@@ -32,13 +32,11 @@ const BandProperty& known(const BandProperty* property) {
 
 } // namespace
 
-Moment RoundPunch(Moment time, int direction, int unit) {
-    constexpr std::int64_t hour = 3600;
-    const std::int64_t since = (time.time_since_epoch().count() % hour + hour) % hour;
-    const std::int64_t over = since % (std::int64_t{unit} * 60);
-    if (direction == 0) return time - std::chrono::seconds(over);
-    if (direction == 1 && over != 0) return time + std::chrono::seconds(std::int64_t{unit} * 60 - over);
-    return time;
+Moment RoundPunch(Moment time, int direction, Minutes unit) {
+    const Seconds since = time - std::chrono::floor<std::chrono::hours>(time);
+    const Seconds over = since % Seconds(unit);
+    if (direction == 0) return time - over;
+    return direction == 1 && over != Seconds{} ? time + (unit - over) : time;
 }
 
 void clsWorkTime::pstrStandardTime(QStringView text) {
@@ -54,13 +52,13 @@ void clsWorkTime::pstrPmStandardTime(QStringView text) {
 }
 
 void clsWorkTime::setStandard(DayType day, QStringView text, const char16_t* failure) {
-    const auto seconds = timeOfDay(text);
-    if (!seconds) refuseTime(failure);
-    standard_[index(day)] = *seconds / 60;
+    const auto time = timeOfDay(text);
+    if (!time) refuseTime(failure);
+    standard_[index(day)] = minutes(*time);
 }
 
-void clsWorkTime::plngRoundUnit(int unit) {
-    if (unit == 0) refuse(WorkTimeError::NoUnit, QStringLiteral("端数処理単位が設定されていません。"));
+void clsWorkTime::plngRoundUnit(Minutes unit) {
+    if (unit == Minutes{}) refuse(WorkTimeError::NoUnit, QStringLiteral("端数処理単位が設定されていません。"));
     roundUnit_ = unit;
 }
 
@@ -96,14 +94,14 @@ void clsWorkTime::setEnd(DayType day, BandKind kind, int bandIndex, QStringView 
     const auto end = timeOfDay(text);
     if (!end) refuseTime(property.endName);
     BandList& list = bands_[index(day)][static_cast<std::size_t>(kind)];
-    if (*end != 0 && *end <= list.at(bandIndex).start)
+    if (*end != Seconds{} && *end <= list.at(bandIndex).start)
         refuse(WorkTimeError::Order, QString::fromUtf16(property.endName) + QString::fromUtf16(property.orderText));
-    list.setEnd(bandIndex, *end == 0 ? secondsOfDay : *end);
+    list.setEnd(bandIndex, *end == Seconds{} ? wholeDay : *end);
     keepBusiness(day, kind, *end);
 }
 
 // Business hours run from the first work or core band's start to the end that was set last.
-void clsWorkTime::keepBusiness(DayType day, BandKind kind, std::int32_t end) {
+void clsWorkTime::keepBusiness(DayType day, BandKind kind, Seconds end) {
     if (day == DayType::Holiday || (kind != BandKind::Work && kind != BandKind::Core)) return;
     business_[index(day)] = {bands(day, kind).at(0).start, end};
 }
@@ -116,10 +114,10 @@ void clsWorkTime::pdtmEnter(std::optional<Moment> enter) {
     if (!enter) refuseTime(u"出社時刻");
     rawEnter_ = *enter;
     const Moment rawDay = dayOf(rawEnter_);
-    rawEnterOfDay_ = static_cast<Seconds>((rawEnter_ - rawDay).count());
+    rawEnterOfDay_ = rawEnter_ - rawDay;
     const Moment working = rounded(rawEnter_, plngRoundEnter);
     enterDay_ = plngRoundMethod == 0 ? Moment{dayOf(working)} : rawDay;
-    enter_ = static_cast<Seconds>((working - enterDay_).count());
+    enter_ = working - enterDay_;
     placeLeave();
 }
 
@@ -133,9 +131,9 @@ void clsWorkTime::pdtmLeave(std::optional<Moment> leave) {
 }
 
 void clsWorkTime::placeLeave() {
-    leave_ = static_cast<Seconds>((workingLeave_ - enterDay_).count());
-    lastDay_ = leave_ < secondsOfDay ? 0 : leave_ / secondsOfDay * secondsOfDay;
-    rawLeaveOfDay_ = static_cast<Seconds>((rawLeave_ - rawEnter_).count()) + rawEnterOfDay_;
+    leave_ = workingLeave_ - enterDay_;
+    lastDay_ = leave_ < wholeDay ? Seconds{} : leave_ - leave_ % wholeDay;
+    rawLeaveOfDay_ = rawLeave_ - rawEnter_ + rawEnterOfDay_;
 }
 
 void clsWorkTime::plngNextDayType(int type) {
@@ -143,26 +141,26 @@ void clsWorkTime::plngNextDayType(int type) {
     if (type >= 0 && type <= 3) border_ = borderOf(static_cast<DayType>(type));
 }
 
-std::int32_t clsWorkTime::borderOf(DayType day) const {
+Seconds clsWorkTime::borderOf(DayType day) const {
     const bool flexible = (day == DayType::Weekday && pbleFlexTime) || (day == DayType::AmHoliday && pbleAmFlexTime) ||
                           (day == DayType::PmHoliday && pblePmFlexTime);
     return bands(day, flexible ? BandKind::Flex : BandKind::Work).at(0).start;
 }
 
 // The stay's overlap with the bands placed on the day that begins at `dayStart`.
-clsWorkTime::Seconds clsWorkTime::overlap(Seconds dayStart, const BandList& list) const {
+Seconds clsWorkTime::overlap(Seconds dayStart, const BandList& list) const {
     return list.overlap(enter_ - dayStart, leave_ - dayStart);
 }
 
 // Every date from the enter's to the leave's, and at least the first; with `shift`, from so much later on.
-clsWorkTime::Seconds clsWorkTime::walked(const BandList& list, Seconds shift) const {
+Seconds clsWorkTime::walked(const BandList& list, Seconds shift) const {
     const Seconds first = overlap(shift, list);
-    return lastDay_ == 0 ? first : first + walkedBeyondFirst(list, shift);
+    return lastDay_ == Seconds{} ? first : first + walkedBeyondFirst(list, shift);
 }
 
-clsWorkTime::Seconds clsWorkTime::walkedBeyondFirst(const BandList& list, Seconds shift) const {
-    Seconds total = 0;
-    for (Seconds day = secondsOfDay; day <= lastDay_; day += secondsOfDay) total += overlap(day + shift, list);
+Seconds clsWorkTime::walkedBeyondFirst(const BandList& list, Seconds shift) const {
+    Seconds total{};
+    for (Seconds day = wholeDay; day <= lastDay_; day += wholeDay) total += overlap(day + shift, list);
     return total;
 }
 
@@ -187,7 +185,7 @@ Minutes clsWorkTime::overWork(DayType day, DayType afterAmHoliday) const {
     Seconds total = walked(bands(day, BandKind::Over));
     if (nextDayType_ >= 0 && nextDayType_ <= 3) {
         const auto next = nextDayType_ == 2 ? afterAmHoliday : static_cast<DayType>(nextDayType_);
-        total += walked(bands(next, BandKind::AfterLate), secondsOfDay);
+        total += walked(bands(next, BandKind::AfterLate), wholeDay);
     }
     return minutes(total);
 }
@@ -203,7 +201,7 @@ Minutes clsWorkTime::LateWork() const {
 }
 // Early work lies on the date of the enter only; on half holidays it is walked over all dates.
 Minutes clsWorkTime::EarlyWork() const {
-    return minutes(overlap(0, bands(DayType::Weekday, BandKind::Early)));
+    return minutes(overlap({}, bands(DayType::Weekday, BandKind::Early)));
 }
 
 Minutes clsWorkTime::AmLegalOverWork() const {
@@ -235,7 +233,7 @@ Minutes clsWorkTime::PmEarlyWork() const {
 
 Minutes clsWorkTime::absentHour(DayType day, bool flexible) const {
     const BandList& list = bands(day, flexible ? BandKind::Core : BandKind::Work);
-    return minutes(list.length() - overlap(0, list));
+    return minutes(list.length() - overlap({}, list));
 }
 
 Minutes clsWorkTime::AbsentHour() const {
@@ -249,32 +247,32 @@ Minutes clsWorkTime::PmAbsentHour() const {
 }
 
 // Both counters look at the raw times, on the date of the raw enter.
-int clsWorkTime::lateEnter(DayType day) const {
-    const std::int32_t start = startBusiness(day);
-    return start >= 0 && rawEnterOfDay_ > start ? 1 : 0;
+Count clsWorkTime::lateEnter(DayType day) const {
+    const Seconds start = startBusiness(day);
+    return Count(start != noTimeOfDay && rawEnterOfDay_ > start ? 1 : 0);
 }
 
-int clsWorkTime::earlyLeave(DayType day) const {
-    const std::int32_t end = endBusiness(day);
-    return end >= 0 && rawLeaveOfDay_ < end ? 1 : 0;
+Count clsWorkTime::earlyLeave(DayType day) const {
+    const Seconds end = endBusiness(day);
+    return Count(end != noTimeOfDay && rawLeaveOfDay_ < end ? 1 : 0);
 }
 
-int clsWorkTime::LateEnter() const {
+Count clsWorkTime::LateEnter() const {
     return lateEnter(DayType::Weekday);
 }
-int clsWorkTime::AmLateEnter() const {
+Count clsWorkTime::AmLateEnter() const {
     return lateEnter(DayType::AmHoliday);
 }
-int clsWorkTime::PmLateEnter() const {
+Count clsWorkTime::PmLateEnter() const {
     return lateEnter(DayType::PmHoliday);
 }
-int clsWorkTime::EarlyLeave() const {
+Count clsWorkTime::EarlyLeave() const {
     return earlyLeave(DayType::Weekday);
 }
-int clsWorkTime::AmEarlyLeave() const {
+Count clsWorkTime::AmEarlyLeave() const {
     return earlyLeave(DayType::AmHoliday);
 }
-int clsWorkTime::PmEarlyLeave() const {
+Count clsWorkTime::PmEarlyLeave() const {
     return earlyLeave(DayType::PmHoliday);
 }
 

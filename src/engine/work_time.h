@@ -49,8 +49,8 @@ class clsWorkTime final {
     bool pbleEnableAbsentDay = true;
     bool pbleEnableLateEnter = true;
     bool pbleEnableEarlyLeave = true;
-    int plngEnterDelay = 0; // seconds
-    int plngLeaveGain = 0;
+    Seconds plngEnterDelay{};
+    Seconds plngLeaveGain{};
     float psngPaidTotal = 0; // days
 
     // --- Properties with a rule. A refused value leaves the old one.
@@ -61,9 +61,9 @@ class clsWorkTime final {
     [[nodiscard]] Minutes plngStandardTime() const { return standard(DayType::Weekday); }
     [[nodiscard]] Minutes plngAmStandardTime() const { return standard(DayType::AmHoliday); }
     [[nodiscard]] Minutes plngPmStandardTime() const { return standard(DayType::PmHoliday); }
-    // Minutes, not 0.
-    void plngRoundUnit(int minutes);
-    [[nodiscard]] int plngRoundUnit() const { return roundUnit_; }
+    // Not 0.
+    void plngRoundUnit(Minutes unit);
+    [[nodiscard]] Minutes plngRoundUnit() const { return roundUnit_; }
     // 1 to 27, or 31 for the end of the month.
     void plngCloseDay(int day);
     [[nodiscard]] int plngCloseDay() const { return closeDay_; }
@@ -81,14 +81,14 @@ class clsWorkTime final {
     // 0 weekday, 1 holiday, 2 AM holiday, 3 PM holiday: the day after the one in hand. Also sets the border.
     void plngNextDayType(int type);
 
-    // Seconds since midnight, -1 while unset. The end of business hours at "00:00" is 0.
-    [[nodiscard]] std::int32_t startBusiness(DayType day) const { return business_[index(day)].start; }
-    [[nodiscard]] std::int32_t endBusiness(DayType day) const { return business_[index(day)].end; }
+    // Times since midnight, noTimeOfDay while unset. The end of business hours at "00:00" is 0.
+    [[nodiscard]] Seconds startBusiness(DayType day) const { return business_[index(day)].start; }
+    [[nodiscard]] Seconds endBusiness(DayType day) const { return business_[index(day)].end; }
     // The time at which the next day begins.
-    [[nodiscard]] std::int32_t borderTime() const { return border_; }
+    [[nodiscard]] Seconds borderTime() const { return border_; }
     // The time at which a day of that kind begins: the start of its first band of flexible or fixed work, -1 without
     // one.
-    [[nodiscard]] std::int32_t borderOf(DayType day) const;
+    [[nodiscard]] Seconds borderOf(DayType day) const;
 
     // --- Results.
     [[nodiscard]] Minutes WorkTime() const;
@@ -109,40 +109,38 @@ class clsWorkTime final {
     [[nodiscard]] Minutes AbsentHour() const;
     [[nodiscard]] Minutes AmAbsentHour() const;
     [[nodiscard]] Minutes PmAbsentHour() const;
-    [[nodiscard]] int LateEnter() const;
-    [[nodiscard]] int AmLateEnter() const;
-    [[nodiscard]] int PmLateEnter() const;
-    [[nodiscard]] int EarlyLeave() const;
-    [[nodiscard]] int AmEarlyLeave() const;
-    [[nodiscard]] int PmEarlyLeave() const;
+    [[nodiscard]] Count LateEnter() const;
+    [[nodiscard]] Count AmLateEnter() const;
+    [[nodiscard]] Count PmLateEnter() const;
+    [[nodiscard]] Count EarlyLeave() const;
+    [[nodiscard]] Count AmEarlyLeave() const;
+    [[nodiscard]] Count PmEarlyLeave() const;
     [[nodiscard]] Minutes HolidayWork() const;
     [[nodiscard]] Minutes HolidayLateWork() const;
 
   private:
-    // A stay is shorter than 68 years.
-    using Seconds = std::int32_t;
     static constexpr std::size_t index(DayType day) { return static_cast<std::size_t>(day); }
     [[nodiscard]] Minutes standard(DayType day) const { return standard_[index(day)]; }
     void setStandard(DayType day, QStringView text, const char16_t* failure);
-    void keepBusiness(DayType day, BandKind kind, std::int32_t end);
+    void keepBusiness(DayType day, BandKind kind, Seconds end);
     [[nodiscard]] Moment rounded(Moment time, int direction) const;
     void placeLeave();
 
     [[nodiscard]] Seconds overlap(Seconds dayStart, const BandList& list) const;
-    [[nodiscard]] Seconds walked(const BandList& list, Seconds shift = 0) const;
+    [[nodiscard]] Seconds walked(const BandList& list, Seconds shift = {}) const;
     // Cold: few stays go over midnight, and the others are not to pay for it.
     [[nodiscard, gnu::cold]] Seconds walkedBeyondFirst(const BandList& list, Seconds shift) const;
     [[nodiscard]] Minutes workTime(DayType day, bool flexible) const;
     [[nodiscard]] Minutes overWork(DayType day, DayType afterAmHoliday) const;
     [[nodiscard]] Minutes absentHour(DayType day, bool flexible) const;
-    [[nodiscard]] int lateEnter(DayType day) const;
-    [[nodiscard]] int earlyLeave(DayType day) const;
+    [[nodiscard]] Count lateEnter(DayType day) const;
+    [[nodiscard]] Count earlyLeave(DayType day) const;
 
     std::array<std::array<BandList, bandKindCount>, dayTypeCount> bands_;
-    std::array<Minutes, dayTypeCount> standard_{480, 0, 240, 240};
+    std::array<Minutes, dayTypeCount> standard_{Minutes(480), Minutes(0), Minutes(240), Minutes(240)};
     std::array<Band, dayTypeCount> business_;
-    std::int32_t border_ = -1;
-    int roundUnit_ = 30;
+    Seconds border_ = noTimeOfDay;
+    Minutes roundUnit_{30};
     int closeDay_ = 31;
     int nextDayType_ = 0;
     Moment rawEnter_{};
@@ -151,15 +149,15 @@ class clsWorkTime final {
     // The stay in seconds since the midnight before the working enter; the last midnight at or before the leave. The
     // raw enter in seconds since its own midnight, and the raw leave since that.
     Moment enterDay_{};
-    Seconds enter_ = 0;
-    Seconds leave_ = 0;
-    Seconds lastDay_ = 0;
-    Seconds rawEnterOfDay_ = 0;
-    Seconds rawLeaveOfDay_ = 0;
+    Seconds enter_{};
+    Seconds leave_{};
+    Seconds lastDay_{};
+    Seconds rawEnterOfDay_{};
+    Seconds rawLeaveOfDay_{};
 };
 
-// A time moved to a multiple of `unit` minutes, measured from the top of its hour: direction 0 down, 1 up, any other
-// not at all. `unit` above 0.
-[[nodiscard]] Moment RoundPunch(Moment time, int direction, int unit);
+// A time moved to a multiple of `unit`, measured from the top of its hour: direction 0 down, 1 up, any other not at
+// all. `unit` above 0.
+[[nodiscard]] Moment RoundPunch(Moment time, int direction, Minutes unit);
 
 } // namespace kurbo

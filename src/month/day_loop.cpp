@@ -8,21 +8,21 @@
 namespace kurbo {
 namespace {
 
-using Quantity = Minutes (clsWorkTime::*)() const;
-using Count = int (clsWorkTime::*)() const;
+using Time = Minutes (clsWorkTime::*)() const;
+using Times = Count (clsWorkTime::*)() const;
 
 // What is asked on one kind of working day; none where the kind has no such quantity, or another rule for it.
 struct WorkingDay {
     bool clsWorkTime::*flexible;
-    Quantity standard;
-    Quantity work;
-    Quantity legalOver;
-    Quantity over;
-    Quantity late;
-    Quantity early;
-    Quantity absent;
-    Count lateEnter;
-    Count earlyLeave;
+    Time standard;
+    Time work;
+    Time legalOver;
+    Time over;
+    Time late;
+    Time early;
+    Time absent;
+    Times lateEnter;
+    Times earlyLeave;
 };
 
 constexpr WorkingDay weekday{&clsWorkTime::pbleFlexTime,  &clsWorkTime::plngStandardTime, &clsWorkTime::WorkTime,
@@ -117,13 +117,12 @@ class DayLoop final {
     void addLeave(const DayFacts& facts) {
         struct Leave {
             QChar code;
-            int Figures::*halves;
+            HalfDays Figures::*taken;
         };
-        for (const auto& [code, halves] :
-             {Leave{facts.paid, &Figures::paidHalves}, Leave{facts.special, &Figures::specialHalves},
-              Leave{facts.compens, &Figures::compensHalves}}) {
+        for (const auto& [code, taken] : {Leave{facts.paid, &Figures::paid}, Leave{facts.special, &Figures::special},
+                                          Leave{facts.compens, &Figures::compens}}) {
             if (code != u'0' && code != u'1' && code != u'2') continue;
-            figures_.*halves = code == u'0' ? 2 : 1;
+            figures_.*taken = HalfDays(code == u'0' ? 2 : 1);
             return;
         }
     }
@@ -157,17 +156,17 @@ class DayLoop final {
         return true;
     }
 
-    [[nodiscard]] Minutes ask(Quantity quantity, bool enabled = true) const {
-        return quantity && enabled ? (rules_.*quantity)() : 0;
+    [[nodiscard]] Minutes ask(Time time, bool enabled = true) const {
+        return time && enabled ? (rules_.*time)() : Minutes{};
     }
 
     void workingStay(const WorkingDay& kind, DayCode code) {
         figures_.work = ask(kind.work);
-        if (figures_.work != 0) {
-            figures_.workDays = 1;
+        if (figures_.work != Minutes{}) {
+            figures_.workDays = Count(1);
             if (rules_.*kind.flexible) figures_.difference = figures_.work - (rules_.*kind.standard)();
         } else {
-            figures_.absentDays = 1;
+            figures_.absentDays = Count(1);
         }
         // The weekday's switch decides on all kinds of day.
         figures_.legalOver = ask(kind.legalOver, !rules_.pbleFlexTime && rules_.pbleEnableLegalOver);
@@ -175,7 +174,7 @@ class DayLoop final {
         figures_.late = ask(kind.late, rules_.pbleEnableLate);
         figures_.early = ask(kind.early, rules_.pbleEnableEarly);
         figures_.absent = ask(kind.absent);
-        if (figures_.absentDays == 0) {
+        if (figures_.absentDays == Count(0)) {
             figures_.lateEnters = (rules_.*kind.lateEnter)();
             figures_.earlyLeaves = (rules_.*kind.earlyLeave)();
         }
@@ -184,14 +183,14 @@ class DayLoop final {
     }
 
     void morningOfHoliday() {
-        const Quantity early = &clsWorkTime::AmEarlyWork;
+        const Time early = &clsWorkTime::AmEarlyWork;
         if (rules_.plngAmHolidayWork == 1) figures_.early = ask(early, rules_.pbleEnableEarly);
         if (rules_.plngAmHolidayWork == 2) figures_.holiday = ask(early, rules_.pbleEnableHoliday);
     }
 
     void afternoonOfHoliday() {
-        const Quantity over = &clsWorkTime::PmOverWork;
-        const Quantity late = &clsWorkTime::PmLateWork;
+        const Time over = &clsWorkTime::PmOverWork;
+        const Time late = &clsWorkTime::PmLateWork;
         if (rules_.plngPmHolidayWork == 1) {
             figures_.over = ask(over, rules_.pbleEnableOver);
             figures_.late = ask(late, rules_.pbleEnableLate);
@@ -207,18 +206,18 @@ class DayLoop final {
         const Minutes late = ask(&clsWorkTime::HolidayLateWork, rules_.pbleEnableHolidayLate);
         (legal ? figures_.legalHoliday : figures_.holiday) = work;
         (legal ? figures_.legalLate : figures_.holidayLate) = late;
-        figures_.workDays = work != 0 || late != 0 ? 1 : 0;
+        figures_.workDays = Count(work != Minutes{} || late != Minutes{} ? 1 : 0);
     }
 
     // The weekday's business hours are missed, also on a half day: its own bands tell how much of them was work. Hours
     // that end at "00:00" end with the day.
     void absence(const WorkingDay& kind, Day date) {
-        figures_.absentDays = 1;
-        const std::int32_t start = rules_.startBusiness(DayType::Weekday);
-        const std::int32_t end = rules_.endBusiness(DayType::Weekday);
-        if (start < 0 || end < 0) return;
-        rules_.pdtmEnter(date + std::chrono::seconds(start));
-        rules_.pdtmLeave(date + std::chrono::seconds(end == 0 ? secondsOfDay : end));
+        figures_.absentDays = Count(1);
+        const Seconds start = rules_.startBusiness(DayType::Weekday);
+        const Seconds end = rules_.endBusiness(DayType::Weekday);
+        if (start == noTimeOfDay || end == noTimeOfDay) return;
+        rules_.pdtmEnter(date + start);
+        rules_.pdtmLeave(date + (end == Seconds{} ? wholeDay : end));
         figures_.absent = ask(kind.work);
     }
 
@@ -246,14 +245,13 @@ DayCode dayCodeOf(const DayFacts& day) {
 }
 
 Figures& Figures::operator+=(const Figures& other) {
-    for (const QuantityFacts& facts : quantities)
-        if (facts.member) this->*facts.member += other.*facts.member;
+    forEachOfDay([&](const QuantityFacts& /*facts*/, auto member) { this->*member += other.*member; });
     difference += other.difference;
     return *this;
 }
 
 Moment startOfDay(const clsWorkTime& rules, Day date, QChar type) {
-    return date + std::chrono::seconds(std::max(rules.borderOf(dayTypeOf(type)), 0));
+    return date + std::max(rules.borderOf(dayTypeOf(type)), Seconds{});
 }
 
 std::optional<Moment> carryInto(const clsWorkTime& rules, const DayFacts& first, std::optional<Moment> leave) {
@@ -279,8 +277,9 @@ void roundSums(const clsWorkTime& rules, Figures& sum) {
         minutes = RoundMinutes(minutes, rules.plngRoundHour, rules.plngRoundUnit());
     };
     round(sum.difference);
-    for (const QuantityFacts& facts : quantities)
-        if (facts.unit == Unit::Time) round(sum.*facts.member);
+    forEachOfDay([&](const QuantityFacts& /*facts*/, auto member) {
+        if constexpr (std::is_same_v<decltype(member), Minutes Figures::*>) round(sum.*member);
+    });
 }
 
 } // namespace kurbo

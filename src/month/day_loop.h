@@ -30,26 +30,26 @@ enum class DayCode { WD, OH, OA, OP, LH, PH, PA, PP, SH, SA, SP, CH, CA, CP };
 // The leaves come first, in their order; only without one the calendar decides.
 [[nodiscard]] DayCode dayCodeOf(const DayFacts& day);
 
-// Every quantity that payroll needs, in minutes, days or counts: of one day, or added up.
+// Every quantity that payroll needs: of one day, or added up.
 struct Figures {
-    Minutes work = 0;
-    Minutes difference = 0; // from the standard time of a flexible day
-    Minutes legalOver = 0;
-    Minutes over = 0;
-    Minutes late = 0;
-    Minutes early = 0;
-    Minutes holiday = 0;
-    Minutes holidayLate = 0;
-    Minutes legalHoliday = 0;
-    Minutes legalLate = 0;
-    Minutes absent = 0;
-    int workDays = 0;
-    int paidHalves = 0; // half days
-    int specialHalves = 0;
-    int compensHalves = 0;
-    int absentDays = 0;
-    int lateEnters = 0;
-    int earlyLeaves = 0;
+    Minutes work{};
+    Minutes difference{}; // from the standard time of a flexible day
+    Minutes legalOver{};
+    Minutes over{};
+    Minutes late{};
+    Minutes early{};
+    Minutes holiday{};
+    Minutes holidayLate{};
+    Minutes legalHoliday{};
+    Minutes legalLate{};
+    Minutes absent{};
+    Count workDays;
+    HalfDays paid;
+    HalfDays special;
+    HalfDays compens;
+    Count absentDays;
+    Count lateEnters;
+    Count earlyLeaves;
 
     Figures& operator+=(const Figures& other);
     friend bool operator==(const Figures&, const Figures&) = default;

@@ -40,8 +40,12 @@ QString daysText(double days) {
     return QString::number(days, 'f', 1);
 }
 
+QString daysText(DayHundredths days) {
+    return daysText(days.count() / 100.0);
+}
+
 SumForm sumForm(const QuantityFacts& facts, int countUnit) {
-    return facts.unit == Unit::Time && countUnit != 0 ? SumForm::Hours : SumForm::Number;
+    return facts.unit() == Unit::Time && countUnit != 0 ? SumForm::Hours : SumForm::Number;
 }
 
 bool isSum(SumForm form, const QString& text) {

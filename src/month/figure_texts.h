@@ -14,6 +14,7 @@ namespace kurbo {
 
 // Days as text with one place, "18.5".
 [[nodiscard]] QString daysText(double days);
+[[nodiscard]] QString daysText(DayHundredths days);
 
 // How a figure of a month is typed. Hours are numbers where the company counts them so (plngCountUnit 0).
 enum class SumForm { Number, Hours };

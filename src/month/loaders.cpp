@@ -63,7 +63,7 @@ void readRounding(const Row& row, clsWorkTime& rules) {
     } else if (rules.plngRoundMethod == 1) {
         rules.plngRoundHour = row.number(QStringLiteral("F_RoundHour"));
     }
-    rules.plngRoundUnit(row.number(QStringLiteral("F_RoundUnit")));
+    rules.plngRoundUnit(Minutes(row.number(QStringLiteral("F_RoundUnit"))));
     rules.plngCountUnit = row.number(QStringLiteral("F_CountUnit"));
     // Rounding by the month always shows hours and minutes.
     if (rules.plngRoundMethod == 1) rules.plngCountUnit = 1;
@@ -229,8 +229,8 @@ void readStaffInfo(Connection& connection, clsWorkTime& rules, const QString& st
                                               "FROM M02_StaffInfo WHERE (F_StaffCode = ?);"),
                                {staff});
     require(row.next());
-    rules.plngEnterDelay = static_cast<int>(row.integer(EnterDelay));
-    rules.plngLeaveGain = static_cast<int>(row.integer(LeaveGain));
+    rules.plngEnterDelay = Seconds(row.integer(EnterDelay));
+    rules.plngLeaveGain = Seconds(row.integer(LeaveGain));
     require(!row.isNull(CloseDay));
     rules.plngCloseDay(static_cast<int>(row.integer(CloseDay)));
     require(!row.isNull(PaidTotal));

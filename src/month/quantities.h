@@ -6,6 +6,8 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <utility>
+#include <variant>
 
 namespace kurbo {
 
@@ -32,14 +34,15 @@ enum class Quantity {
 };
 
 // Counted one by one, in minutes, or in days and their halves.
-enum class Unit { Count, Time, Days };
+enum class Unit { Number, Time, Days };
+
+// What a day adds to a quantity; nothing to the balance of paid leave. Its kind is the quantity's unit.
+using FigureMember = std::variant<std::monostate, Count Figures::*, Minutes Figures::*, HalfDays Figures::*>;
 
 // All that is known of a quantity: columns, statements, limits, CSV files and reports are made from it.
 struct QuantityFacts {
     Quantity id;
-    Unit unit;
-    // What a day adds to it, leave in half days. None for the balance of paid leave.
-    std::int32_t Figures::*member = nullptr;
+    FigureMember member = {};
     // Of the company; shown without a switch on every month, and with one also on the days of a card.
     bool clsWorkTime::*shown = nullptr;
     // A person may have a limit for the month.
@@ -52,11 +55,15 @@ struct QuantityFacts {
     const char16_t* shortHeading;
     const char16_t* tip = u"";
     int shortWidth = 700; // twips
+
+    [[nodiscard]] constexpr Unit unit() const {
+        if (std::holds_alternative<Count Figures::*>(member)) return Unit::Number;
+        return std::holds_alternative<Minutes Figures::*>(member) ? Unit::Time : Unit::Days;
+    }
 };
 
 inline constexpr std::array quantities{
     QuantityFacts{.id = Quantity::WorkDays,
-                  .unit = Unit::Count,
                   .member = &Figures::workDays,
                   .field = u"F_WorkDay",
                   .heading = u"出勤日数",
@@ -65,7 +72,6 @@ inline constexpr std::array quantities{
                   .tip = u"出勤日数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::Work,
-                  .unit = Unit::Time,
                   .member = &Figures::work,
                   .field = u"F_Work",
                   .heading = u"実働時間",
@@ -74,7 +80,6 @@ inline constexpr std::array quantities{
                   .tip = u"実働時間",
                   .shortWidth = 800},
     QuantityFacts{.id = Quantity::PaidTotal,
-                  .unit = Unit::Days,
                   .field = u"F_PaidTotal",
                   .heading = u"有給残数",
                   .printWidth = 739,
@@ -82,7 +87,6 @@ inline constexpr std::array quantities{
                   .tip = u"有給休暇残数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::LegalOver,
-                  .unit = Unit::Time,
                   .member = &Figures::legalOver,
                   .shown = &clsWorkTime::pbleEnableLegalOver,
                   .limited = true,
@@ -91,7 +95,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"法残",
                   .tip = u"法定内残業時間"},
     QuantityFacts{.id = Quantity::Over,
-                  .unit = Unit::Time,
                   .member = &Figures::over,
                   .shown = &clsWorkTime::pbleEnableOver,
                   .limited = true,
@@ -100,7 +103,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"残業",
                   .tip = u"普通残業時間"},
     QuantityFacts{.id = Quantity::Late,
-                  .unit = Unit::Time,
                   .member = &Figures::late,
                   .shown = &clsWorkTime::pbleEnableLate,
                   .limited = true,
@@ -109,7 +111,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"深夜",
                   .tip = u"深夜残業時間"},
     QuantityFacts{.id = Quantity::Early,
-                  .unit = Unit::Time,
                   .member = &Figures::early,
                   .shown = &clsWorkTime::pbleEnableEarly,
                   .limited = true,
@@ -118,7 +119,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"早出",
                   .tip = u"早出勤務時間"},
     QuantityFacts{.id = Quantity::Holiday,
-                  .unit = Unit::Time,
                   .member = &Figures::holiday,
                   .shown = &clsWorkTime::pbleEnableHoliday,
                   .limited = true,
@@ -127,7 +127,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"休日",
                   .tip = u"休日出勤時間"},
     QuantityFacts{.id = Quantity::HolidayLate,
-                  .unit = Unit::Time,
                   .member = &Figures::holidayLate,
                   .shown = &clsWorkTime::pbleEnableHolidayLate,
                   .limited = true,
@@ -136,7 +135,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"休夜",
                   .tip = u"休日深夜時間"},
     QuantityFacts{.id = Quantity::LegalHoliday,
-                  .unit = Unit::Time,
                   .member = &Figures::legalHoliday,
                   .shown = &clsWorkTime::pbleEnableLegalHoliday,
                   .limited = true,
@@ -145,7 +143,6 @@ inline constexpr std::array quantities{
                   .shortHeading = u"法休",
                   .tip = u"法定休日出勤時間"},
     QuantityFacts{.id = Quantity::LegalLate,
-                  .unit = Unit::Time,
                   .member = &Figures::legalLate,
                   .shown = &clsWorkTime::pbleEnableLegalLate,
                   .limited = true,
@@ -154,15 +151,13 @@ inline constexpr std::array quantities{
                   .shortHeading = u"法夜",
                   .tip = u"法定休日深夜時間"},
     QuantityFacts{.id = Quantity::Absent,
-                  .unit = Unit::Time,
                   .member = &Figures::absent,
                   .shown = &clsWorkTime::pbleEnableAbsent,
                   .field = u"F_Absent",
                   .heading = u"欠勤時間",
                   .shortHeading = u"欠勤"},
     QuantityFacts{.id = Quantity::Paid,
-                  .unit = Unit::Days,
-                  .member = &Figures::paidHalves,
+                  .member = &Figures::paid,
                   .shown = &clsWorkTime::pbleEnablePaid,
                   .field = u"F_Paid",
                   .heading = u"有給",
@@ -170,8 +165,7 @@ inline constexpr std::array quantities{
                   .tip = u"有給休暇取得日数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::Special,
-                  .unit = Unit::Days,
-                  .member = &Figures::specialHalves,
+                  .member = &Figures::special,
                   .shown = &clsWorkTime::pbleEnableSpecial,
                   .field = u"F_Special",
                   .heading = u"特休",
@@ -179,8 +173,7 @@ inline constexpr std::array quantities{
                   .tip = u"特別休暇取得日数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::Compens,
-                  .unit = Unit::Days,
-                  .member = &Figures::compensHalves,
+                  .member = &Figures::compens,
                   .shown = &clsWorkTime::pbleEnableCompens,
                   .field = u"F_Compens",
                   .heading = u"代休",
@@ -188,7 +181,6 @@ inline constexpr std::array quantities{
                   .tip = u"代休取得日数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::AbsentDays,
-                  .unit = Unit::Count,
                   .member = &Figures::absentDays,
                   .shown = &clsWorkTime::pbleEnableAbsentDay,
                   .field = u"F_AbsentDay",
@@ -197,7 +189,6 @@ inline constexpr std::array quantities{
                   .tip = u"欠勤回数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::LateEnters,
-                  .unit = Unit::Count,
                   .member = &Figures::lateEnters,
                   .shown = &clsWorkTime::pbleEnableLateEnter,
                   .field = u"F_LateEnter",
@@ -206,7 +197,6 @@ inline constexpr std::array quantities{
                   .tip = u"遅刻回数",
                   .shortWidth = 600},
     QuantityFacts{.id = Quantity::EarlyLeaves,
-                  .unit = Unit::Count,
                   .member = &Figures::earlyLeaves,
                   .shown = &clsWorkTime::pbleEnableEarlyLeave,
                   .field = u"F_EarlyLeave",
@@ -216,6 +206,18 @@ inline constexpr std::array quantities{
                   .shortWidth = 600},
 };
 inline constexpr std::size_t quantityCount = quantities.size();
+
+// Calls visit(facts, member) for each quantity that a day adds to, the member being one of Figures.
+template <typename Visit> constexpr void forEachOfDay(Visit visit) {
+    const auto each = [&visit]<std::size_t... Place>(std::index_sequence<Place...>) {
+        const auto one = [&visit]<std::size_t At>() {
+            constexpr const QuantityFacts& facts = quantities[At];
+            if constexpr (facts.member.index() != 0) visit(facts, std::get<facts.member.index()>(facts.member));
+        };
+        (one.template operator()<Place>(), ...);
+    };
+    each(std::make_index_sequence<quantityCount>());
+}
 
 constexpr std::size_t placeOf(Quantity id) {
     return static_cast<std::size_t>(id);

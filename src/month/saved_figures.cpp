@@ -8,10 +8,10 @@ namespace kurbo {
 
 Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
     if (cell.isEmpty()) return {};
-    if (facts.unit == Unit::Time) return ParseHours(cell, unit);
+    if (facts.unit() == Unit::Time) return ParseHours(cell, unit).count();
     const auto number = numberOf(cell);
     if (!number) throw storeFault(StoreError::BadValue);
-    if (facts.unit == Unit::Count) return wholeOf<std::int16_t>(*number);
+    if (facts.unit() == Unit::Number) return wholeOf<std::int16_t>(*number);
     return static_cast<double>(singleOf(*number));
 }
 

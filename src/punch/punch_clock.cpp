@@ -113,8 +113,8 @@ struct Press {
 
 Moment punchTime(const Context& context, const Session& session, Punch kind) {
     const Moment now = context.clock.now();
-    if (kind == Punch::Enter) return now - std::chrono::seconds(session.EnterDelay);
-    if (kind == Punch::Leave) return now + std::chrono::seconds(session.LeaveGain);
+    if (kind == Punch::Enter) return now - session.EnterDelay;
+    if (kind == Punch::Leave) return now + session.LeaveGain;
     return now;
 }
 

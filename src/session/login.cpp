@@ -27,14 +27,14 @@ bool IsPasswordOK(const Context& context, Connection& connection, const QString&
     });
 }
 
-bool GetTimeDiff(const Context& context, Connection& connection, const QString& staff, int& EnterDelay,
-                 int& LeaveGain) {
+bool GetTimeDiff(const Context& context, Connection& connection, const QString& staff, Seconds& EnterDelay,
+                 Seconds& LeaveGain) {
     return guarded(context, u"frmLogin", u"GetTimeDiff", false, [&] {
         Rows rows = connection.rows(
             QStringLiteral("SELECT F_EnterDelay, F_LeaveGain FROM M02_StaffInfo WHERE (F_StaffCode = ?);"), {staff});
         const bool found = rows.next();
-        EnterDelay = found ? static_cast<int>(rows.integer(0)) : 0;
-        LeaveGain = found ? static_cast<int>(rows.integer(1)) : 0;
+        EnterDelay = Seconds(found ? rows.integer(0) : 0);
+        LeaveGain = Seconds(found ? rows.integer(1) : 0);
         return true;
     });
 }
@@ -72,7 +72,7 @@ LoginResult Login::wrongPassword() {
 }
 
 LoginResult Login::admit(const Listed& person) {
-    Session session{person.section, person.staff.code, {}, 0, 0};
+    Session session{person.section, person.staff.code, {}, {}, {}};
     Connection& connection = client_.HomeConnection;
     if (!GetAccess(client_.context, connection, session.SessionStaff, mySection(), session.access) ||
         !GetTimeDiff(client_.context, connection, session.SessionStaff, session.EnterDelay, session.LeaveGain))

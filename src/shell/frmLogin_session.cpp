@@ -155,7 +155,7 @@ bool frmLogin::isLoggedIn() const {
 void frmLogin::ShowTimeRecorder() {
     const Session& session = client_.session;
     const AccessRights& access = session.access;
-    ui_->lblTimeDiff->setVisible(session.EnterDelay != 0 || session.LeaveGain != 0);
+    ui_->lblTimeDiff->setVisible(session.EnterDelay != Seconds{} || session.LeaveGain != Seconds{});
     ui_->lblPrompt->setText(QStringLiteral("ｱﾌﾟﾘｹｰｼｮﾝ終了時はﾛｸﾞｵﾌﾎﾞﾀﾝをｸﾘｯｸして下さい。"));
     for (QWidget* button : {ui_->cmdEnter, ui_->cmdOut, ui_->cmdIn, ui_->cmdLeave}) button->setEnabled(access.CanPunch);
     ui_->cmdKurbo->setEnabled(access.has(Right::ReadMyKurbo));

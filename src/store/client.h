@@ -13,8 +13,8 @@ struct Session {
     QString SessionSection;
     QString SessionStaff;
     AccessRights access;
-    int EnterDelay = 0;
-    int LeaveGain = 0;
+    Seconds EnterDelay{};
+    Seconds LeaveGain{};
 };
 
 // What the whole running client shares.

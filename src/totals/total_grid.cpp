@@ -26,7 +26,7 @@ int widthOf(TotalColumn column) {
         break;
     }
     const QuantityFacts* const facts = quantityAt(column);
-    return facts && facts->shown && facts->unit != Unit::Time ? 600 : 900;
+    return facts && facts->shown && facts->unit() != Unit::Time ? 600 : 900;
 }
 
 // A column is as wide as its sums ask for: nothing in it is longer, but for headings and names.

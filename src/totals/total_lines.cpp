@@ -23,10 +23,10 @@ struct Sum {
 
     void add(const TotalRow& row) {
         for (std::size_t i = 0; i < quantityCount; ++i) {
-            figures[i] += row.figures[i].value_or(0);
-            empty = empty && !row.figures[i];
+            figures[i] += countOf(row.figures[i]);
+            empty = empty && !isKnown(row.figures[i]);
         }
-        if (row.difference) difference = difference.value_or(0) + *row.difference;
+        if (row.difference) difference = difference.value_or(0) + row.difference->count();
     }
 };
 
@@ -72,8 +72,8 @@ class LineWriter final {
         cells[at(TotalColumn::First)] = caption;
         cells[at(TotalColumn::Second)] = totals_.byStaff ? monthText(row.month) : nameOf(row);
         for (const QuantityFacts& facts : quantities)
-            if (const auto& figure = row.figures[placeOf(facts.id)])
-                cells[at(totalColumnOf(facts.id))] = figureText(facts.unit, *figure);
+            if (const MonthFigure& figure = row.figures[placeOf(facts.id)]; isKnown(figure))
+                cells[at(totalColumnOf(facts.id))] = figureText(facts.unit(), countOf(figure));
         if (row.saved) {
             cells[at(TotalColumn::Personal)] = approval(row.personalApproval);
             cells[at(TotalColumn::Superior)] = approval(row.superiorApproval);
@@ -81,7 +81,7 @@ class LineWriter final {
         cells[at(TotalColumn::Term)] = row.term;
         cells[at(TotalColumn::Order)] = row.key;
         cells[at(TotalColumn::Staff)] = row.staff;
-        if (row.difference) cells[at(TotalColumn::Difference)] = hours(*row.difference, true);
+        if (row.difference) cells[at(TotalColumn::Difference)] = hours(row.difference->count(), true);
         return line;
     }
 
@@ -91,7 +91,7 @@ class LineWriter final {
         cells[at(TotalColumn::First)] = caption;
         if (sum.empty) return line;
         for (const QuantityFacts& facts : quantities)
-            cells[at(totalColumnOf(facts.id))] = figureText(facts.unit, sum.figures[placeOf(facts.id)]);
+            cells[at(totalColumnOf(facts.id))] = figureText(facts.unit(), sum.figures[placeOf(facts.id)]);
         if (sum.difference) cells[at(TotalColumn::Work)] += u'(' + hours(*sum.difference, true) + u')';
         return line;
     }
@@ -112,7 +112,7 @@ class LineWriter final {
     static QString approval(bool given) { return given ? QStringLiteral("-1") : QStringLiteral("0"); }
 
     [[nodiscard]] QString hours(std::int64_t minutes, bool withSign) const {
-        return FormatHours(static_cast<Minutes>(minutes), totals_.countUnit, withSign);
+        return FormatHours(Minutes(minutes), totals_.countUnit, withSign);
     }
 
     // The sums of a person's month, which many people share.
@@ -125,7 +125,7 @@ class LineWriter final {
 
     [[nodiscard]] QString figureText(Unit unit, std::int64_t value) {
         switch (unit) {
-        case Unit::Count:
+        case Unit::Number:
             return value == 0 ? QStringLiteral("0") : QString::number(value);
         case Unit::Days:
             return halfDays(value);

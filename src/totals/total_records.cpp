@@ -1,6 +1,6 @@
 #include "totals/total_records.h"
 
-#include <cmath>
+#include <cstdlib>
 
 namespace kurbo {
 namespace {
@@ -11,17 +11,10 @@ QString monthId(std::chrono::year_month month) {
                            static_cast<int>(static_cast<unsigned>(month.month())));
 }
 
-std::optional<std::int32_t> savedFigure(const Rows& rows, const QuantityFacts& facts) {
-    const int column = static_cast<int>(placeOf(facts.id));
-    if (rows.isNull(column)) return {};
-    if (facts.unit == Unit::Days) return hundredths(rows.real(column));
-    return static_cast<std::int32_t>(rows.integer(column));
-}
-
 TotalRow savedMonth(const Rows& rows, bool byStaff) {
     constexpr int behind = quantityCount;
     TotalRow row;
-    for (const QuantityFacts& facts : quantities) row.figures[placeOf(facts.id)] = savedFigure(rows, facts);
+    row.figures = readMonthFigures(rows);
     row.personalApproval = rows.yes(behind);
     row.superiorApproval = rows.yes(behind + 1);
     row.term = rows.text(behind + 2);
@@ -72,10 +65,6 @@ QString totalKey(const QString& order, std::chrono::year_month month, bool bySta
 QStringView orderIn(const QString& key) {
     constexpr int monthDigits = 6;
     return QStringView(key).chopped(monthDigits);
-}
-
-std::int32_t hundredths(double days) {
-    return static_cast<std::int32_t>(std::lround(days * 100));
 }
 
 } // namespace kurbo

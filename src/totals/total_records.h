@@ -14,7 +14,5 @@ namespace kurbo {
 [[nodiscard]] QString totalKey(const QString& order, std::chrono::year_month month, bool byStaff);
 // The place in such a text, which begins with it; it is a part of `key`.
 [[nodiscard]] QStringView orderIn(const QString& key);
-// Days as the figures hold them.
-[[nodiscard]] std::int32_t hundredths(double days);
 
 } // namespace kurbo

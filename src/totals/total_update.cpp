@@ -57,7 +57,7 @@ void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const
     const double taken = leaveTaken(months);
     for (const QuantityFacts& facts : quantities) {
         const QString cell = cellOf(sheet, row, static_cast<int>(totalColumnOf(facts.id)));
-        const QString figure = facts.unit == Unit::Time ? withoutMark(cell) : cell;
+        const QString figure = facts.unit() == Unit::Time ? withoutMark(cell) : cell;
         months.set(QString::fromUtf16(facts.field), figureOf(facts, figure, sheet.plngCountUnit));
     }
     for (const QString& mark : {QStringLiteral("F_PersonalApproval"), QStringLiteral("F_SuperiorApproval")})

@@ -192,11 +192,7 @@ class Calculation final {
     }
 
     static void setFigures(TotalRow& row, const Figures& sum, const clsWorkTime& rules) {
-        constexpr std::int32_t half = 50;
-        for (const QuantityFacts& facts : quantities)
-            row.figures[placeOf(facts.id)] =
-                !facts.member ? hundredths(static_cast<double>(rules.psngPaidTotal)) - sum.paidHalves * half
-                              : sum.*facts.member * (facts.unit == Unit::Days ? half : 1);
+        row.figures = monthFigures(sum, hundredths(static_cast<double>(rules.psngPaidTotal)));
         if (rules.pbleFlexTime) row.difference = sum.difference;
     }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/guard.h"
-#include "month/quantities.h"
+#include "month/month_figures.h"
 #include "store/connection.h"
 
 #include <QString>
@@ -50,10 +50,9 @@ struct TotalRow {
     QString section; // that the record names; of a calculated month the person's own
     std::chrono::year_month month;
     QString term; // the period, "yyyy/mm/dd-yyyy/mm/dd"
-    // In the places of their quantities: counts, minutes, and hundredths of days.
-    std::array<std::optional<std::int32_t>, quantityCount> figures;
-    // From the standard time, in minutes: of a calculated month in flexible work.
-    std::optional<std::int32_t> difference;
+    FigureList figures;
+    // From the standard time: of a calculated month in flexible work.
+    std::optional<Minutes> difference;
     bool saved = false;
     bool personalApproval = false;
     bool superiorApproval = false;

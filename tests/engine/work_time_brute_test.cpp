@@ -46,7 +46,7 @@ class Brute : public ::testing::Test {
             for (const auto& [start, end] : bands)
                 if (minute >= start && minute < end) ++seconds;
         }
-        return seconds / 60;
+        return Minutes(seconds / 60);
     }
 
     std::mt19937 random{20260415};
@@ -88,9 +88,9 @@ TEST_F(Brute, ASplitStayAddsUp) {
         const Moment cut = enter + std::chrono::seconds(dice(0, length));
         const Minutes whole = work(enter, leave);
         const Minutes parts = work(enter, cut) + work(cut, leave);
-        EXPECT_LE(whole, length / 60) << "work never exceeds the stay";
+        EXPECT_LE(whole, Minutes(length / 60)) << "work never exceeds the stay";
         EXPECT_LE(parts, whole);
-        EXPECT_GE(parts, whole - 1);
+        EXPECT_GE(parts, whole - 1min);
     }
 }
 
@@ -101,7 +101,7 @@ TEST_F(Brute, RoundingComesBeforeTheBands) {
         set(rules, DayType::Weekday, BandKind::Work, randomBands());
         rules.plngRoundEnter = dice(0, 2);
         rules.plngRoundLeave = dice(0, 2);
-        rules.plngRoundUnit(dice(1, 60));
+        rules.plngRoundUnit(Minutes(dice(1, 60)));
         clsWorkTime raw = rules;
         raw.plngRoundMethod = 1;
         const Moment enter = at(*makeDay(2026, 4, 15), 0, 0) + std::chrono::seconds(dice(0, 86399));

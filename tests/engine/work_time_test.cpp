@@ -68,7 +68,7 @@ struct Rule {
     const char16_t* leave;
     int nextDayType;
     Result asked;
-    Minutes expected;
+    int expected;
 };
 
 } // namespace
@@ -122,7 +122,7 @@ TEST(WorkTimeRules, StandAsInTheBook) {
              Rule{u"PmHolidayWork 09:00-12:00", u"10:00", u"12:00", 0, &clsWorkTime::PmAbsentHour, 60},
          })
         EXPECT_EQ(asked(stay(QString::fromUtf16(bands), QString::fromUtf16(enter), QString::fromUtf16(leave), next)),
-                  expected)
+                  Minutes(expected))
             << QString::fromUtf16(bands) << " " << QString::fromUtf16(enter) << " " << QString::fromUtf16(leave);
 }
 
@@ -132,20 +132,20 @@ TEST(WorkTime, FlexibleDaysCountCoreAndFlexibleBands) {
                                 "PmHolidayCore 10:00-12:00; PmHolidayFlex 08:00-10:00"_q);
     const auto am = [&] { return stay(rules, u"12:00"_q, u"18:00"_q).AmWorkTime(); };
     rules.pbleAmFlexTime = true;
-    EXPECT_EQ(am(), 60) << "the weekday's switch decides";
-    EXPECT_EQ(stay(rules, u"14:00"_q, u"18:00"_q).AmAbsentHour(), 60) << "its own switch decides here";
+    EXPECT_EQ(am(), 60min) << "the weekday's switch decides";
+    EXPECT_EQ(stay(rules, u"14:00"_q, u"18:00"_q).AmAbsentHour(), 60min) << "its own switch decides here";
     rules.pbleFlexTime = true;
-    EXPECT_EQ(am(), 300);
-    EXPECT_EQ(stay(rules, u"09:00"_q, u"18:00"_q).WorkTime(), 540);
-    EXPECT_EQ(stay(rules, u"11:00"_q, u"14:00"_q).AbsentHour(), 120) << "only core time can be missed";
+    EXPECT_EQ(am(), 300min);
+    EXPECT_EQ(stay(rules, u"09:00"_q, u"18:00"_q).WorkTime(), 540min);
+    EXPECT_EQ(stay(rules, u"11:00"_q, u"14:00"_q).AbsentHour(), 120min) << "only core time can be missed";
     rules.pblePmFlexTime = true;
-    EXPECT_EQ(stay(rules, u"09:00"_q, u"13:00"_q).PmWorkTime(), 180);
-    EXPECT_EQ(stay(rules, u"09:00"_q, u"11:00"_q).PmAbsentHour(), 60);
+    EXPECT_EQ(stay(rules, u"09:00"_q, u"13:00"_q).PmWorkTime(), 180min);
+    EXPECT_EQ(stay(rules, u"09:00"_q, u"11:00"_q).PmAbsentHour(), 60min);
 }
 
 TEST(WorkTime, PunchesAreRoundedFromTheTopOfTheHour) {
     const auto rounded = [](const QString& text, int direction, int unit) {
-        return RoundPunch(time(text), direction, unit);
+        return RoundPunch(time(text), direction, Minutes(unit));
     };
     EXPECT_EQ(rounded(u"10:59"_q, 0, 7), time(u"10:56"_q));
     EXPECT_EQ(rounded(u"11:03"_q, 0, 7), time(u"11:00"_q));
@@ -158,9 +158,9 @@ TEST(WorkTime, PunchesAreRoundedFromTheTopOfTheHour) {
 
     clsWorkTime rules = rulesOf(u"Work 00:00-02:00 09:00-12:00"_q);
     rules.plngRoundMethod = 0;
-    EXPECT_EQ(stay(rules, u"09:01"_q, u"11:59"_q).WorkTime(), 120) << "enter up, leave down";
-    EXPECT_EQ(stay(rules, u"23:50"_q, u"+01:00"_q).WorkTime(), 60) << "on the date that it was rounded to";
-    EXPECT_EQ(stay(rules, u"10:01"_q, u"10:29"_q).WorkTime(), 0) << "turned round, it overlaps nothing";
+    EXPECT_EQ(stay(rules, u"09:01"_q, u"11:59"_q).WorkTime(), 120min) << "enter up, leave down";
+    EXPECT_EQ(stay(rules, u"23:50"_q, u"+01:00"_q).WorkTime(), 60min) << "on the date that it was rounded to";
+    EXPECT_EQ(stay(rules, u"10:01"_q, u"10:29"_q).WorkTime(), 0min) << "turned round, it overlaps nothing";
 }
 
 TEST(WorkTime, LatenessIsMeasuredOnTheRawTimes) {
@@ -169,16 +169,18 @@ TEST(WorkTime, LatenessIsMeasuredOnTheRawTimes) {
     rules.plngRoundMethod = 0;
     rules.plngRoundEnter = 0;
     const clsWorkTime late = stay(rules, u"09:00:01"_q, u"17:59:59"_q);
-    EXPECT_EQ(late.LateEnter(), 1);
-    EXPECT_EQ(late.EarlyLeave(), 1);
-    EXPECT_EQ(late.AbsentHour(), 30) << "rounding changes absence, not the record of lateness";
+    EXPECT_EQ(late.LateEnter(), Count(1));
+    EXPECT_EQ(late.EarlyLeave(), Count(1));
+    EXPECT_EQ(late.AbsentHour(), 30min) << "rounding changes absence, not the record of lateness";
     const clsWorkTime punctual = stay(rules, u"09:00"_q, u"18:00"_q);
-    EXPECT_EQ(punctual.LateEnter() + punctual.EarlyLeave(), 0);
-    EXPECT_EQ(stay(rules, u"13:01"_q, u"18:00"_q).AmLateEnter(), 1);
-    EXPECT_EQ(stay(rules, u"09:00"_q, u"11:59"_q).PmEarlyLeave(), 1);
-    EXPECT_EQ(stay(rules, u"13:01"_q, u"+07:00"_q).EarlyLeave(), 0) << "the enter's date counts";
-    EXPECT_EQ(stay(u"Work 15:00-00:00"_q, u"15:00"_q, u"16:00"_q).EarlyLeave(), 0) << "no leave is before midnight";
-    EXPECT_EQ(stay(u""_q, u"15:00"_q, u"16:00"_q).LateEnter() + stay(u""_q, u"15:00"_q, u"16:00"_q).EarlyLeave(), 0);
+    EXPECT_EQ(punctual.LateEnter() + punctual.EarlyLeave(), Count(0));
+    EXPECT_EQ(stay(rules, u"13:01"_q, u"18:00"_q).AmLateEnter(), Count(1));
+    EXPECT_EQ(stay(rules, u"09:00"_q, u"11:59"_q).PmEarlyLeave(), Count(1));
+    EXPECT_EQ(stay(rules, u"13:01"_q, u"+07:00"_q).EarlyLeave(), Count(0)) << "the enter's date counts";
+    EXPECT_EQ(stay(u"Work 15:00-00:00"_q, u"15:00"_q, u"16:00"_q).EarlyLeave(), Count(0))
+        << "no leave is before midnight";
+    EXPECT_EQ(stay(u""_q, u"15:00"_q, u"16:00"_q).LateEnter() + stay(u""_q, u"15:00"_q, u"16:00"_q).EarlyLeave(),
+              Count(0));
 }
 
 TEST(WorkTime, TheBorderFollowsTheNextDay) {
@@ -187,7 +189,7 @@ TEST(WorkTime, TheBorderFollowsTheNextDay) {
                 "AmHolidayFlex 12:00-13:00; PmHolidayWork 09:30-12:00; PmHolidayFlex 06:30-09:00"_q);
     const auto border = [&rules](int type) {
         rules.plngNextDayType(type);
-        return rules.borderTime() / 60;
+        return rules.borderTime() / 1min;
     };
     EXPECT_EQ(border(0), 9 * 60);
     EXPECT_EQ(border(1), 8 * 60);
@@ -219,21 +221,21 @@ TEST(WorkTime, SettersRefuseWithTheirTexts) {
                       u"休日早出終了時刻が休日早出開始時刻より前に設定されています。"_q),
               badOrder);
     rules.setBand(u"pstrEndHolidayEarly"_q, 0, u"00:00"_q);
-    EXPECT_EQ(rules.bands(DayType::Weekday, BandKind::Work).at(0).end, 12 * 3600) << "the old value stays";
+    EXPECT_EQ(rules.bands(DayType::Weekday, BandKind::Work).at(0).end, 12h) << "the old value stays";
 
     EXPECT_EQ(failure([&] { rules.pstrAmStandardTime(u"8:00"); },
                       u"午前休日時の標準労働時間に時間以外の値が設定されています。"_q),
               noTime);
-    EXPECT_EQ(rules.plngAmStandardTime(), 240);
+    EXPECT_EQ(rules.plngAmStandardTime(), 240min);
     rules.pstrStandardTime(u"07:45");
-    EXPECT_EQ(rules.plngStandardTime(), 465);
-    EXPECT_EQ(failure([&] { rules.plngRoundUnit(0); }, u"端数処理単位が設定されていません。"_q), noUnit);
+    EXPECT_EQ(rules.plngStandardTime(), 465min);
+    EXPECT_EQ(failure([&] { rules.plngRoundUnit(0min); }, u"端数処理単位が設定されていません。"_q), noUnit);
     for (const int closeDay : {28, 29, 30, 0, 32})
         EXPECT_EQ(failure([&] { rules.plngCloseDay(closeDay); }, u"タイムカード締日に不正な日付が設定されています。"_q),
                   noTime);
     rules.plngCloseDay(27);
     EXPECT_EQ(rules.plngCloseDay(), 27);
-    EXPECT_EQ(rules.plngRoundUnit(), 30);
+    EXPECT_EQ(rules.plngRoundUnit(), 30min);
 
     EXPECT_EQ(failure([&] { rules.pdtmEnter({}); }, u"出社時刻に時間以外の値が設定されています。"_q), noTime);
     rules.pdtmEnter(time(u"10:00"_q));

@@ -97,139 +97,141 @@ TEST_F(DayLoop, CodesOfDays) {
 
 TEST_F(DayLoop, AWorkingDay) {
     const Figures day = first(u"- 08:00 23:00, - - -"_q);
-    EXPECT_EQ(day.work, 450);
-    EXPECT_EQ(day.workDays, 1);
-    EXPECT_EQ(day.early, 60);
-    EXPECT_EQ(day.legalOver, 30);
-    EXPECT_EQ(day.over, 240);
-    EXPECT_EQ(day.late, 60);
-    EXPECT_EQ(day.absent + day.absentDays + day.lateEnters + day.earlyLeaves, 0);
+    EXPECT_EQ(day.work, 450min);
+    EXPECT_EQ(day.workDays, Count(1));
+    EXPECT_EQ(day.early, 60min);
+    EXPECT_EQ(day.legalOver, 30min);
+    EXPECT_EQ(day.over, 240min);
+    EXPECT_EQ(day.late, 60min);
+    EXPECT_EQ(day.absent, 0min);
+    EXPECT_EQ(day.absentDays + day.lateEnters + day.earlyLeaves, Count(0));
     const Figures late = first(u"- 09:30 17:00"_q);
-    EXPECT_EQ(late.absent, 60);
-    EXPECT_EQ(late.lateEnters, 1);
-    EXPECT_EQ(late.earlyLeaves, 1);
+    EXPECT_EQ(late.absent, 60min);
+    EXPECT_EQ(late.lateEnters, Count(1));
+    EXPECT_EQ(late.earlyLeaves, Count(1));
     const Figures outside = first(u"- 18:00 20:00"_q);
-    EXPECT_EQ(outside.absentDays, 1) << "punches outside every band are an absence";
-    EXPECT_EQ(outside.workDays + outside.lateEnters, 0);
-    EXPECT_EQ(outside.over, 120);
-    EXPECT_EQ(outside.absent, 450);
+    EXPECT_EQ(outside.absentDays, Count(1)) << "punches outside every band are an absence";
+    EXPECT_EQ(outside.workDays + outside.lateEnters, Count(0));
+    EXPECT_EQ(outside.over, 120min);
+    EXPECT_EQ(outside.absent, 450min);
 }
 
 TEST_F(DayLoop, SwitchesDecideWhatIsAsked) {
     rules.pbleEnableOver = rules.pbleEnableLate = rules.pbleEnableEarly = rules.pbleEnableLegalOver = false;
     const Figures day = first(u"- 08:00 23:00"_q);
-    EXPECT_EQ(day.over + day.late + day.early + day.legalOver, 0);
-    EXPECT_EQ(day.work, 450);
+    EXPECT_EQ(day.over + day.late + day.early + day.legalOver, 0min);
+    EXPECT_EQ(day.work, 450min);
     rules.pbleEnableHolidayLate = false;
-    EXPECT_EQ(first(u"3 20:00 23:00"_q).legalHoliday, 120);
-    EXPECT_EQ(first(u"3 20:00 23:00"_q).legalLate, 0) << "under the ordinary holiday's switch";
+    EXPECT_EQ(first(u"3 20:00 23:00"_q).legalHoliday, 120min);
+    EXPECT_EQ(first(u"3 20:00 23:00"_q).legalLate, 0min) << "under the ordinary holiday's switch";
     rules.pbleEnableHoliday = false;
     EXPECT_EQ(first(u"3 20:00 23:00"_q), Figures());
 }
 
 TEST_F(DayLoop, Holidays) {
     const Figures ordinary = first(u"0 20:00 23:00"_q);
-    EXPECT_EQ(ordinary.holiday, 120);
-    EXPECT_EQ(ordinary.holidayLate, 60);
-    EXPECT_EQ(ordinary.workDays, 1) << "once, also when both count";
-    EXPECT_EQ(ordinary.work, 0);
+    EXPECT_EQ(ordinary.holiday, 120min);
+    EXPECT_EQ(ordinary.holidayLate, 60min);
+    EXPECT_EQ(ordinary.workDays, Count(1)) << "once, also when both count";
+    EXPECT_EQ(ordinary.work, 0min);
     const Figures legal = first(u"3 20:00 23:00"_q);
-    EXPECT_EQ(legal.legalHoliday, 120);
-    EXPECT_EQ(legal.legalLate, 60);
+    EXPECT_EQ(legal.legalHoliday, 120min);
+    EXPECT_EQ(legal.legalLate, 60min);
     EXPECT_EQ(first(u"0 - -"_q), Figures()) << "no absence on a holiday";
 }
 
 TEST_F(DayLoop, HalfHolidays) {
     const QString am = u"1 10:00 23:00"_q;
-    EXPECT_EQ(first(am).work, 270);
-    EXPECT_EQ(first(am).early, 180) << "counted as early work";
-    EXPECT_EQ(first(am).over, 240);
+    EXPECT_EQ(first(am).work, 270min);
+    EXPECT_EQ(first(am).early, 180min) << "counted as early work";
+    EXPECT_EQ(first(am).over, 240min);
     rules.plngAmHolidayWork = 2;
-    EXPECT_EQ(first(am).holiday, 180);
-    EXPECT_EQ(first(am).early, 0);
+    EXPECT_EQ(first(am).holiday, 180min);
+    EXPECT_EQ(first(am).early, 0min);
     rules.plngAmHolidayWork = 3;
-    EXPECT_EQ(first(am).holiday + first(am).early, 0);
+    EXPECT_EQ(first(am).holiday + first(am).early, 0min);
 
     const QString pm = u"2 08:00 23:00"_q;
-    EXPECT_EQ(first(pm).work, 180);
-    EXPECT_EQ(first(pm).early, 60);
-    EXPECT_EQ(first(pm).legalOver, 60);
-    EXPECT_EQ(first(pm).over, 540);
-    EXPECT_EQ(first(pm).late, 60);
+    EXPECT_EQ(first(pm).work, 180min);
+    EXPECT_EQ(first(pm).early, 60min);
+    EXPECT_EQ(first(pm).legalOver, 60min);
+    EXPECT_EQ(first(pm).over, 540min);
+    EXPECT_EQ(first(pm).late, 60min);
     rules.plngPmHolidayWork = 2;
-    EXPECT_EQ(first(pm).holiday, 540);
-    EXPECT_EQ(first(pm).holidayLate, 60);
-    EXPECT_EQ(first(pm).over + first(pm).late, 0);
+    EXPECT_EQ(first(pm).holiday, 540min);
+    EXPECT_EQ(first(pm).holidayLate, 60min);
+    EXPECT_EQ(first(pm).over + first(pm).late, 0min);
     rules.plngPmHolidayWork = 3;
-    EXPECT_EQ(first(pm).over + first(pm).holiday, 0);
+    EXPECT_EQ(first(pm).over + first(pm).holiday, 0min);
 }
 
 TEST_F(DayLoop, Leaves) {
     const Figures whole = first(u"- 09:00 17:30 0--"_q);
-    EXPECT_EQ(whole.paidHalves, 2);
-    EXPECT_EQ(whole.work + whole.workDays, 0) << "the punches of a whole day's leave are ignored";
+    EXPECT_EQ(whole.paid, HalfDays(2));
+    EXPECT_EQ(whole.workDays, Count(0)) << "the punches of a whole day's leave are ignored";
     const Figures morning = first(u"- 10:00 23:00 -1-"_q);
-    EXPECT_EQ(morning.specialHalves, 1);
-    EXPECT_EQ(morning.work, 270);
-    EXPECT_EQ(morning.early, 0) << "no early work behind a morning's leave";
-    EXPECT_EQ(morning.over, 240);
-    EXPECT_EQ(morning.late, 60);
+    EXPECT_EQ(morning.special, HalfDays(1));
+    EXPECT_EQ(morning.work, 270min);
+    EXPECT_EQ(morning.early, 0min) << "no early work behind a morning's leave";
+    EXPECT_EQ(morning.over, 240min);
+    EXPECT_EQ(morning.late, 60min);
     const Figures afternoon = first(u"- 08:00 23:00 --2"_q);
-    EXPECT_EQ(afternoon.compensHalves, 1);
-    EXPECT_EQ(afternoon.early, 60);
-    EXPECT_EQ(afternoon.legalOver + afternoon.over + afternoon.late, 0) << "no overtime behind an afternoon's leave";
+    EXPECT_EQ(afternoon.compens, HalfDays(1));
+    EXPECT_EQ(afternoon.early, 60min);
+    EXPECT_EQ(afternoon.legalOver + afternoon.over + afternoon.late, 0min) << "no overtime behind an afternoon's leave";
     const Figures two = first(u"- - - 01-"_q);
-    EXPECT_EQ(two.paidHalves, 2);
-    EXPECT_EQ(two.specialHalves, 0) << "the first leave alone counts";
+    EXPECT_EQ(two.paid, HalfDays(2));
+    EXPECT_EQ(two.special, HalfDays(0)) << "the first leave alone counts";
 }
 
 TEST_F(DayLoop, AbsenceIsThePastsOnly) {
-    EXPECT_EQ(first(u"- - -"_q).absent, 450);
-    EXPECT_EQ(first(u"- - -"_q).absentDays, 1);
+    EXPECT_EQ(first(u"- - -"_q).absent, 450min);
+    EXPECT_EQ(first(u"- - -"_q).absentDays, Count(1));
     setBand(u"AmHolidayWork", 0, u"13:00", u"19:00");
     setBand(u"PmHolidayWork", 0, u"08:00", u"12:00");
-    EXPECT_EQ(first(u"1 - -"_q).absent, 270) << "no more than the weekday's business hours";
-    EXPECT_EQ(first(u"- - - 2--"_q).absent, 180);
+    EXPECT_EQ(first(u"1 - -"_q).absent, 270min) << "no more than the weekday's business hours";
+    EXPECT_EQ(first(u"- - - 2--"_q).absent, 180min);
     EXPECT_EQ(first(u"- 09:00 -"_q), Figures()) << "half a stay shows nothing";
     EXPECT_EQ(first(u"- - 17:00"_q), Figures());
     today = monday;
     EXPECT_EQ(first(u"- - -"_q), Figures());
     today = monday + std::chrono::days(1);
-    EXPECT_EQ(first(u"- - -"_q).absentDays, 1);
+    EXPECT_EQ(first(u"- - -"_q).absentDays, Count(1));
     clsWorkTime evening;
     evening.plngRoundMethod = 1;
     evening.setBand(u"pstrStartWork", 0, u"15:00");
     evening.setBand(u"pstrEndWork", 0, u"00:00");
     rules = evening;
-    EXPECT_EQ(first(u"- - -"_q).absent, 540) << "business hours end with the day";
+    EXPECT_EQ(first(u"- - -"_q).absent, 540min) << "business hours end with the day";
 }
 
 TEST_F(DayLoop, AShiftIsCutWhereTheNextDayBegins) {
     const CardFigures days = card(u"- 09:00 +10:00, - - -, - - -"_q);
-    EXPECT_EQ(days.days[0].work, 450);
-    EXPECT_EQ(days.days[0].over, 480) << "the evening, and the morning behind it";
-    EXPECT_EQ(days.days[1].work, 60) << "09:00 to 10:00 on the next row";
-    EXPECT_EQ(days.days[1].absent, 390);
-    EXPECT_EQ(days.days[1].absentDays, 0);
-    EXPECT_EQ(days.days[2].absentDays, 1) << "the carry is used up";
-    EXPECT_EQ(days.sum.work, 510);
+    EXPECT_EQ(days.days[0].work, 450min);
+    EXPECT_EQ(days.days[0].over, 480min) << "the evening, and the morning behind it";
+    EXPECT_EQ(days.days[1].work, 60min) << "09:00 to 10:00 on the next row";
+    EXPECT_EQ(days.days[1].absent, 390min);
+    EXPECT_EQ(days.days[1].absentDays, Count(0));
+    EXPECT_EQ(days.days[2].absentDays, Count(1)) << "the carry is used up";
+    EXPECT_EQ(days.sum.work, 510min);
 
     const CardFigures punched = card(u"- 09:00 +10:00, - 13:00 17:30, - - -"_q);
-    EXPECT_EQ(punched.days[1].work, 270) << "a punched row ignores the carry";
-    EXPECT_EQ(punched.days[2].absentDays, 1);
+    EXPECT_EQ(punched.days[1].work, 270min) << "a punched row ignores the carry";
+    EXPECT_EQ(punched.days[2].absentDays, Count(1));
 }
 
 TEST_F(DayLoop, ACarryReachesOverSeveralDaysAndKinds) {
     const CardFigures days = card(u"- 09:00 ++10:00, 0 - -, - - -"_q);
-    EXPECT_EQ(days.days[0].work, 450);
-    EXPECT_EQ(days.days[1].holiday, 15 * 60) << "from the holiday's own start at 08:00 to the next day's at 09:00";
-    EXPECT_EQ(days.days[1].holidayLate, 120);
-    EXPECT_EQ(days.days[2].work, 60);
+    EXPECT_EQ(days.days[0].work, 450min);
+    EXPECT_EQ(days.days[1].holiday, Minutes(15 * 60))
+        << "from the holiday's own start at 08:00 to the next day's at 09:00";
+    EXPECT_EQ(days.days[1].holidayLate, 120min);
+    EXPECT_EQ(days.days[2].work, 60min);
     const CardFigures spent = card(u"- 09:00 +10:00, - - - 0--, - - -"_q);
-    EXPECT_EQ(spent.days[1].work, 0);
-    EXPECT_EQ(spent.days[2].absentDays, 1) << "a carry that ended before the day is spent";
-    EXPECT_EQ(spent.days[2].absent, 450);
-    EXPECT_EQ(card(u"- - -"_q, {}, at(monday, 10, 0)).days[0].work, 60) << "into the first row";
+    EXPECT_EQ(spent.days[1].work, 0min);
+    EXPECT_EQ(spent.days[2].absentDays, Count(1)) << "a carry that ended before the day is spent";
+    EXPECT_EQ(spent.days[2].absent, 450min);
+    EXPECT_EQ(card(u"- - -"_q, {}, at(monday, 10, 0)).days[0].work, 60min) << "into the first row";
 }
 
 // A shift cut at the border and its continuation are the shift in one piece.
@@ -252,12 +254,12 @@ TEST_F(DayLoop, FlexibleDaysShowTheDifference) {
     setBand(u"Flex", 0, u"07:00", u"10:00");
     setBand(u"Flex", 1, u"15:00", u"22:00");
     const Figures day = first(u"- 09:00 18:30"_q);
-    EXPECT_EQ(day.work, 570);
-    EXPECT_EQ(day.difference, 90);
-    EXPECT_EQ(day.legalOver, 0) << "not on flexible days";
-    EXPECT_EQ(first(u"- 10:00 17:00"_q).difference, -60);
-    EXPECT_EQ(card(u"- 09:00 18:30, - 10:00 17:00"_q).sum.difference, 30);
-    EXPECT_EQ(first(u"- 22:00 23:00"_q).difference, 0) << "no working time, no difference";
+    EXPECT_EQ(day.work, 570min);
+    EXPECT_EQ(day.difference, 90min);
+    EXPECT_EQ(day.legalOver, 0min) << "not on flexible days";
+    EXPECT_EQ(first(u"- 10:00 17:00"_q).difference, -60min);
+    EXPECT_EQ(card(u"- 09:00 18:30, - 10:00 17:00"_q).sum.difference, 30min);
+    EXPECT_EQ(first(u"- 22:00 23:00"_q).difference, 0min) << "no working time, no difference";
 }
 
 TEST_F(DayLoop, AStoredRowThatTheRulesRefuseEndsTheCard) {

@@ -50,11 +50,11 @@ TEST_F(Loaders, AFixedCompany) {
     EXPECT_EQ(rules.plngRoundEnter, 0);
     EXPECT_EQ(rules.plngRoundLeave, 1);
     EXPECT_EQ(rules.plngRoundHour, 0) << "not read";
-    EXPECT_EQ(rules.plngRoundUnit(), 15);
+    EXPECT_EQ(rules.plngRoundUnit(), 15min);
     EXPECT_EQ(rules.plngCountUnit, 0);
     EXPECT_TRUE(rules.pbleEnableDiff && rules.pbleEnableEarly && !rules.pbleEnableOver);
-    EXPECT_EQ(rules.plngEnterDelay, 30);
-    EXPECT_EQ(rules.plngLeaveGain, 60);
+    EXPECT_EQ(rules.plngEnterDelay, 30s);
+    EXPECT_EQ(rules.plngLeaveGain, 60s);
     EXPECT_EQ(rules.psngPaidTotal, 20.0F);
     EXPECT_TRUE(has(DayType::Weekday, BandKind::Work, 0));
     EXPECT_FALSE(has(DayType::Weekday, BandKind::Work, 2)) << "a gap ends the work bands";
@@ -70,7 +70,7 @@ TEST_F(Loaders, AFixedCompany) {
 TEST_F(Loaders, AFlexibleCompany) {
     run(u"UPDATE M01_CorpInfo SET F_WorkStyle = 1, F_RoundMethod = 1"_q);
     ASSERT_TRUE(load());
-    EXPECT_EQ(rules.plngStandardTime(), 450);
+    EXPECT_EQ(rules.plngStandardTime(), 450min);
     EXPECT_EQ(rules.plngRoundHour, 1);
     EXPECT_EQ(rules.plngCountUnit, 1) << "rounding by the month shows hours and minutes";
     EXPECT_TRUE(has(DayType::Weekday, BandKind::Core, 0) && has(DayType::Weekday, BandKind::Core, 2));

@@ -7,7 +7,7 @@ namespace {
 
 class PunchClock : public SampleCompany {
   protected:
-    PunchResult press(Punch kind, int enterDelay = 0, int leaveGain = 0) {
+    PunchResult press(Punch kind, Seconds enterDelay = {}, Seconds leaveGain = {}) {
         return punch(desk.context, connection, {u"S01"_q, u"1001"_q, {true, true, false, {}}, enterDelay, leaveGain},
                      kind);
     }
@@ -43,11 +43,11 @@ class PunchClock : public SampleCompany {
 } // namespace
 
 TEST_F(PunchClock, ADayFromEnterToLeave) {
-    EXPECT_EQ(press(Punch::Enter, 30), PunchResult::Done);
+    EXPECT_EQ(press(Punch::Enter, 30s), PunchResult::Done);
     desk.prompts.expect(u"既に出社打刻済です。打刻できません。"_q);
     EXPECT_EQ(press(Punch::Enter), PunchResult::Refused);
     desk.clock.set(at(today, 17, 30));
-    EXPECT_EQ(press(Punch::Leave, 0, 60), PunchResult::Done);
+    EXPECT_EQ(press(Punch::Leave, 0s, 60s), PunchResult::Done);
     EXPECT_EQ(rows(), u"0415 04-15 08:59:30 04-15 17:31:00\n"_q);
     desk.prompts.expect(u"既に退社打刻済です。打刻できません。"_q).expect(u"既に退社打刻済です。打刻できません。"_q);
     EXPECT_EQ(press(Punch::Leave), PunchResult::Refused);
@@ -106,11 +106,11 @@ TEST_F(PunchClock, AShiftOverMidnightGoesOnIfThePersonSaysSo) {
 
 TEST_F(PunchClock, AdjustedTimesDecideTheDay) {
     desk.clock.set(at(today, 0, 0, 10));
-    EXPECT_EQ(press(Punch::Enter, 30), PunchResult::Done);
+    EXPECT_EQ(press(Punch::Enter, 30s), PunchResult::Done);
     EXPECT_EQ(rows(), u"0414 04-14 23:59:40 -\n"_q);
     desk.clock.set(at(today, 23, 50));
     desk.prompts.expect(u"2026/04/14からの継続勤務ですか？"_q, Answer::No).expect(warningB);
-    EXPECT_EQ(press(Punch::Leave, 0, 999), PunchResult::Done);
+    EXPECT_EQ(press(Punch::Leave, 0s, 999s), PunchResult::Done);
     EXPECT_EQ(rows(), u"0414 04-14 23:59:40 -\n0416 - 04-16 00:06:39\n"_q);
 }
 
@@ -119,7 +119,7 @@ TEST_F(PunchClock, AroundMidnightTheMissingRowIsAFault) {
     addCard(1, yesterday, QString(), QString());
     desk.clock.set(at(today, 0, 0, 10));
     desk.prompts.expect(u"エラー番号："_q);
-    EXPECT_EQ(press(Punch::Enter, 30), PunchResult::Stopped);
+    EXPECT_EQ(press(Punch::Enter, 30s), PunchResult::Stopped);
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－RecordEnter"_q);
 }
 
@@ -141,7 +141,7 @@ TEST_F(PunchClock, OutingsHangOnTheDaysRow) {
                                      {14, Punch::Out},
                                      {15, Punch::In}}) {
         desk.clock.set(at(today, hour, 0));
-        EXPECT_EQ(press(kind, 30, 60), PunchResult::Done);
+        EXPECT_EQ(press(kind, 30s, 60s), PunchResult::Done);
     }
     EXPECT_EQ(outings(), u"1:1 10:00 11:00\n1:2 - 12:00\n1:3 13:00 -\n1:4 14:00 15:00\n"_q);
 }

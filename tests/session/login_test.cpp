@@ -26,12 +26,12 @@ TEST_F(LogIn, APersonsSession) {
     EXPECT_EQ(attempt(u"1001"_q, u"KURBO1"_q), LoginResult::Open) << "case does not matter";
     EXPECT_EQ(client.session.SessionStaff, u"1001"_q);
     EXPECT_EQ(client.session.SessionSection, u"S01"_q);
-    EXPECT_EQ(client.session.EnterDelay, 30);
-    EXPECT_EQ(client.session.LeaveGain, 60);
+    EXPECT_EQ(client.session.EnterDelay, 30s);
+    EXPECT_EQ(client.session.LeaveGain, 60s);
     EXPECT_TRUE(client.session.access.CanPunch);
     EXPECT_EQ(attempt(u"admin"_q, u"admin"_q), LoginResult::Open);
     EXPECT_EQ(client.session.SessionStaff + client.session.SessionSection, u"ADMINADMIN"_q);
-    EXPECT_EQ(client.session.EnterDelay, 0) << "Null counts as 0";
+    EXPECT_EQ(client.session.EnterDelay, 0s) << "Null counts as 0";
     EXPECT_TRUE(client.session.access.IsAdmin && !client.session.access.CanPunch);
 }
 

@@ -18,6 +18,8 @@ inline std::ostream& operator<<(std::ostream& stream, const QString& text) {
 
 namespace kurbo::test {
 
+using namespace std::chrono_literals;
+
 inline QString operator""_q(const char16_t* text, std::size_t length) {
     return QString::fromUtf16(text, static_cast<qsizetype>(length));
 }

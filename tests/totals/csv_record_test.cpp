@@ -38,7 +38,7 @@ TEST(CsvRecord, ALineHoldsTheMonth) {
                                  "\"0\",\"0\",\"0\",\"0\",\"0\",\"0\",\"0\",\"0\",\"0\",\"0\",\"0\",\"0\","
                                  "\"True\",\"True\",\"2026/04/01-2026/04/28\"\r\n"_q));
     for (std::size_t i = 0; i < april.figures.size(); ++i)
-        april.figures[i] = quantities[i].unit == Unit::Days ? Value(0.0) : Value(0);
+        april.figures[i] = quantities[i].unit() == Unit::Days ? Value(0.0) : Value(0);
     april.figures[placeOf(Quantity::PaidTotal)] = {};
     EXPECT_EQ(readCsv(bytes, {}), QList({savedMonth(u"1001"_q, u"202603"_q), april}))
         << "empty cells become 0, but no balance becomes 0 days";

@@ -10,7 +10,7 @@ inline MonthRecord savedMonth(const QString& staff, const QString& month, double
     MonthRecord record{staff, u"S01"_q, month.left(4), month.mid(4), {}, false, true, {}};
     for (std::size_t i = 0; i < record.figures.size(); ++i) {
         const auto number = static_cast<double>(i + 1);
-        const bool days = quantities[i].unit == Unit::Days;
+        const bool days = quantities[i].unit() == Unit::Days;
         record.figures[i] = days ? Value(number / 2) : Value(static_cast<int>(i) + 1);
     }
     record.figures[2] = paidLeft;

@@ -14,8 +14,8 @@ Totals totalsOf(const QStringList& names, unsigned months, bool byStaff) {
         row.staff = QString::number(1001 + person);
         row.name = names[person];
         row.month = std::chrono::year(2026) / std::chrono::month(month);
-        row.figures.fill(60);
-        row.figures[2] = static_cast<int>(month) * 100;
+        row.figures.fill(60min);
+        row.figures[2] = DayHundredths(static_cast<int>(month) * 100);
         totals.rows.push_back(row);
     };
     if (byStaff)

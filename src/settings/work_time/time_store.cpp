@@ -24,7 +24,7 @@ QString field(const char16_t* end, const TimeRow& row, int slot) {
 // Null gives an empty text.
 QString cellText(const Value& value, bool limit) {
     if (value.isNull()) return {};
-    return limit ? FormatHours(static_cast<Minutes>(value.integer()), 1, false) : value.text();
+    return limit ? FormatHours(Minutes(value.integer()), 1, false) : value.text();
 }
 
 void fill(TimeSheet& sheet, const RecordSet& record) {
@@ -45,7 +45,7 @@ void setLimit(RecordSet& record, const TimeSheet& sheet, int row, bool stored) {
     if (stored && !limit.isEmpty() && !isLimit(limit))
         throw Complaint(sheet.grid.TextMatrix(row, 0) +
                         QStringLiteral("の調整時間が不正です。時間をhh:mm形式で入力して下さい。"));
-    record.set(text(sheet.rowAt(row).field), stored && !limit.isEmpty() ? Value(ParseHours(limit, 1)) : Value());
+    record.set(text(sheet.rowAt(row).field), stored && !limit.isEmpty() ? Value(ParseHours(limit, 1).count()) : Value());
 }
 
 void setTimes(RecordSet& record, const TimeSheet& sheet) {

@@ -24,7 +24,7 @@ QString savedStatement(bool onePerson) {
 
 Value figureOf(const Rows& rows, int column) {
     const Value value = rows.value(column);
-    const bool days = quantities[static_cast<std::size_t>(column)].unit == Unit::Days;
+    const bool days = quantities[static_cast<std::size_t>(column)].unit() == Unit::Days;
     return days && !value.isNull() ? Value(static_cast<double>(singleOf(value.real()))) : value;
 }
 

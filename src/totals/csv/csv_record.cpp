@@ -37,8 +37,8 @@ constexpr std::array behind{
 // The balance is the one number without quotes.
 constexpr Form formOf(const QuantityFacts& facts) {
     if (facts.id == Quantity::PaidTotal) return Form::Balance;
-    if (facts.unit == Unit::Days) return Form::Days;
-    return facts.unit == Unit::Time ? Form::Minutes : Form::Count;
+    if (facts.unit() == Unit::Days) return Form::Days;
+    return facts.unit() == Unit::Time ? Form::Minutes : Form::Count;
 }
 
 constexpr auto fields = [] {
@@ -82,8 +82,7 @@ std::optional<Value> wholeOfText(const QString& text, int low, int high) {
 std::optional<Value> figureOfText(Form form, const QString& text) {
     if (form == Form::Count)
         return wholeOfText(text, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max());
-    if (form == Form::Minutes)
-        return wholeOfText(text, std::numeric_limits<Minutes>::min(), std::numeric_limits<Minutes>::max());
+    if (form == Form::Minutes) return wholeOfText(text, Minutes::min().count(), Minutes::max().count());
     return singleOfText(text);
 }
 

@@ -49,8 +49,8 @@ Names namesOf(Connection& connection, const QString& statement) {
 
 QString figureText(const QuantityFacts& facts, const Value& figure, int countUnit) {
     if (figure.isNull()) return {};
-    if (facts.unit == Unit::Time) return FormatHours(static_cast<Minutes>(figure.integer()), countUnit, false);
-    return facts.unit == Unit::Days ? daysText(figure.real()) : QString::number(figure.integer());
+    if (facts.unit() == Unit::Time) return FormatHours(Minutes(figure.integer()), countUnit, false);
+    return facts.unit() == Unit::Days ? daysText(figure.real()) : QString::number(figure.integer());
 }
 
 QStringList cellsOf(const LoadedMonth& month, const Names& people, const Names& sections, int countUnit) {
