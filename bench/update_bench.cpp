@@ -55,13 +55,13 @@ void fillSheet(CardSheet& sheet, const std::vector<std::int64_t>& ids) {
     card.headings = QStringList(cardColumns, QString());
     card.summary.fill(card.headings);
     for (int i = 0; i < days; ++i) {
-        QStringList row(cardColumns, QString());
-        row[static_cast<int>(CardColumn::Date)] = shortDate(*makeDay(2025, 5, 1) + std::chrono::days(i));
-        row[static_cast<int>(CardColumn::Enter)] = QStringLiteral("09:00");
-        row[static_cast<int>(CardColumn::Id)] = QString::number(ids[static_cast<std::size_t>(i)]);
-        card.days.append(row);
+        CardDay day;
+        day.facts.date = *makeDay(2025, 5, 1) + std::chrono::days(i);
+        day.kurboId = ids[static_cast<std::size_t>(i)];
+        card.days.append(card.headings);
+        card.entries.emplace_back(day);
     }
-    fillCardGrid(sheet.grid, card);
+    sheet.show(std::move(card));
 }
 
 QString planOf(int round) {
@@ -73,11 +73,10 @@ QString leaveOf(int round) {
 
 void changeSheet(CardSheet& sheet, int round) {
     for (int row = firstCardDay; row < firstCardDay + days; ++row) {
-        sheet.grid.TextMatrix(row, static_cast<int>(CardColumn::Plan), planOf(round));
-        sheet.grid.TextMatrix(row, static_cast<int>(CardColumn::Leave), leaveOf(round));
+        sheet.dayAt(row)->read(CardColumn::Plan, planOf(round));
+        sheet.dayAt(row)->read(CardColumn::Enter, QStringLiteral("09:00"));
+        sheet.dayAt(row)->read(CardColumn::Leave, leaveOf(round));
         sheet.grid.RowStatus(row, GridStatus::Modified);
-        sheet.enterEdited.insert(row);
-        sheet.leaveEdited.insert(row);
     }
 }
 

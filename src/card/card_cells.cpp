@@ -95,23 +95,15 @@ class CellWriter final {
         return row;
     }
 
-    // `balance`: days of paid leave at the beginning.
-    [[nodiscard]] QStringList sums(const Figures& sum, DayHundredths balance) const {
+    [[nodiscard]] QStringList sums(const QString& caption, const FigureList& figures) const {
         QStringList row = blankRow();
-        row[index(CardColumn::Date)] = QStringLiteral("合計(実働)");
-        const FigureList figures = monthFigures(sum, balance);
+        row[index(CardColumn::Date)] = caption;
         for (const QuantityFacts& facts : quantities)
-            row[index(cardColumnOf(facts.id))] = text(figures[placeOf(facts.id)]);
-        if (rules_.pbleFlexTime)
-            row[index(CardColumn::LegalOver)] = FormatHours(sum.difference, rules_.plngCountUnit, true);
+            row[index(cardColumnOf(facts.id))] = figureText(figures[placeOf(facts.id)], rules_.plngCountUnit);
         return row;
     }
-
-    // Nothing for none.
-    [[nodiscard]] QString text(const MonthFigure& figure) const {
-        if (const auto* const minutes = std::get_if<Minutes>(&figure)) return hours(*minutes);
-        if (const auto* const days = std::get_if<DayHundredths>(&figure)) return daysText(*days);
-        return isKnown(figure) ? QString::number(countOf(figure)) : QString();
+    [[nodiscard]] QString difference(Minutes difference) const {
+        return FormatHours(difference, rules_.plngCountUnit, true);
     }
 
   private:
@@ -145,7 +137,7 @@ class CellWriter final {
             if constexpr (std::is_same_v<Figure, Count>) cell = QStringLiteral("1");
         });
         if (figures.difference != Minutes{} && figures.legalOver == Minutes{})
-            cells[index(CardColumn::LegalOver)] = FormatHours(figures.difference, rules_.plngCountUnit, true);
+            cells[index(CardColumn::LegalOver)] = difference(figures.difference);
     }
 
     const clsWorkTime& rules_;
@@ -168,14 +160,13 @@ constexpr int monthDigits = 6; // of a date's id
 
 // What counts for the month, once it has been saved. Gives the days of paid leave that the person's balance has lost by
 // that: those of the newest saved month, so that saving it again takes them once.
-double readSavedMonth(Connection& connection, const CellWriter& cells, const QString& staff, Day end, Card& card) {
+double readSavedMonth(Connection& connection, const QString& staff, Day end, Card& card, FigureList& figures) {
     static const QString statement = savedMonthStatement();
     const QString id = dateId(end);
     Rows month = connection.rows(statement, {staff, id.left(4), id.mid(4, 2)});
     if (!month.next()) return 0;
-    const FigureList figures = readMonthFigures(month);
-    for (const QuantityFacts& facts : quantities)
-        card.summary[2][index(cardColumnOf(facts.id))] = cells.text(figures[placeOf(facts.id)]);
+    figures = readMonthFigures(month);
+    for (std::size_t i = 0; i < quantityCount; ++i) card.finals[i] = month.value(static_cast<int>(i));
     constexpr int behind = quantityCount;
     card.saved = true;
     card.personalApproval = month.yes(behind);
@@ -196,33 +187,53 @@ std::array<bool, cardColumns> hiddenColumns(const clsWorkTime& rules) {
     return hidden;
 }
 
-Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff, Period span) {
-    const Reading reading(connection);
-    const CardDays read = readCardDays(connection, staff, span);
+CardFigures figuresOf(Connection& connection, clsWorkTime& rules, const QString& staff, const CardDays& read,
+                      Day today) {
     std::vector<DayFacts> facts;
     facts.reserve(read.days.size());
     for (const CardDay& day : read.days) facts.push_back(day.facts);
     std::optional<Moment> carry;
     if (!facts.empty())
         carry = carryInto(rules, facts.front(), leaveBeyond(connection, staff, Moment{facts.front().date}));
-    CardFigures figures = calculateDays(rules, facts, read.next, carry, context.clock.today());
+    CardFigures figures = calculateDays(rules, facts, read.next, carry, today);
     roundSums(rules, figures.sum);
+    return figures;
+}
 
-    const CellWriter cells(rules);
+void writeDays(Card& card, const CellWriter& cells, std::vector<CardDay>& days, const std::vector<Figures>& figures) {
+    card.days.reserve(static_cast<qsizetype>(days.size()));
+    card.entries.reserve(days.size());
+    for (std::size_t i = 0; i < days.size(); ++i) {
+        card.days.append(cells.day(static_cast<int>(i) + 1, days[i], figures[i]));
+        CardEntry& entry = card.entries.emplace_back(std::move(days[i]));
+        entry.absent = figures[i].absentDays != Count(0);
+    }
+}
+
+// `balance`: days of paid leave at the beginning.
+void writeSums(Card& card, const CellWriter& cells, const clsWorkTime& rules, const Figures& sum, double balance,
+               const FigureList& finals) {
+    card.sums = monthFigures(sum, hundredths(balance));
+    card.summary = {cells.captions(), cells.sums(QStringLiteral("合計(実働)"), card.sums),
+                    cells.sums(QStringLiteral("合計(最終)"), finals)};
+    if (rules.pbleFlexTime) card.summary[1][index(CardColumn::LegalOver)] = cells.difference(sum.difference);
+}
+
+Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, const QString& staff, Period span) {
+    const Reading reading(connection);
+    CardDays read = readCardDays(connection, staff, span);
+    const Day today = context.clock.today();
+    const CardFigures figures = figuresOf(connection, rules, staff, read, today);
     Card card;
     card.headings = headingsFor(rules.pbleFlexTime);
-    card.wholePeriod = isWholePeriod(rules, span, context.clock.today());
-    card.summary[2] = blankRow();
-    card.summary[2][index(CardColumn::Date)] = QStringLiteral("合計(最終)");
+    card.wholePeriod = isWholePeriod(rules, span, today);
     double balance = rules.psngPaidTotal;
-    if (card.wholePeriod) balance += readSavedMonth(connection, cells, staff, span.to, card);
-    card.summary[0] = cells.captions();
-    card.summary[1] = cells.sums(figures.sum, hundredths(balance));
-    card.days.reserve(static_cast<qsizetype>(read.days.size()));
-    for (std::size_t i = 0; i < read.days.size(); ++i)
-        card.days.append(cells.day(static_cast<int>(i) + 1, read.days[i], figures.days[i]));
+    FigureList finals;
+    if (card.wholePeriod) balance += readSavedMonth(connection, staff, span.to, card, finals);
+    const CellWriter cells(rules);
+    writeSums(card, cells, rules, figures.sum, balance, finals);
+    writeDays(card, cells, read.days, figures.days);
     card.hidden = hiddenColumns(rules);
-    card.sum = figures.sum;
     return card;
 }
 

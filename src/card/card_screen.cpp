@@ -93,19 +93,18 @@ void CardScreen::choosePeriod(Period period) {
 }
 
 bool CardScreen::ShowKurbo(const QString& staff, Period period, clsWorkTime& rules) {
-    const auto card = makeCard(client_.context, connection(), rules, staff, period);
+    auto card = makeCard(client_.context, connection(), rules, staff, period);
     if (!card) return false;
     rules_ = rules;
     reader_.blnMyCard = staff == client_.session.SessionStaff;
     reader_.cardShown = true;
-    fillCardGrid(sheet.grid, *card);
-    sheet.drawn();
-    alive_ = true;
-    ++drawings_;
     wholePeriod_ = approvable_ = monthUnsaved_ = card->wholePeriod;
-    drawn_ = period;
     personalApproval_ = card->personalApproval;
     superiorApproval_ = card->superiorApproval;
+    sheet.show(*std::move(card));
+    alive_ = true;
+    ++drawings_;
+    drawn_ = period;
     setPeriod(period);
     return true;
 }
@@ -247,9 +246,9 @@ bool CardScreen::redraw(Period period) {
 }
 
 int CardScreen::todayRow() const {
-    const QString today = shortDate(client_.context.clock.today());
-    for (int row = firstCardDay; row < sheet.grid.Rows(); ++row)
-        if (cardText(sheet.grid, row, CardColumn::Date) == today) return row;
+    const Day today = client_.context.clock.today();
+    for (int row = firstCardDay; const CardEntry* const day = sheet.dayAt(row); ++row)
+        if (day->day.facts.date == today) return row;
     return 0;
 }
 

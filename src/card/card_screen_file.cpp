@@ -1,8 +1,9 @@
 // Card files on the card's screen.
 
-#include "card/card_cells.h"
+#include "card/card_grid.h"
 #include "card/card_screen.h"
 #include "card/edit/card_checks.h"
+#include "card/edit/card_times.h"
 #include "screen/files/foreign_file.h"
 #include "screen/files/sheet_file.h"
 #include "store/section_switch.h"
@@ -20,6 +21,19 @@ QString cardMember() {
 
 void checkDates(const QStringList& selection) {
     if (!parseSlashDate(selection[2]) || !parseSlashDate(selection[3])) throw foreignFile();
+}
+
+// The days of a card's image.
+std::vector<CardEntry> entriesOf(const GridModel& image) {
+    std::vector<CardEntry> days;
+    for (int row = firstCardDay; row < image.Rows(); ++row) {
+        CardDay day;
+        day.facts.date = dayOfRow(cardText(image, row, CardColumn::Date)).value_or(Day());
+        day.facts.enter = parseSlashMoment(cardText(image, row, CardColumn::FullEnter));
+        day.facts.leave = parseSlashMoment(cardText(image, row, CardColumn::FullLeave));
+        days.emplace_back(std::move(day));
+    }
+    return days;
 }
 
 QList<CodeName> withNames(QList<CodeName> list, const QList<CodeName>& names) {
@@ -48,6 +62,7 @@ bool CardScreen::loadKrb() {
                sheet.blnFileMode = true;
                file_ = {};
                const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid, checkDates);
+               sheet.days = entriesOf(sheet.grid);
                section_ = selection[0];
                staff_ = selection[1];
                choosePeriod({*parseSlashDate(selection[2]), *parseSlashDate(selection[3])});

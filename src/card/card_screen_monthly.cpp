@@ -9,10 +9,8 @@
 namespace kurbo {
 namespace {
 
-bool isFinalEmpty(const GridModel& grid) {
-    return std::ranges::all_of(quantities, [&grid](const QuantityFacts& facts) {
-        return cardText(grid, finalSumRow, cardColumnOf(facts.id)).isEmpty();
-    });
+bool isFinalEmpty(const CardSheet& sheet) {
+    return std::ranges::all_of(sheet.finals, [](const FigureEntry& figure) { return figure.value.isNull(); });
 }
 
 } // namespace
@@ -54,13 +52,13 @@ bool CardScreen::isCardSaved(const QString& demand) const {
 // Missing punches warn and never forbid.
 bool CardScreen::agreesWithMissing(const QString& question, Answer preset) const {
     const QString text =
-        lines(question, QString(), QStringLiteral("よろしいですか？"), QString(), ListMissingPunch(sheet.grid));
+        lines(question, QString(), QStringLiteral("よろしいですか？"), QString(), ListMissingPunch(sheet));
     return client_.context.prompts.ask({{}, text, Icon::Question, Buttons::OkCancel, preset}) == Answer::Ok;
 }
 
 bool CardScreen::agreesToSave() const {
     const QString question = QStringLiteral("月次集計の最終保存データを更新します。");
-    if (!isFinalEmpty(sheet.grid)) return agreesWithMissing(question, Answer::Ok);
+    if (!isFinalEmpty(sheet)) return agreesWithMissing(question, Answer::Ok);
     return agreesWithMissing(lines(question, QString(),
                                    QStringLiteral("時間調整が行われていないため、合計(最終)が空のまま保存されます。"),
                                    QStringLiteral("合計を保存するには、先に時間調整を行って下さい。有給休暇残数からは、"

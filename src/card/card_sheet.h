@@ -1,37 +1,42 @@
 #pragma once
 
+#include "card/card_cells.h"
 #include "screen/grid/grid_model.h"
 
 #include <functional>
-#include <set>
 
 namespace kurbo {
 
-// The card on the screen: the grid as its working copy, and what has been done to it since it was drawn.
+// The card on the screen: its rows, the grid that shows them, and what has been done to them since it was drawn.
 struct CardSheet {
     GridModel grid;
+    // The day rows, and the final sums in the places of their quantities: what is typed into a cell is read here at
+    // once.
+    std::vector<CardEntry> days;
+    std::array<FigureEntry, quantityCount> finals;
+    FigureList sums; // what the days add up to
     // A day row, or a summary row, was edited.
     bool blnCardChanged = false;
     bool blnMonthChanged = false;
     // A card out of a card file is shown.
     bool blnFileMode = false;
-    // Rows whose cell of that punch was really edited: the grid shows minutes, and the punches that were not touched
-    // keep their stored seconds.
-    std::set<int> enterEdited;
-    std::set<int> leaveEdited;
 
     // Told after every edit.
     std::function<void()> onEdit;
 
-    [[nodiscard]] bool blnEnterEdited(int row) const { return enterEdited.contains(row); }
-    [[nodiscard]] bool blnLeaveEdited(int row) const { return leaveEdited.contains(row); }
-    // The card has been drawn anew.
-    void drawn() {
-        blnCardChanged = blnMonthChanged = blnFileMode = false;
-        enterEdited.clear();
-        leaveEdited.clear();
-        grid.clearRowStatus();
-    }
+    // Draws a card.
+    void show(Card card);
+    // Nothing has been changed any more, and no card file is shown.
+    void drawn();
+
+    // The day of a grid's row; none for the rows above the days.
+    [[nodiscard]] const CardEntry* dayAt(int row) const;
+    [[nodiscard]] CardEntry* dayAt(int row);
+    // The days whose rows the person has changed.
+    [[nodiscard]] std::vector<const CardEntry*> changedDays() const;
+    // A punch's cell was really edited.
+    [[nodiscard]] bool blnEnterEdited(int row) const { return dayAt(row) && dayAt(row)->enterEdited; }
+    [[nodiscard]] bool blnLeaveEdited(int row) const { return dayAt(row) && dayAt(row)->leaveEdited; }
 };
 
 } // namespace kurbo

@@ -1,6 +1,7 @@
 #include "card/monthly.h"
 
 #include "card/card_grid.h"
+#include "month/figure_texts.h"
 #include "month/saved_figures.h"
 #include "store/record_set.h"
 
@@ -29,19 +30,11 @@ Values readLimits(Connection& connection, const QString& staff) {
     return values;
 }
 
-QString limited(const QString& sum, const Value& limit, int unit) {
-    if (sum.isEmpty() || limit.isNull() || ParseHours(sum, unit).count() <= limit.integer()) return sum;
-    return FormatHours(Minutes(limit.integer()), unit, false);
-}
-
-QStringList adjustedSums(const GridModel& grid, const clsWorkTime& rules, const Values& limits) {
-    QStringList sums;
-    for (const QuantityFacts& facts : quantities) {
-        const QString sum = cardText(grid, daySumRow, cardColumnOf(facts.id));
-        const Value limit = isDifference(facts.id, rules) ? Value() : limits[static_cast<qsizetype>(placeOf(facts.id))];
-        sums.append(limited(sum, limit, rules.plngCountUnit));
-    }
-    return sums;
+// A sum above the limit becomes the limit.
+MonthFigure limited(const MonthFigure& sum, const Value& limit) {
+    const auto* const minutes = std::get_if<Minutes>(&sum);
+    if (!minutes || limit.isNull() || minutes->count() <= limit.integer()) return sum;
+    return Minutes(static_cast<Minutes::rep>(limit.integer()));
 }
 
 void addMonth(RecordSet& months, const MonthOwner& owner, const QString& month) {
@@ -58,11 +51,9 @@ void takeApprovals(RecordSet& months) {
 }
 
 void setFigures(RecordSet& months, const CardSheet& sheet, const clsWorkTime& rules, Period period) {
-    for (const QuantityFacts& facts : quantities) {
-        const QString cell = cardText(sheet.grid, finalSumRow, cardColumnOf(facts.id));
-        const bool kept = !isDifference(facts.id, rules);
-        months.set(QString::fromUtf16(facts.field), kept ? figureOf(facts, cell, rules.plngCountUnit) : Value());
-    }
+    for (const QuantityFacts& facts : quantities)
+        months.set(QString::fromUtf16(facts.field),
+                   isDifference(facts.id, rules) ? Value() : sheet.finals[placeOf(facts.id)].stored());
     months.set(QStringLiteral("F_Term"), slashDate(period.from) + u'-' + slashDate(period.to));
 }
 
@@ -75,6 +66,19 @@ void refuseStaleBalance(Connection& connection, const clsWorkTime& rules, const 
         return;
     throw Complaint(lines(QStringLiteral("有給休暇残数が、タイムカードの表示後に変更されています。"),
                           QStringLiteral("再表示してから、時間調整と月次更新をやり直して下さい。")));
+}
+
+// The time difference of a flexible person is only shown.
+void adjust(CardSheet& sheet, const QuantityFacts& facts, const Values& limits, const clsWorkTime& rules) {
+    const CardColumn column = cardColumnOf(facts.id);
+    QString text = cardText(sheet.grid, daySumRow, column);
+    if (!isDifference(facts.id, rules)) {
+        const auto place = placeOf(facts.id);
+        const MonthFigure figure = limited(sheet.sums[place], limits[static_cast<qsizetype>(place)]);
+        sheet.finals[place] = {.value = storedFigure(figure), .fault = {}};
+        text = figureText(figure, rules.plngCountUnit);
+    }
+    sheet.grid.TextMatrix(finalSumRow, static_cast<int>(column), text);
 }
 
 bool updateMark(Connection& connection, const QString& mark, const QString& staff, Day end, bool approved) {
@@ -97,11 +101,9 @@ bool updateMark(Connection& connection, const QString& mark, const QString& staf
 bool AdjustMonthly(const Context& context, Connection& connection, CardSheet& sheet, const clsWorkTime& rules,
                    const QString& staff) {
     return guarded(context, u"frmKurbo", u"AdjustMonthly", false, [&] {
-        const QStringList sums = adjustedSums(sheet.grid, rules, readLimits(connection, staff));
+        const Values limits = readLimits(connection, staff);
         const Undrawn undrawn(sheet.grid);
-        for (const QuantityFacts& facts : quantities)
-            sheet.grid.TextMatrix(finalSumRow, static_cast<int>(cardColumnOf(facts.id)),
-                                  sums[static_cast<qsizetype>(placeOf(facts.id))]);
+        for (const QuantityFacts& facts : quantities) adjust(sheet, facts, limits, rules);
         sheet.blnMonthChanged = true;
         return true;
     });

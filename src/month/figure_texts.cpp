@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "base/field_tests.h"
+#include "engine/hours.h"
 
 #include <algorithm>
 #include <array>
@@ -42,6 +43,12 @@ QString daysText(double days) {
 
 QString daysText(DayHundredths days) {
     return daysText(days.count() / 100.0);
+}
+
+QString figureText(const MonthFigure& figure, int countUnit) {
+    if (const auto* const minutes = std::get_if<Minutes>(&figure)) return FormatHours(*minutes, countUnit, false);
+    if (const auto* const days = std::get_if<DayHundredths>(&figure)) return daysText(*days);
+    return isKnown(figure) ? QString::number(countOf(figure)) : QString();
 }
 
 SumForm sumForm(const QuantityFacts& facts, int countUnit) {

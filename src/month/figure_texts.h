@@ -1,6 +1,6 @@
 #pragma once
 
-#include "month/quantities.h"
+#include "month/month_figures.h"
 
 #include <QChar>
 #include <QString>
@@ -15,6 +15,9 @@ namespace kurbo {
 // Days as text with one place, "18.5".
 [[nodiscard]] QString daysText(double days);
 [[nodiscard]] QString daysText(DayHundredths days);
+
+// A figure of a month, hours as the company counts them (plngCountUnit); empty where none is known.
+[[nodiscard]] QString figureText(const MonthFigure& figure, int countUnit);
 
 // How a figure of a month is typed. Hours are numbers where the company counts them so (plngCountUnit 0).
 enum class SumForm { Number, Hours };

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "engine/hours.h"
+#include "month/figure_texts.h"
 #include "store/engine_fault.h"
 
 namespace kurbo {
@@ -13,6 +14,29 @@ Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
     if (!number) throw storeFault(StoreError::BadValue);
     if (facts.unit() == Unit::Number) return wholeOf<std::int16_t>(*number);
     return static_cast<double>(singleOf(*number));
+}
+
+Value storedFigure(const MonthFigure& figure) {
+    if (!isKnown(figure)) return {};
+    if (const auto* const days = std::get_if<DayHundredths>(&figure))
+        return static_cast<double>(singleOf(days->count() / 100.0));
+    return countOf(figure);
+}
+
+const Value& FigureEntry::stored() const {
+    if (fault) throw Fault(*fault);
+    return value;
+}
+
+FigureEntry readFigure(const QuantityFacts& facts, const QString& cell, int unit) {
+    FigureEntry entry;
+    entry.readable = cell.isEmpty() || isSum(sumForm(facts, unit), cell);
+    try {
+        entry.value = figureOf(facts, cell, unit);
+    } catch (const Fault& fault) {
+        entry.fault = fault;
+    }
+    return entry;
 }
 
 bool hasLaterMonth(Connection& connection, const QString& staff, const QString& yearMonth) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "month/quantities.h"
+#include "base/failure.h"
+#include "month/month_figures.h"
 #include "store/record_set.h"
 
 namespace kurbo {
@@ -8,6 +9,22 @@ namespace kurbo {
 // What is stored of a cell's text; Null for an empty one. `unit` 0 is decimal hours, any other h:mm. Throws the fault
 // of a text that is no such figure, or too large for its field.
 [[nodiscard]] Value figureOf(const QuantityFacts& facts, const QString& cell, int unit);
+
+// What is stored of each quantity of a month, in their places; Null where nothing is.
+using SavedFigures = std::array<Value, quantityCount>;
+// A figure as it is stored: days in single precision.
+[[nodiscard]] Value storedFigure(const MonthFigure& figure);
+
+// A figure as a person has typed it, read once.
+struct FigureEntry {
+    Value value;
+    bool readable = true;       // it has the form that its quantity asks for
+    std::optional<Fault> fault; // why it can't be stored
+
+    // Throws that fault.
+    [[nodiscard]] const Value& stored() const;
+};
+[[nodiscard]] FigureEntry readFigure(const QuantityFacts& facts, const QString& cell, int unit);
 
 // Whether a later month than "yyyymm" has been saved for the person with a balance of paid leave. Throws a Fault.
 [[nodiscard]] bool hasLaterMonth(Connection& connection, const QString& staff, const QString& yearMonth);

@@ -26,7 +26,7 @@ class CardDisaster : public SampleCompany {
         }
         connection.close();
         for (int day = 0; day < changedDays; ++day) {
-            if (day < stored) sheet.grid.TextMatrix(firstCardDay + day, 24, QString::number((day + 1) * rowsBetween));
+            if (day < stored) sheet.days[static_cast<std::size_t>(day)].day.kurboId = (day + 1) * rowsBetween;
             type(sheet, day, CardColumn::Plan, u"変更"_q);
         }
         QFile file(path);
@@ -76,7 +76,7 @@ TEST_F(CardDisaster, AtEachCallAllDaysOrNone) {
 }
 
 TEST_F(CardDisaster, AtEachCallTheMonthAndTheBalanceOrNeither) {
-    sheet.grid.TextMatrix(finalSumRow, static_cast<int>(CardColumn::Leave), u"12.5"_q);
+    sheet.finals[placeOf(Quantity::PaidTotal)].value = 12.5;
     const MonthOwner owner{u"1001"_q, u"S01"_q, {*makeDay(2026, 5, 1), *makeDay(2026, 5, 31)}};
     clsWorkTime rules;
     rules.psngPaidTotal = 20;

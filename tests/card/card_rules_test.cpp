@@ -1,8 +1,6 @@
 #include "card/edit/card_rules.h"
 
-#include "card/card_cells.h"
-#include "card/card_grid.h"
-#include "support/desk.h"
+#include "card/sheet.h"
 
 namespace kurbo::test {
 namespace {
@@ -13,16 +11,12 @@ constexpr int day = firstCardDay;
 class CardRulesTest : public ::testing::Test {
   protected:
     CardRulesTest() {
-        Card card;
-        card.headings = QStringList(cardColumns);
-        for (QStringList& row : card.summary) row = QStringList(cardColumns);
-        QStringList january(cardColumns);
-        january[1] = u"26/01/31(土)"_q;
-        january[22] = u"2026/01/31 08:52:17"_q;
-        QStringList december(cardColumns);
-        december[1] = u"26/12/31(木)"_q;
-        card.days = {january, december};
-        fillCardGrid(sheet.grid, card);
+        Card card = emptyCard(*makeDay(2026, 1, 31), 1);
+        card.entries[0].storedEnter = at(*makeDay(2026, 1, 31), 8, 52, 17);
+        const Card december = emptyCard(*makeDay(2026, 12, 31), 1);
+        card.days += december.days;
+        card.entries.push_back(december.entries[0]);
+        sheet.show(card);
         sheet.grid.setRules(&cells);
         reader.cardShown = true;
     }

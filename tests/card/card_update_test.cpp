@@ -30,8 +30,7 @@ class CardUpdate : public Collisions {
                     GetWorkTime(desk.context, connection, rules, u"1001"_q));
         const auto card = makeCard(desk.context, connection, rules, u"1001"_q, {dayAt(0), dayAt(9)});
         ASSERT_TRUE(card);
-        fillCardGrid(sheet.grid, *card);
-        sheet.drawn();
+        sheet.show(*card);
     }
     bool update(const QString& staff = u"1001"_q) { return UpdateDayly(desk.context, connection, sheet, staff); }
     // The row's fields; "-" stands for Null.
@@ -119,7 +118,7 @@ TEST_F(CardUpdate, FailsWhole) {
     type(sheet, 1, CardColumn::Enter, u"25:00"_q);
     expectFailure(u"エラー番号：3317"_q); // never checked
     draw();
-    sheet.grid.TextMatrix(firstCardDay + 8, 1, u"27/04/09(金)"_q);
+    sheet.days[8].day.facts.date = *makeDay(2027, 4, 9);
     type(sheet, 8, CardColumn::Plan, u"会議"_q);
     expectFailure(u"エラー番号：3201"_q); // no such day in the calendar
     draw();

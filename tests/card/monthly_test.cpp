@@ -12,9 +12,12 @@ class Monthly : public CardOffice {
   protected:
     Monthly() { drawDays(sheet, *makeDay(2026, 3, 1), 31); }
 
-    // Columns 3 to 20, separated by "|".
-    static void fill(GridModel& grid, int row, const QString& sums) {
-        grid.fillRow(row, (u"|||"_q + sums + u"||||"_q).split(u'|'));
+    // Columns 3 to 20, separated by "|", as they are typed.
+    void type(const QString& sums) {
+        const QStringList texts = sums.split(u'|');
+        for (const QuantityFacts& facts : quantities)
+            sheet.finals[placeOf(facts.id)] =
+                readFigure(facts, texts[static_cast<qsizetype>(placeOf(facts.id))], rules.plngCountUnit);
     }
     static QString sums(const GridModel& grid, int row) {
         QStringList cells;
@@ -22,7 +25,7 @@ class Monthly : public CardOffice {
         return cells.join(u'|');
     }
     bool save(int month, const QString& finalSums) {
-        fill(sheet.grid, finalSumRow, finalSums);
+        type(finalSums);
         rules.psngPaidTotal = balance().toFloat();
         return UpdateMonthly(desk.context, connection, sheet, rules,
                              {u"1001"_q, u"S01"_q, {*makeDay(2026, month, 1), *makeDay(2026, month, 28)}});
@@ -52,29 +55,53 @@ const QString daySums = u"20|170:30|18.5|3:00|45:00|45:01||5:00|6:00|7:00|8:00|9
 TEST_F(Monthly, SumsAreCutAtThePersonsLimits) {
     connection.execute(u"UPDATE M07_AdjustHours SET F_LegalOver = 120, F_Over = 2700, F_Late = 2700, F_Early = 0, "
                        "F_Holiday = 0, F_LegalLate = 100 WHERE (F_AdjustCode = 1)"_q);
+    sheet.sums = {Count(20),
+                  10230min,
+                  DayHundredths(1850),
+                  180min,
+                  2700min,
+                  2701min,
+                  {},
+                  300min,
+                  360min,
+                  420min,
+                  480min,
+                  540min,
+                  DayHundredths(150),
+                  DayHundredths(0),
+                  DayHundredths(100),
+                  Count(2),
+                  Count(3),
+                  Count(4)};
+    const QString uncut = u"20|170:30|18.5|3:00|45:00|45:01||5:00|6:00|7:00|8:00|9:00|1.5|0.0|1.0|2|3|4"_q;
     const struct {
         QString staff;
         bool flexible;
         int unit;
-        QString of, sums;
+        QString sums, saved; // shown, and the fields from F_Work to F_Late
     } cases[] = {
-        {u"1001"_q, false, 1, daySums,
-         u"20|170:30|18.5|2:00|45:00|45:00||0:00|6:00|7:00|1:40|9:00|1.5|0.0|1.0|2|3|4"_q},
-        {u"1001"_q, true, 1, u"|||+9:00||||||||||||||"_q, u"|||+9:00||||||||||||||"_q},
-        {u"1001"_q, false, 0, u"20|170.5|18.5|2.02|45.0|45.02|0.0|0.0|6.0|7.0|1.67|9.0||||||"_q,
-         u"20|170.5|18.5|2.0|45.0|45.0|0.0|0.0|6.0|7.0|1.67|9.0||||||"_q},
-        {u"nobody"_q, false, 1, daySums, daySums},
+        {u"1001"_q, false, 1, u"20|170:30|18.5|2:00|45:00|45:00||0:00|6:00|7:00|1:40|9:00|1.5|0.0|1.0|2|3|4"_q,
+         u"10230 18.5 120 2700 2700"_q},
+        {u"1001"_q, true, 1, u"20|170:30|18.5|+9:00|45:00|45:00||0:00|6:00|7:00|1:40|9:00|1.5|0.0|1.0|2|3|4"_q,
+         u"10230 18.5 - 2700 2700"_q},
+        {u"1001"_q, false, 0, u"20|170.5|18.5|2.0|45.0|45.0||0.0|6.0|7.0|1.67|9.0|1.5|0.0|1.0|2|3|4"_q,
+         u"10230 18.5 120 2700 2700"_q},
+        {u"nobody"_q, false, 1, uncut, u"10230 18.5 180 2700 2701"_q},
     };
+    sheet.grid.TextMatrix(daySumRow, static_cast<int>(CardColumn::LegalOver), u"+9:00"_q);
     for (const auto& c : cases) {
         rules.pbleFlexTime = c.flexible;
         rules.plngCountUnit = c.unit;
-        fill(sheet.grid, daySumRow, c.of);
-        fill(sheet.grid, finalSumRow, u"9|9|9|9|9|9|9|9|9|9|9|9|9|9|9|9|9|9"_q);
+        rules.psngPaidTotal = balance().toFloat();
         sheet.blnMonthChanged = false;
         ASSERT_TRUE(AdjustMonthly(desk.context, connection, sheet, rules, c.staff));
         EXPECT_EQ(sums(sheet.grid, finalSumRow), c.sums);
-        EXPECT_EQ(sums(sheet.grid, daySumRow), c.of) << "the days' sums keep what was cut";
         EXPECT_TRUE(sheet.blnMonthChanged && sheet.grid.RowStatus(finalSumRow) != GridStatus::Modified);
+        ASSERT_TRUE(UpdateMonthly(desk.context, connection, sheet, rules,
+                                  {u"1001"_q, u"S01"_q, {*makeDay(2026, 3, 1), *makeDay(2026, 3, 31)}}));
+        EXPECT_EQ(asked(u"SELECT F_Work & ' ' & F_PaidTotal & ' ' & IIf(F_LegalOver Is Null, '-', F_LegalOver) & ' ' & "
+                        "F_Over & ' ' & F_Late FROM T05_Approved"_q),
+                  c.saved);
     }
 }
 
@@ -181,8 +208,7 @@ TEST_F(MonthlyScreen, QuestionsWarnOfMissingPunches) {
     EXPECT_FALSE(screen.updateMonthly());
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(count(u"T05_Approved"_q), 0);
-    for (int row = firstCardDay; row < screen.sheet.grid.Rows(); ++row)
-        screen.sheet.grid.TextMatrix(row, static_cast<int>(CardColumn::AbsentDay), {});
+    for (CardEntry& day : screen.sheet.days) day.absent = false;
     desk.prompts.expect(adjusting).expect(saving + u"\r\n\r\nよろしいですか？"_q);
     EXPECT_TRUE(screen.adjust() && screen.updateMonthly());
     EXPECT_TRUE(desk.prompts.last().text.endsWith(u"よろしいですか？\r\n\r\n"_q));
@@ -239,8 +265,7 @@ TEST_F(MonthlyScreen, ASavedMonthsLeaveIsDeductedOnce) {
     ASSERT_TRUE(screen.chooseMonth(2));
     EXPECT_EQ(cardText(screen.sheet.grid, daySumRow, CardColumn::Leave), u"19.5"_q) << "another month's start";
     ASSERT_TRUE(screen.chooseMonth(3));
-    screen.sheet.grid.TextMatrix(finalSumRow, static_cast<int>(CardColumn::Leave), {});
-    screen.sheet.blnMonthChanged = true;
+    edit(finalSumRow, CardColumn::Leave, {});
     desk.prompts.expect(saving);
     EXPECT_TRUE(screen.updateMonthly());
     EXPECT_EQ(save(), u"19.5"_q) << "a record without a balance has given back what it took";

@@ -6,19 +6,25 @@
 
 namespace kurbo::test {
 
-// Draws empty days from `first` on.
-inline void drawDays(CardSheet& sheet, Day first, int days) {
+// A card of texts alone, empty but for its dates from `first` on.
+inline Card emptyCard(Day first, int days) {
     Card card;
     card.headings = QStringList(cardColumns, QString());
     card.headings[7] = u"普通残業"_q;
     card.headings[18] = u"欠勤"_q;
     card.summary.fill(QStringList(cardColumns, QString()));
     for (int i = 0; i < days; ++i) {
+        CardDay day;
+        day.facts.date = first + std::chrono::days(i);
         card.days.append(QStringList(cardColumns, QString()));
-        card.days.last()[1] = shortDate(first + std::chrono::days(i));
+        card.days.last()[1] = shortDate(day.facts.date);
+        card.entries.emplace_back(day);
     }
-    fillCardGrid(sheet.grid, card);
-    sheet.drawn();
+    return card;
+}
+
+inline void drawDays(CardSheet& sheet, Day first, int days) {
+    sheet.show(emptyCard(first, days));
 }
 
 // Types into a cell of a day, which counts from 0, as the cell editor does.
@@ -26,8 +32,7 @@ inline void type(CardSheet& sheet, int day, CardColumn column, const QString& te
     const int row = firstCardDay + day;
     sheet.grid.TextMatrix(row, static_cast<int>(column), text);
     sheet.grid.RowStatus(row, GridStatus::Modified);
-    if (column == CardColumn::Enter) sheet.enterEdited.insert(row);
-    if (column == CardColumn::Leave) sheet.leaveEdited.insert(row);
+    sheet.dayAt(row)->read(column, text);
 }
 
 } // namespace kurbo::test

@@ -2,7 +2,6 @@
 
 #include "card/card_grid.h"
 #include "card/edit/card_entries.h"
-#include "card/edit/card_times.h"
 #include "month/figure_texts.h"
 
 #include <array>
@@ -33,42 +32,31 @@ Period periodOf(const QString& start, const QString& end) {
     return {*from, *to};
 }
 
-// One changed day row.
-class DayCheck final {
-  public:
-    DayCheck(const GridModel& grid, int row) : grid_(grid), row_(row), day_(dayOfRow(cell(CardColumn::Date))) {}
+[[noreturn]] void refuse(const CardEntry& day, const QString& why) {
+    throw Complaint(shortDate(day.day.facts.date) + why);
+}
 
-    void run() const {
-        if (!isPlanText(cell(CardColumn::Plan))) refuse(QStringLiteral("の予定が不正です。") + planDemand());
-        checkTimes();
-        for (const auto& leave : leaveNames) {
-            const QString word = cell(leave.column);
-            if (word.isEmpty() || isLeaveWord(word)) continue;
-            refuse(lines(u'の' + QString::fromUtf16(leave.name) + QStringLiteral("が不正です。"), listDemand()));
-        }
-    }
+void checkTimes(const CardEntry& day) {
+    const DayFacts& facts = day.day.facts;
+    if (!day.isReadable(CardColumn::Enter)) refuse(day, lines(QStringLiteral("の出社時刻が不正です。"), enterDemand()));
+    if (!day.isReadable(CardColumn::Leave))
+        refuse(day, lines(QStringLiteral("の退社時刻が不正です。"), leaveDemand(), QString(), nextDayDemand()));
+    // As the cells show them: a punch that wasn't edited without its seconds.
+    const auto shown = [](Moment time, bool edited) {
+        return edited ? time : Moment{std::chrono::floor<std::chrono::minutes>(time)};
+    };
+    if (facts.enter && facts.leave && shown(*facts.leave, day.leaveEdited) < shown(*facts.enter, day.enterEdited))
+        refuse(day, lines(QStringLiteral("の出退社時刻が不正です。"),
+                          QStringLiteral("退社時刻は出社時刻以降に設定して下さい。")));
+}
 
-  private:
-    [[nodiscard]] QString cell(CardColumn column) const { return cardText(grid_, row_, column); }
-    [[noreturn]] void refuse(const QString& why) const { throw Complaint(cell(CardColumn::Date) + why); }
-
-    void checkTimes() const {
-        const QString enterText = cell(CardColumn::Enter);
-        const QString leaveText = cell(CardColumn::Leave);
-        const auto enter = day_ ? enterTime(*day_, enterText) : std::nullopt;
-        const auto leave = day_ ? leaveTime(*day_, leaveText) : std::nullopt;
-        if (!enterText.isEmpty() && !enter) refuse(lines(QStringLiteral("の出社時刻が不正です。"), enterDemand()));
-        if (!leaveText.isEmpty() && !leave)
-            refuse(lines(QStringLiteral("の退社時刻が不正です。"), leaveDemand(), QString(), nextDayDemand()));
-        if (enter && leave && *leave < *enter)
-            refuse(lines(QStringLiteral("の出退社時刻が不正です。"),
-                         QStringLiteral("退社時刻は出社時刻以降に設定して下さい。")));
-    }
-
-    const GridModel& grid_;
-    int row_;
-    std::optional<Day> day_;
-};
+void checkDay(const CardEntry& day) {
+    if (!day.isReadable(CardColumn::Plan)) refuse(day, QStringLiteral("の予定が不正です。") + planDemand());
+    checkTimes(day);
+    for (const auto& leave : leaveNames)
+        if (!day.isReadable(leave.column))
+            refuse(day, lines(u'の' + QString::fromUtf16(leave.name) + QStringLiteral("が不正です。"), listDemand()));
+}
 
 QString sumName(const GridModel& grid, CardColumn column) {
     for (const auto& sum : sumNames)
@@ -76,15 +64,13 @@ QString sumName(const GridModel& grid, CardColumn column) {
     return cardText(grid, 0, column) + QStringLiteral("合計");
 }
 
-void checkSums(const GridModel& grid, const clsWorkTime& rules) {
+void checkSums(const CardSheet& sheet, const clsWorkTime& rules) {
     for (const QuantityFacts& facts : quantities) {
-        const CardColumn column = cardColumnOf(facts.id);
-        const SumForm form = sumForm(facts, rules.plngCountUnit);
-        const QString sum = cardText(grid, finalSumRow, column);
         // A time difference is never typed.
-        const bool typed = column != CardColumn::LegalOver || !rules.pbleFlexTime;
-        if (!typed || sum.isEmpty() || isSum(form, sum)) continue;
-        throw Complaint(sumName(grid, column) + QStringLiteral("が不正です。") + sumDemand(form));
+        const bool typed = facts.id != Quantity::LegalOver || !rules.pbleFlexTime;
+        if (!typed || sheet.finals[placeOf(facts.id)].readable) continue;
+        throw Complaint(sumName(sheet.grid, cardColumnOf(facts.id)) + QStringLiteral("が不正です。") +
+                        sumDemand(sumForm(facts, rules.plngCountUnit)));
     }
 }
 
@@ -100,8 +86,7 @@ bool CheckDayly(const Context& context, const CardSheet& sheet, const QString& s
         if (sheet.blnFileMode)
             throw Complaint(QStringLiteral("タイムカードファイルを呼出した状態で更新はできません。"));
         (void)periodOf(start, end);
-        for (int row = firstCardDay; row < sheet.grid.Rows(); ++row)
-            if (sheet.grid.RowStatus(row) == GridStatus::Modified) DayCheck(sheet.grid, row).run();
+        for (const CardEntry* const day : sheet.changedDays()) checkDay(*day);
         return true;
     });
 }
@@ -110,19 +95,17 @@ bool CheckMonthly(const Context& context, const CardSheet& sheet, const clsWorkT
     return guarded(context, u"frmKurbo", u"CheckMonthly", false, [&] {
         if (sheet.blnFileMode)
             throw Complaint(QStringLiteral("タイムカードファイルを呼出した状態で月次更新はできません。"));
-        checkSums(sheet.grid, rules);
+        checkSums(sheet, rules);
         return true;
     });
 }
 
-QString ListMissingPunch(const GridModel& grid) {
+QString ListMissingPunch(const CardSheet& sheet) {
     QStringList dates;
-    for (int row = firstCardDay; row < grid.Rows(); ++row) {
-        const QString date = cardText(grid, row, CardColumn::Date);
-        const bool entered = !cardText(grid, row, CardColumn::Enter).isEmpty();
-        const bool left = !cardText(grid, row, CardColumn::Leave).isEmpty();
-        if (entered != left) dates.append(date);
-        if (!cardText(grid, row, CardColumn::AbsentDay).isEmpty()) dates.append(date);
+    for (const CardEntry& day : sheet.days) {
+        const QString date = shortDate(day.day.facts.date);
+        if (day.hasEnter() != day.hasLeave()) dates.append(date);
+        if (day.absent) dates.append(date);
     }
     if (dates.isEmpty()) return {};
     QString list;

@@ -20,6 +20,6 @@ namespace kurbo {
 
 // The days with one punch of the two, and those that count as absent, two a line under a heading; empty when there are
 // none. A day with one punch that counts as absent stands there twice.
-[[nodiscard]] QString ListMissingPunch(const GridModel& grid);
+[[nodiscard]] QString ListMissingPunch(const CardSheet& sheet);
 
 } // namespace kurbo

@@ -138,17 +138,20 @@ QString CardRules::refusal(int row, int column, const QString& text) const {
         const SumForm form = sumForm(*facts, rules_.plngCountUnit);
         return isSum(form, text) ? QString() : refused(sumDemand(form));
     }
-    const auto day = dayOfRow(sheet_.grid.TextMatrix(row, static_cast<int>(CardColumn::Date)));
-    return day ? dayRefusal(own, *day, text) : QString();
+    const CardEntry* const day = sheet_.dayAt(row);
+    return day ? dayRefusal(own, day->day.facts.date, text) : QString();
 }
 
 void CardRules::edited(int row, int column) {
-    if (row < firstCardDay) {
-        sheet_.blnMonthChanged = true;
-    } else {
+    const QString text = sheet_.grid.TextMatrix(row, column);
+    const auto own = static_cast<CardColumn>(column);
+    if (CardEntry* const day = sheet_.dayAt(row)) {
+        day->read(own, text);
         sheet_.blnCardChanged = true;
-        if (column == static_cast<int>(CardColumn::Enter)) sheet_.enterEdited.insert(row);
-        if (column == static_cast<int>(CardColumn::Leave)) sheet_.leaveEdited.insert(row);
+    } else {
+        if (const QuantityFacts* const facts = row == finalSumRow ? quantityAt(own) : nullptr)
+            sheet_.finals[placeOf(facts->id)] = readFigure(*facts, text, rules_.plngCountUnit);
+        sheet_.blnMonthChanged = true;
     }
     if (sheet_.onEdit) sheet_.onEdit();
 }
@@ -178,9 +181,9 @@ bool CardRules::isJapanese(int column) const {
 
 QString CardRules::detail(int row, int column) const {
     const bool enter = column == static_cast<int>(CardColumn::Enter);
-    if (row < firstCardDay || (!enter && column != static_cast<int>(CardColumn::Leave))) return {};
-    const CardColumn full = enter ? CardColumn::FullEnter : CardColumn::FullLeave;
-    const auto punch = parseSlashMoment(sheet_.grid.TextMatrix(row, static_cast<int>(full)));
+    if (!enter && column != static_cast<int>(CardColumn::Leave)) return {};
+    const CardEntry* const entry = sheet_.dayAt(row);
+    const auto punch = !entry ? std::nullopt : enter ? entry->storedEnter : entry->storedLeave;
     if (!punch) return {};
     const Day day = dayOf(*punch);
     return slashDate(day) + shortDate(day).mid(8) +
