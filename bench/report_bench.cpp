@@ -7,7 +7,7 @@
 #include "paper/paper_painter.h"
 #include "paper/paper_pdf.h"
 #include "totals/rptTotal.h"
-#include "totals/total_grid.h"
+#include "totals/total_sheet.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -38,7 +38,8 @@ Totals makeYear() {
             row.name = QStringLiteral("社員　番号%1").arg(person);
             row.month = std::chrono::year(2026) / std::chrono::month(month);
             for (std::size_t i = 0; i < quantityCount; ++i)
-                row.figures[i] = (person * 37 + static_cast<int>(month) * 101 + static_cast<int>(i) * 13) % 3000;
+                row.figures[i] =
+                    Minutes((person * 37 + static_cast<int>(month) * 101 + static_cast<int>(i) * 13) % 3000);
             totals.rows.push_back(row);
         }
     return totals;
@@ -83,11 +84,11 @@ double bareFirst(const Pages& pages) {
     });
 }
 
-double ownFirst(const GridModel& grid) {
+double ownFirst(const TotalSheet& sheet) {
     QImage image(a4Landscape.width * screenDots / twipsPerInch, a4Landscape.height * screenDots / twipsPerInch,
                  QImage::Format_RGB32);
     return timed([&] {
-        const rptTotal report(grid, heading, *makeDay(2026, 4, 15));
+        const rptTotal report(sheet, heading, *makeDay(2026, 4, 15));
         image.fill(Qt::white);
         QPainter painter(&image);
         PaperPainter(painter, screenDots).paint(report.page(0));
@@ -109,9 +110,9 @@ double bareAll(const Pages& pages) {
     });
 }
 
-double ownAll(const GridModel& grid, const QString& file) {
+double ownAll(const TotalSheet& sheet, const QString& file) {
     NoProgress progress;
-    return timed([&] { (void)writePdf(rptTotal(grid, heading, *makeDay(2026, 4, 15)), file, progress); });
+    return timed([&] { (void)writePdf(rptTotal(sheet, heading, *makeDay(2026, 4, 15)), file, progress); });
 }
 
 } // namespace
@@ -119,9 +120,9 @@ double ownAll(const GridModel& grid, const QString& file) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    GridModel grid;
-    fillTotalGrid(grid, makeYear());
-    const Pages pages = pagesOf(rptTotal(grid, heading, *makeDay(2026, 4, 15)));
+    TotalSheet sheet;
+    sheet.show(makeYear());
+    const Pages pages = pagesOf(rptTotal(sheet, heading, *makeDay(2026, 4, 15)));
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("year.pdf"));
     Samples first;
@@ -130,9 +131,9 @@ int main(int argc, char** argv) {
     Samples allBare;
     for (int round = 0; round < rounds; ++round) {
         firstBare.add(bareFirst(pages));
-        first.add(ownFirst(grid));
+        first.add(ownFirst(sheet));
         allBare.add(bareAll(pages));
-        all.add(ownAll(grid, file));
+        all.add(ownAll(sheet, file));
     }
     std::printf("first page of %d: %.1f ms, bare %.1f ms, ratio %.2f\n", static_cast<int>(pages.size()),
                 first.at(50) / 1000, firstBare.at(50) / 1000, first.at(50) / firstBare.at(50));

@@ -8,7 +8,7 @@
 
 #include "demo/demo_company.h"
 #include "store/readers.h"
-#include "totals/total_grid.h"
+#include "totals/total_sheet.h"
 
 #include <QDir>
 #include <QFile>
@@ -126,9 +126,9 @@ TotalsQuestion question() {
 void measureMemory(const Context& context, Connection& connection) {
     const double before = memory("VmRSS");
     forgetPeak();
-    GridModel grid;
+    TotalSheet sheet;
     TotalsQuestion asked = question();
-    (void)ShowTotal(context, connection, asked, grid);
+    (void)ShowTotal(context, connection, asked, sheet);
     const double own = memory("VmRSS") - before;
     std::printf("memory: the grid %.1f MB, the peak %.1f MB, %.2f times the grid\n", own, memory("VmHWM") - before,
                 (memory("VmHWM") - before) / own);
@@ -150,8 +150,8 @@ void measure(const char* name, const Context& context, const QString& file) {
         const double reading = timed([&] { read = reader.read(); });
         std::optional<Totals> totals;
         const double calculation = timed([&] { totals = calculateTotals(context, connection, question()); });
-        GridModel grid;
-        const double filling = timed([&] { fillTotalGrid(grid, *totals); });
+        TotalSheet sheet;
+        const double filling = timed([&] { sheet.show(*totals); });
         made = totals->rows.size();
         bare.add(reading);
         typed.add(calculation);

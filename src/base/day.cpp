@@ -133,6 +133,10 @@ QString slashDate(Day day) {
     return Writer(10).date(day, u'/').text();
 }
 
+QString slashMonth(std::chrono::year_month month) {
+    return slashDate(Day{month / 1}).left(7);
+}
+
 QString shortDate(Day day) {
     const auto date = civil(day);
     return Writer(11)
@@ -204,6 +208,11 @@ std::optional<Day> parseSlashDate(QStringView text) {
     qsizetype from = 0;
     const auto day = slashDateAt(text, from);
     return from == text.size() ? day : std::nullopt;
+}
+
+std::optional<std::chrono::year_month> parseSlashMonth(QStringView text) {
+    const auto first = parseSlashDate(text.toString() + QStringLiteral("/01"));
+    return first ? std::optional(monthOf(*first)) : std::nullopt;
 }
 
 std::optional<Moment> parseSlashMoment(QStringView text) {

@@ -25,6 +25,9 @@ using Moment = std::chrono::local_seconds;
 [[nodiscard]] inline std::chrono::year_month_day civil(Day day) {
     return std::chrono::year_month_day{day};
 }
+[[nodiscard]] inline std::chrono::year_month monthOf(Day day) {
+    return civil(day).year() / civil(day).month();
+}
 [[nodiscard]] int yearOf(Day day);
 [[nodiscard]] int dayOfMonth(Day day);
 // The same day `months` later; a day past the end of its month becomes the month's last (01/31 + 1 = 02/28).
@@ -33,6 +36,8 @@ using Moment = std::chrono::local_seconds;
 // "yyyymmdd", "yyyy/mm/dd", "hh:nn", "yyyy/mm/dd hh:nn:ss" and the stored form "yyyy-mm-dd hh:nn:ss".
 [[nodiscard]] QString dateId(Day day);
 [[nodiscard]] QString slashDate(Day day);
+// "yyyy/mm"
+[[nodiscard]] QString slashMonth(std::chrono::year_month month);
 [[nodiscard]] QString hourMinute(Moment moment);
 // "yy/mm/dd(aaa)", aaa being the weekday's one letter.
 [[nodiscard]] QString shortDate(Day day);
@@ -45,6 +50,8 @@ using Moment = std::chrono::local_seconds;
 [[nodiscard]] std::optional<Day> parseDateId(QStringView text);
 // "yyyy/mm/dd", also with one-digit month and day.
 [[nodiscard]] std::optional<Day> parseSlashDate(QStringView text);
+// "yyyy/mm", also with a one-digit month.
+[[nodiscard]] std::optional<std::chrono::year_month> parseSlashMonth(QStringView text);
 // "yyyy/mm/dd", optionally followed by a blank and "hh:nn" or "hh:nn:ss".
 [[nodiscard]] std::optional<Moment> parseSlashMoment(QStringView text);
 // "hh:nn" or "hh:nn:ss" from midnight, also with one-digit parts; hours 0 to 23.

@@ -3,10 +3,6 @@
 namespace kurbo {
 namespace {
 
-int monthOf(Day day) {
-    return static_cast<int>(static_cast<unsigned>(civil(day).month()));
-}
-
 // The years that a calendar shows between two days, less one when the last is not yet whole.
 int wholeYears(Day from, Day to) {
     const int years = yearOf(to) - yearOf(from);
@@ -14,19 +10,19 @@ int wholeYears(Day from, Day to) {
 }
 
 int wholeMonths(Day from, Day to) {
-    const int months = (yearOf(to) - yearOf(from)) * 12 + monthOf(to) - monthOf(from);
+    const auto months = static_cast<int>((monthOf(to) - monthOf(from)).count());
     return addMonths(from, months) > to ? months - 1 : months;
 }
 
 } // namespace
 
 std::optional<Day> NthWeekday(Day dateInMonth, int nth, int weekday) {
-    const auto month = civil(dateInMonth);
-    const int first = static_cast<int>(
-        std::chrono::weekday{Day{month.year() / month.month() / std::chrono::day{1}}}.c_encoding() + 1);
+    const Day firstDay{monthOf(dateInMonth) / 1};
+    const int first = static_cast<int>(std::chrono::weekday{firstDay}.c_encoding() + 1);
     const int week = weekday < first ? nth : nth - 1;
     const int day = week * 7 + weekday - first + 1;
-    return makeDay(yearOf(dateInMonth), monthOf(dateInMonth), day);
+    const std::chrono::year_month_day found = monthOf(dateInMonth) / day;
+    return day > 0 && found.ok() ? std::optional(Day{found}) : std::nullopt;
 }
 
 QString YearsAndMonths(Day from, std::optional<Day> to, Day today) {

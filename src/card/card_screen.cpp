@@ -9,10 +9,6 @@
 namespace kurbo {
 namespace {
 
-int monthOf(Day day) {
-    return static_cast<int>(static_cast<unsigned>(civil(day).month()));
-}
-
 bool isFirstOfMonth(Day day) {
     return dayOfMonth(day) == 1;
 }
@@ -34,21 +30,24 @@ Period oneMonthFrom(Day from) {
 } // namespace
 
 CardScreen::CardScreen(Client& client)
-    : client_(client), reader_{client.session.access}, cells_(sheet, reader_, rules_) {
+    : client_(client),
+      reader_{client.session.access},
+      cells_(sheet, reader_, chosen_.rules),
+      month_(client, sheet, chosen_, reader_) {
     sheet.grid.setRules(&cells_);
 }
 
 bool CardScreen::load() {
-    section_ = client_.session.SessionSection;
-    staff_ = client_.session.SessionStaff;
+    chosen_.section = client_.session.SessionSection;
+    chosen_.staff = client_.session.SessionStaff;
     clsWorkTime rules;
-    if (!readLists() || !loadRules(staff_, rules)) return false;
+    if (!readLists() || !loadRules(chosen_.staff, rules)) return false;
     const auto base = baseDate();
     if (!base) return false;
     const auto first = parseSlashDate(PeriodStartDate(*base, rules.plngCloseDay(), client_.context.clock.today()));
     if (!first) return false;
     choosePeriod(oneMonthFrom(*first));
-    return ShowKurbo(staff_, period_, rules);
+    return ShowKurbo(chosen_.staff, chosen_.period, rules);
 }
 
 bool CardScreen::readLists() {
@@ -60,8 +59,8 @@ bool CardScreen::readLists() {
 }
 
 void CardScreen::readPeople() {
-    people_ = displayedStaff(connection(), section_);
-    listSection_ = section_;
+    people_ = displayedStaff(connection(), chosen_.section);
+    listSection_ = chosen_.section;
 }
 
 bool CardScreen::loadRules(const QString& staff, clsWorkTime& rules) const {
@@ -87,31 +86,22 @@ bool CardScreen::hasCalendarIn(Period period) const {
 
 // The month of a period is the month of its end.
 void CardScreen::choosePeriod(Period period) {
-    setPeriod(period);
-    year_ = yearOf(period.to);
-    month_ = monthOf(period.to);
+    chosen_.setPeriod(period);
+    chosen_.month = monthOf(period.to);
 }
 
 bool CardScreen::ShowKurbo(const QString& staff, Period period, clsWorkTime& rules) {
     auto card = makeCard(client_.context, connection(), rules, staff, period);
     if (!card) return false;
-    rules_ = rules;
+    chosen_.rules = rules;
     reader_.blnMyCard = staff == client_.session.SessionStaff;
     reader_.cardShown = true;
-    wholePeriod_ = approvable_ = monthUnsaved_ = card->wholePeriod;
-    personalApproval_ = card->personalApproval;
-    superiorApproval_ = card->superiorApproval;
+    month_.drawn({card->wholePeriod, card->personalApproval, card->superiorApproval});
     sheet.show(*std::move(card));
-    alive_ = true;
     ++drawings_;
-    drawn_ = period;
-    setPeriod(period);
+    chosen_.drawn = period;
+    chosen_.setPeriod(period);
     return true;
-}
-
-void CardScreen::setPeriod(Period period) {
-    period_ = period;
-    ++periodChanges_;
 }
 
 void CardScreen::leave() {
@@ -137,9 +127,9 @@ bool CardScreen::mayClose() const {
 bool CardScreen::chooseSection(const QString& section) {
     if (!mayDiscard()) return false;
     return guarded(client_.context, u"frmKurbo", u"dcbSection_Change", false, [&] {
-        if (!switchSection(client_, section, period_.from, period_.to)) return false;
-        section_ = section;
-        staff_.clear();
+        if (!switchSection(client_, section, chosen_.period.from, chosen_.period.to)) return false;
+        chosen_.section = section;
+        chosen_.staff.clear();
         people_.clear();
         reader_.cardShown = false;
         sheet.drawn();
@@ -151,61 +141,58 @@ bool CardScreen::chooseSection(const QString& section) {
 bool CardScreen::chooseStaff(const QString& staff) {
     if (!mayDiscard()) return false;
     if (staff.isEmpty()) {
-        staff_.clear();
+        chosen_.staff.clear();
         reader_.cardShown = false;
         sheet.drawn();
         return true;
     }
     clsWorkTime rules;
     if (!loadRules(staff, rules)) return false;
-    const auto period = periodOfMonth(year_, month_, rules.plngCloseDay());
+    const auto period = periodOfMonth(chosen_.month, rules.plngCloseDay());
     if (!period || !hasCalendarIn(*period) || !ShowKurbo(staff, *period, rules)) return false;
-    section_ = listSection_;
-    staff_ = staff;
+    chosen_.section = listSection_;
+    chosen_.staff = staff;
     return true;
 }
 
 bool CardScreen::chooseMonth(int month) {
-    if (!hasName() || !mayDiscard() || !leaveFile()) return false;
-    const auto period = periodOfMonth(year_, month, rules_.plngCloseDay());
+    if (!hasName(client_.context, chosen_) || !mayDiscard() || !leaveFile()) return false;
+    const auto wanted = chosen_.month.year() / std::chrono::month(static_cast<unsigned>(month));
+    const auto period = periodOfMonth(wanted, chosen_.rules.plngCloseDay());
     if (!period || !hasCalendarIn(*period) || !redraw(*period)) return false;
-    month_ = month;
+    chosen_.month = wanted;
     return true;
 }
 
 // Two boxes that hold no dates stand for the period of the chosen month.
 bool CardScreen::moveYears(int years, const QString& start, const QString& end) {
-    if (!hasName() || !mayDiscard() || !leaveFile()) return false;
+    if (!hasName(client_.context, chosen_) || !mayDiscard() || !leaveFile()) return false;
     const auto from = parseSlashDate(start);
     const auto to = parseSlashDate(end);
-    auto period = from && to ? std::optional(Period{*from, *to}) : periodOfMonth(year_, month_, rules_.plngCloseDay());
+    auto period = from && to ? std::optional(Period{*from, *to}) : chosen_.periodOfChosenMonth();
     if (!period) return false;
     *period = yearsLater(*period, years);
     if (!hasCalendarIn(*period) || !redraw(*period)) return false;
-    year_ += years;
+    chosen_.month += std::chrono::years(years);
     return true;
 }
 
 bool CardScreen::display(const QString& start, const QString& end) {
     const auto period = checkedPeriod(client_.context, start, end);
-    return period && hasName() && mayDiscard() && leaveFile() && hasCalendarIn(*period) && redraw(*period);
-}
-
-bool CardScreen::hasName() const {
-    if (staff_.isEmpty()) client_.context.prompts.exclaim(QStringLiteral("氏名が入力されていません。"));
-    return !staff_.isEmpty();
+    return period && hasName(client_.context, chosen_) && mayDiscard() && leaveFile() && hasCalendarIn(*period) &&
+           redraw(*period);
 }
 
 bool CardScreen::update(const QString& start, const QString& end) {
     Prompts& prompts = client_.context.prompts;
-    if (!hasName() || !CheckDayly(client_.context, sheet, start, end)) return false;
+    if (!hasName(client_.context, chosen_) || !CheckDayly(client_.context, sheet, start, end)) return false;
     if (prompts.ask({{},
                      lines(QStringLiteral("追加・変更を更新します。"), QString(), QStringLiteral("よろしいですか？")),
                      Icon::Question,
                      Buttons::OkCancel,
                      Answer::Ok}) != Answer::Ok)
         return false;
-    if (!UpdateDayly(client_.context, connection(), sheet, staff_)) {
+    if (!UpdateDayly(client_.context, connection(), sheet, chosen_.staff)) {
         prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;
     }
@@ -220,12 +207,12 @@ bool CardScreen::deletePeriod(const QString& start, const QString& end) {
         return false;
     }
     const auto period = checkedPeriod(client_.context, start, end);
-    if (!period || !hasName() || !mayDiscard()) return false;
+    if (!period || !hasName(client_.context, chosen_) || !mayDiscard()) return false;
     const QString question =
         lines(QStringLiteral("表示期間(%1～%2)の出退勤データ及び外出データを削除します。").arg(start, end),
               QStringLiteral("削除したデータは復活できません。"), QString(), QStringLiteral("よろしいですか？"));
     if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) != Answer::Ok) return false;
-    if (!DeleteKurbo(client_.context, connection(), staff_, period->from, period->to)) {
+    if (!DeleteKurbo(client_.context, connection(), chosen_.staff, period->from, period->to)) {
         prompts.exclaim(QStringLiteral("出退勤データの削除に失敗しました。"));
         return false;
     }
@@ -241,8 +228,8 @@ bool CardScreen::drawStored(Period period) {
 
 // The balance may have followed a month that was saved since.
 bool CardScreen::redraw(Period period) {
-    clsWorkTime rules = rules_;
-    return GetStaffInfo(client_.context, connection(), rules, staff_) && ShowKurbo(staff_, period, rules);
+    clsWorkTime rules = chosen_.rules;
+    return GetStaffInfo(client_.context, connection(), rules, chosen_.staff) && ShowKurbo(chosen_.staff, period, rules);
 }
 
 int CardScreen::todayRow() const {

@@ -45,10 +45,10 @@ QList<CodeName> withNames(QList<CodeName> list, const QList<CodeName>& names) {
 } // namespace
 
 bool CardScreen::saveKrb(const QString& start, const QString& end) {
-    if (!hasName() || !checkedPeriod(client_.context, start, end)) return false;
+    if (!hasName(client_.context, chosen_) || !checkedPeriod(client_.context, start, end)) return false;
     const auto file = client_.context.prompts.saveFile(sheetFilter(), QStringLiteral("krb"));
     return file && guarded(client_.context, u"frmKurbo", u"SaveKurbo", false, [&] {
-               saveSheet(*file, cardMember(), sheet.grid, {section_, staff_, start, end});
+               saveSheet(*file, cardMember(), sheet.grid, {chosen_.section, chosen_.staff, start, end});
                return true;
            });
 }
@@ -63,10 +63,10 @@ bool CardScreen::loadKrb() {
                file_ = {};
                const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid, checkDates);
                sheet.days = entriesOf(sheet.grid);
-               section_ = selection[0];
-               staff_ = selection[1];
+               chosen_.section = selection[0];
+               chosen_.staff = selection[1];
                choosePeriod({*parseSlashDate(selection[2]), *parseSlashDate(selection[3])});
-               personalApproval_ = superiorApproval_ = false;
+               month_.forgetApprovals();
                file_.name = QFileInfo(*file).fileName();
                readFileNames();
                return true;
@@ -79,8 +79,9 @@ void CardScreen::readFileNames() {
         const auto found = connection().firstValue(statement, {code});
         return found ? QList<CodeName>{{code, found->text()}} : QList<CodeName>();
     };
-    file_.section = name(QStringLiteral("SELECT F_SectionName FROM C02_Section WHERE (F_SectionCode = ?);"), section_);
-    file_.person = name(QStringLiteral("SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = ?);"), staff_);
+    file_.section =
+        name(QStringLiteral("SELECT F_SectionName FROM C02_Section WHERE (F_SectionCode = ?);"), chosen_.section);
+    file_.person = name(QStringLiteral("SELECT F_StaffName FROM C03_Staff WHERE (F_StaffCode = ?);"), chosen_.staff);
 }
 
 QList<CodeName> CardScreen::sections() const {
@@ -96,18 +97,18 @@ bool CardScreen::leaveFile() {
     if (!sheet.blnFileMode) return true;
     return guarded(client_.context, u"frmKurbo", u"LoadKurbo", false, [this] {
         const Session& session = client_.session;
-        const bool own = staff_ == session.SessionStaff && section_ == session.SessionSection;
+        const bool own = chosen_.staff == session.SessionStaff && chosen_.section == session.SessionSection;
         if (own)
             leaveSection(client_);
-        else if (!switchSection(client_, section_, period_.from, period_.to))
+        else if (!switchSection(client_, chosen_.section, chosen_.period.from, chosen_.period.to))
             return false;
         readPeople();
-        const bool known = std::ranges::find(people_, staff_, &CodeName::code) != people_.end();
+        const bool known = std::ranges::find(people_, chosen_.staff, &CodeName::code) != people_.end();
         if (!own && !known)
             throw Complaint(QStringLiteral("アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"));
         clsWorkTime rules;
-        if (!loadRules(staff_, rules)) return false;
-        rules_ = rules;
+        if (!loadRules(chosen_.staff, rules)) return false;
+        chosen_.rules = rules;
         return true;
     });
 }

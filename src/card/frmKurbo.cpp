@@ -96,15 +96,15 @@ void frmKurbo::connectCommands() {
 }
 
 void frmKurbo::connectMonth() {
-    onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.adjust(); });
-    onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.updateMonthly(); });
-    const auto onMark = [this](QCheckBox* box, bool (CardScreen::*approve)(bool, const QString&, const QString&)) {
+    onCommand(nullptr, ui_->mnuAdjust, [this] { screen_.month().adjust(); });
+    onCommand(nullptr, ui_->mnuUpdateMonthly, [this] { screen_.month().update(); });
+    const auto onMark = [this](QCheckBox* box, bool (CardMonth::*approve)(bool, const QString&, const QString&)) {
         connect(box, &QCheckBox::toggled, this, [this, approve](bool approved) {
-            run([&] { (screen_.*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
+            run([&] { (screen_.month().*approve)(approved, ui_->mskStart->maskText(), ui_->mskEnd->maskText()); });
         });
     };
-    onMark(ui_->chkPersonal, &CardScreen::approvePersonal);
-    onMark(ui_->chkSuperior, &CardScreen::approveSuperior);
+    onMark(ui_->chkPersonal, &CardMonth::approvePersonal);
+    onMark(ui_->chkSuperior, &CardMonth::approveSuperior);
 }
 
 void frmKurbo::load() {
@@ -120,14 +120,14 @@ void frmKurbo::load() {
 void frmKurbo::sectionChosen() {
     const QString code = ui_->dcbSection->isInList() ? ui_->dcbSection->boundText() : QString();
     if (blnShowing_) return;
-    if (code.isEmpty() || (code == screen_.section() && !screen_.sheet.blnFileMode)) return showNames();
+    if (code.isEmpty() || (code == screen_.chosen().section && !screen_.sheet.blnFileMode)) return showNames();
     run([this, &code] { screen_.chooseSection(code); });
 }
 
 void frmKurbo::staffChosen() {
     const QString code = ui_->dcbStaff->boundText();
     if (blnShowing_) return;
-    if (code == screen_.staff() || (!code.isEmpty() && !ui_->dcbStaff->isInList())) return showNames();
+    if (code == screen_.chosen().staff || (!code.isEmpty() && !ui_->dcbStaff->isInList())) return showNames();
     run([this, &code] { screen_.chooseStaff(code); });
 }
 
@@ -155,9 +155,10 @@ void frmKurbo::showState() {
 void frmKurbo::showTop() {
     if (drawings_ == screen_.drawings()) return;
     drawings_ = screen_.drawings();
-    const bool other = !drawnStaff_.isEmpty() && (drawnStaff_ != screen_.staff() || drawnPeriod_ != screen_.period());
-    drawnStaff_ = screen_.staff();
-    drawnPeriod_ = screen_.period();
+    const bool other =
+        !drawnStaff_.isEmpty() && (drawnStaff_ != screen_.chosen().staff || drawnPeriod_ != screen_.chosen().period);
+    drawnStaff_ = screen_.chosen().staff;
+    drawnPeriod_ = screen_.chosen().period;
     if (!other || screen_.sheet.grid.Rows() <= firstCardDay) return;
     ui_->vfgKurbo->Select(firstCardDay, std::max(ui_->vfgKurbo->Col(), 0));
     ui_->vfgKurbo->scrollToTop();
@@ -166,20 +167,20 @@ void frmKurbo::showTop() {
 void frmKurbo::showNames() {
     const QScopedValueRollback showing(blnShowing_, true);
     ui_->dcbSection->setEntries(screen_.sections());
-    ui_->dcbSection->setBoundText(screen_.section());
+    ui_->dcbSection->setBoundText(screen_.chosen().section);
     ui_->dcbStaff->setEntries(screen_.people());
-    ui_->dcbStaff->setBoundText(screen_.staff());
+    ui_->dcbStaff->setBoundText(screen_.chosen().staff);
 }
 
 void frmKurbo::showPeriod() {
-    if (screen_.year() == 0) return;
-    ui_->txtYear->setText(QString::number(screen_.year()));
-    optMonth_[static_cast<std::size_t>(screen_.month() - 1)]->setChecked(true);
+    if (!screen_.chosen().month.ok()) return;
+    ui_->txtYear->setText(QString::number(static_cast<int>(screen_.chosen().month.year())));
+    optMonth_[static_cast<std::size_t>(static_cast<unsigned>(screen_.chosen().month.month()) - 1)]->setChecked(true);
     // Dates that were typed and not shown yet stay.
-    if (periodChanges_ == screen_.periodChanges()) return;
-    periodChanges_ = screen_.periodChanges();
-    ui_->mskStart->setDay(screen_.period().from);
-    ui_->mskEnd->setDay(screen_.period().to);
+    if (periodChanges_ == screen_.chosen().periodChanges) return;
+    periodChanges_ = screen_.chosen().periodChanges;
+    ui_->mskStart->setDay(screen_.chosen().period.from);
+    ui_->mskEnd->setDay(screen_.chosen().period.to);
 }
 
 void frmKurbo::showCommands() {
@@ -198,18 +199,18 @@ void frmKurbo::showCommands() {
     ui_->cmdUpdate->setEnabled(changed);
     ui_->mnuUpdate->setEnabled(changed);
     ui_->mnuDelete->setEnabled(alive && screen_.mayDelete());
-    ui_->mnuAdjust->setEnabled(screen_.mayAdjust());
-    ui_->mnuUpdateMonthly->setEnabled(screen_.mayUpdateMonthly());
+    ui_->mnuAdjust->setEnabled(screen_.month().mayAdjust());
+    ui_->mnuUpdateMonthly->setEnabled(screen_.month().mayUpdate());
     ui_->cmdGoOut->setEnabled(alive && screen_.mayGoOut());
     ui_->mnuGoOut->setEnabled(alive && screen_.mayGoOut());
     for (QWidget* const combo : {ui_->dcbSection, ui_->dcbStaff}) combo->setEnabled(alive && screen_.mayChooseOthers());
 }
 
 void frmKurbo::showApproval() {
-    showMark(*ui_->chkPersonal, screen_.personalApproval());
-    showMark(*ui_->chkSuperior, screen_.superiorApproval());
-    ui_->chkPersonal->setEnabled(screen_.mayApprovePersonal());
-    ui_->chkSuperior->setEnabled(screen_.mayApproveSuperior());
+    showMark(*ui_->chkPersonal, screen_.month().personalApproval());
+    showMark(*ui_->chkSuperior, screen_.month().superiorApproval());
+    ui_->chkPersonal->setEnabled(screen_.month().mayApprovePersonal());
+    ui_->chkSuperior->setEnabled(screen_.month().mayApproveSuperior());
 }
 
 void frmKurbo::closeEvent(QCloseEvent* event) {

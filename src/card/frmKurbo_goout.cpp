@@ -33,7 +33,8 @@ bool frmKurbo::refusesFileMode(const QString& message) const {
 }
 
 void frmKurbo::openGoOut() {
-    if (screen_.staff().isEmpty()) return client_.context.prompts.exclaim(QStringLiteral("氏名が入力されていません。"));
+    if (screen_.chosen().staff.isEmpty())
+        return client_.context.prompts.exclaim(QStringLiteral("氏名が入力されていません。"));
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
     if (!period || refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細の表示はできません。")))
         return;
@@ -55,7 +56,8 @@ void frmKurbo::showGoOutDay() {
 }
 
 void frmKurbo::followRow() {
-    if (!isGoOutOpen() || blnShowing_ || goOutAsking_ || screen_.staff().isEmpty() || screen_.sheet.blnFileMode) return;
+    if (!isGoOutOpen() || blnShowing_ || goOutAsking_ || screen_.chosen().staff.isEmpty() || screen_.sheet.blnFileMode)
+        return;
     if (cardText(screen_.sheet.grid, ui_->vfgKurbo->Row(), CardColumn::Date) == goOutDate_) return;
     const QScopedValueRollback asking(goOutAsking_, true);
     if (frmGoOut_->mayLeaveDay())

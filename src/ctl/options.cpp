@@ -47,9 +47,9 @@ std::optional<Day> Options::day(const QString& name) const {
 }
 
 std::chrono::year_month Options::month(const QString& name) const {
-    const auto first = parseSlashDate(needed(name) + QStringLiteral("/01"));
-    if (!first) throw WrongUse{QStringLiteral("--%1 takes a month, yyyy/mm").arg(name)};
-    return civil(*first).year() / civil(*first).month();
+    const auto month = parseSlashMonth(needed(name));
+    if (!month) throw WrongUse{QStringLiteral("--%1 takes a month, yyyy/mm").arg(name)};
+    return *month;
 }
 
 std::unique_ptr<Clock> Options::clock() const {

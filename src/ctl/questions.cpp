@@ -46,10 +46,8 @@ Period askedPeriod(const Options& options, int closeDay) {
     if (options.has(QStringLiteral("month")) && (from || to)) throw unclear;
     if (from && to && *to < *from) throw WrongUse{toBeforeFrom()};
     if (from && to) return {*from, *to};
-    const auto month = parseSlashDate(options.value(QStringLiteral("month")) + QStringLiteral("/01"));
-    const auto period =
-        month ? periodOfMonth(yearOf(*month), static_cast<int>(static_cast<unsigned>(civil(*month).month())), closeDay)
-              : std::nullopt;
+    const auto month = parseSlashMonth(options.value(QStringLiteral("month")));
+    const auto period = month ? periodOfMonth(*month, closeDay) : std::nullopt;
     if (!period) throw unclear;
     return *period;
 }

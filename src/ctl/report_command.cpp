@@ -9,7 +9,7 @@
 #include "paper/paper_pdf.h"
 #include "store/file/database_file.h"
 #include "totals/rptTotal.h"
-#include "totals/total_grid.h"
+#include "totals/total_sheet.h"
 #include "totals/total_update.h"
 
 #include <algorithm>
@@ -39,11 +39,11 @@ Made totalsReport(const Context& context, Connection& connection, const Options&
         throw WrongUse{QStringLiteral("totals takes --from and --to, no --month")};
     TotalsQuestion question = askedTotals(options);
     const AskedPerson who = askedPeople(connection, question);
-    GridModel grid;
-    const auto totals = ShowTotal(context, connection, question, grid);
+    TotalSheet sheet;
+    const auto totals = ShowTotal(context, connection, question, sheet);
     if (!totals) return {};
     const TotalHeading heading{slashMonth(question.from), slashMonth(question.to), who.section, who.staff};
-    return {std::make_unique<rptTotal>(grid, heading, context.clock.today()), totals->faults.isEmpty()};
+    return {std::make_unique<rptTotal>(sheet, heading, context.clock.today()), totals->faults.isEmpty()};
 }
 
 Made goOutReport(const Context& context, Connection& connection, const Options& options) {

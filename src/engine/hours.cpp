@@ -60,11 +60,11 @@ QString PeriodStartDate(Day date, int closeDay, Day today) {
     return slashDate(start > today ? addMonths(start, -1) : start);
 }
 
-std::optional<Period> periodOfMonth(int year, int month, int closeDay) {
-    const auto first = makeDay(year, month, 1);
+std::optional<Period> periodOfMonth(std::chrono::year_month month, int closeDay) {
     const bool wholeMonth = closeDay == 31;
-    if (!first || !(wholeMonth || (closeDay >= 1 && closeDay <= 27))) return {};
-    const Day from = wholeMonth ? *first : addMonths(*first, -1) + std::chrono::days(closeDay);
+    if (!month.ok() || !(wholeMonth || (closeDay >= 1 && closeDay <= 27))) return {};
+    const Day first{month / 1};
+    const Day from = wholeMonth ? first : addMonths(first, -1) + std::chrono::days(closeDay);
     return Period{from, addMonths(from, 1) - std::chrono::days(1)};
 }
 

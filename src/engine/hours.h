@@ -31,7 +31,7 @@ struct Period {
     friend bool operator==(const Period&, const Period&) = default;
 };
 
-// The card period whose last day lies in the month; nothing for a bad close day. `month` 1 to 12.
-[[nodiscard]] std::optional<Period> periodOfMonth(int year, int month, int closeDay);
+// The card period whose last day lies in the month; nothing for a bad close day and for a month that isn't one.
+[[nodiscard]] std::optional<Period> periodOfMonth(std::chrono::year_month month, int closeDay);
 
 } // namespace kurbo

@@ -36,10 +36,7 @@ void checkMonths(const MoveOrder& order, Day today) {
 
 // The card period in which the day lies.
 std::optional<Period> runningPeriod(int closeDay, Day today) {
-    const auto inMonth = [closeDay](Day day) {
-        const std::chrono::year_month_day date{day};
-        return periodOfMonth(yearOf(day), static_cast<int>(static_cast<unsigned>(date.month())), closeDay);
-    };
+    const auto inMonth = [closeDay](Day day) { return periodOfMonth(monthOf(day), closeDay); };
     const auto period = inMonth(today);
     return period && period->to < today ? inMonth(addMonths(today, 1)) : period;
 }

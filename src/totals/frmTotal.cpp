@@ -96,8 +96,7 @@ void frmTotal::print() {
                                {ui_->dcbSection->boundText(), ui_->dcbSection->currentText()},
                                {ui_->dcbStaff->boundText(), ui_->dcbStaff->currentText()}};
     guarded(client_.context, u"rptTotal", u"ActiveReport_ReportStart", [&] {
-        showPreview(std::make_unique<rptTotal>(screen_.sheet.grid, heading, client_.context.clock.today()), client_,
-                    this);
+        showPreview(std::make_unique<rptTotal>(screen_.sheet, heading, client_.context.clock.today()), client_, this);
     });
 }
 

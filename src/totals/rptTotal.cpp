@@ -1,7 +1,6 @@
 #include "totals/rptTotal.h"
 
 #include "base/product.h"
-#include "totals/totals.h"
 
 #include <algorithm>
 #include <array>
@@ -38,25 +37,13 @@ constexpr std::span figures = std::span(columns).subspan(firstColumn);
 constexpr int lineHeight = 250;
 constexpr int fontSize = 165;
 
-bool isByMonth(const GridModel& grid) {
-    return grid.TextMatrix(0, at(TotalColumn::First)) == u"年月";
-}
-
-// Sums have no person.
-bool isSum(const GridModel& grid, int row) {
-    return grid.TextMatrix(row, at(TotalColumn::Staff)).isEmpty();
-}
-
 QString subTotal() {
     return QStringLiteral("小計");
 }
 
-// The group and the line's own words.
-std::pair<QString, QString> wordsOf(const GridModel& grid, int row) {
-    QString first = grid.TextMatrix(row, at(TotalColumn::First));
-    if (!isSum(grid, row) || !first.endsWith(subTotal())) return {first, grid.TextMatrix(row, at(TotalColumn::Second))};
-    first.chop(subTotal().size() + 1);
-    return {first, subTotal()};
+// The group's line beside the name or the month that stands under it.
+QString lineOf(const TotalSheet& sheet, int row) {
+    return sheet.at(row)->kind == LineKind::SubTotal ? subTotal() : sheet.grid.TextMatrix(row, at(TotalColumn::Second));
 }
 
 // Of a name that is too long for its field the code behind it stays.
@@ -73,16 +60,16 @@ QString withoutOpenBracket(const QString& cell, int bytes) {
 }
 
 // Figures of a person's month are as long as their fields; sums may be longer.
-QStringList recordOf(const GridModel& grid, int row, bool byMonth, const QString& groupAbove) {
-    const bool whole = isSum(grid, row);
-    const auto [group, line] = wordsOf(grid, row);
+QStringList recordOf(const TotalSheet& sheet, int row, const QString& groupAbove) {
+    const TotalEntry& entry = *sheet.at(row);
+    const QString line = lineOf(sheet, row);
     QStringList cells;
     cells.reserve(std::ssize(columns));
-    cells << (byMonth ? group : line) << (byMonth ? line : group);
-    cells << (line == subTotal() ? groupAbove : groupText(group, grid.TextMatrix(row, at(TotalColumn::Staff))));
+    cells << (sheet.byStaff ? line : entry.group) << (sheet.byStaff ? entry.group : line);
+    cells << (entry.kind == LineKind::SubTotal ? groupAbove : groupText(entry.group, entry.staff));
     for (const ReportColumn& column : figures) {
-        const QString cell = grid.TextMatrix(row, column.column);
-        cells.append(whole ? cell : withoutOpenBracket(cell, column.bytes));
+        const QString cell = sheet.grid.TextMatrix(row, column.column);
+        cells.append(entry.kind != LineKind::Month ? cell : withoutOpenBracket(cell, column.bytes));
     }
     return cells;
 }
@@ -92,16 +79,16 @@ void moveRight(ReportSection& section, int by) {
         if (control.column >= 0) control.left += by;
 }
 
-ReportSection pageHeader(const GridModel& grid, const TotalHeading& heading) {
+ReportSection pageHeader(const TotalSheet& sheet, const TotalHeading& heading) {
     ReportSection header;
     addTitle(header, QStringLiteral("月次集計"),
              reportHeading(heading.start + u'～' + heading.end, heading.section, heading.staff),
              labelWidth + widthOf(figures));
     const RowLook look{.top = titleHeight, .height = 280, .fontSize = 155, .fill = headingPaper};
-    addCaptions(header, figures, look, u"lbl", cellsOf(grid, 0, figures));
+    addCaptions(header, figures, look, u"lbl", cellsOf(sheet.grid, 0, figures));
     moveRight(header, labelWidth);
     header.controls.push_back(label(QStringLiteral("lblDetail"),
-                                    isByMonth(grid) ? QStringLiteral("氏名") : QStringLiteral("年月"), 0, labelWidth,
+                                    sheet.byStaff ? QStringLiteral("年月") : QStringLiteral("氏名"), 0, labelWidth,
                                     look));
     for (ReportControl& control : header.controls)
         if (control.top == look.top) control.align = GridAlign::Centre;
@@ -140,18 +127,17 @@ ReportSection reportFooter() {
 
 } // namespace
 
-rptTotal::rptTotal(const GridModel& vfgKurbo, const TotalHeading& heading, Day printedOn)
-    : ColHidden_(hiddenColumns(vfgKurbo, at(totalColumnOf(firstOfDay)), at(TotalColumn::Personal) - 1)) {
-    ActiveReport_ReportStart(vfgKurbo, heading, printedOn);
+rptTotal::rptTotal(const TotalSheet& sheet, const TotalHeading& heading, Day printedOn)
+    : ColHidden_(hiddenColumns(sheet.grid, at(totalColumnOf(firstOfDay)), at(TotalColumn::Personal) - 1)) {
+    ActiveReport_ReportStart(sheet, heading, printedOn);
 }
 
-void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeading& heading, Day printedOn) {
-    const bool byMonth = isByMonth(grid);
+void rptTotal::ActiveReport_ReportStart(const TotalSheet& sheet, const TotalHeading& heading, Day printedOn) {
     ReportRecords records(fieldsOf(columns));
-    for (int row = 1; row < grid.Rows(); ++row) {
-        sums_.push_back(isSum(grid, row));
+    for (int row = 1; row < sheet.grid.Rows(); ++row) {
+        sums_.push_back(sheet.at(row)->kind != LineKind::Month);
         const QString above = records.text(records.count() - 1, groupField());
-        records.AddNew(recordOf(grid, row, byMonth, above), sums_.back() ? firstColumn : columns.size());
+        records.AddNew(recordOf(sheet, row, above), sums_.back() ? firstColumn : columns.size());
     }
     const QString month = QStringLiteral("F_YearMonth");
     const QString name = QStringLiteral("F_StaffName");
@@ -161,10 +147,10 @@ void rptTotal::ActiveReport_ReportStart(const GridModel& grid, const TotalHeadin
          .fileName = reportFileName(QStringLiteral("月次集計"),
                                     heading.staff.code.isEmpty() ? heading.section.code : heading.staff.code,
                                     heading.start, heading.end),
-         .PageHeader = pageHeader(grid, heading),
+         .PageHeader = pageHeader(sheet, heading),
          .GroupHeader = groupHeader(),
          .groupField = groupField(),
-         .Detail = detail(byMonth ? name : month),
+         .Detail = detail(sheet.byStaff ? month : name),
          .closing = sums_,
          .ReportFooter = reportFooter()},
         std::move(records));

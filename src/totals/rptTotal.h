@@ -2,6 +2,7 @@
 
 #include "base/day.h"
 #include "paper/report_design.h"
+#include "totals/total_sheet.h"
 
 namespace kurbo {
 
@@ -17,10 +18,10 @@ struct TotalHeading {
 // grid is ordered.
 class rptTotal final : public Report {
   public:
-    rptTotal(const GridModel& vfgKurbo, const TotalHeading& heading, Day printedOn);
+    rptTotal(const TotalSheet& sheet, const TotalHeading& heading, Day printedOn);
 
   private:
-    void ActiveReport_ReportStart(const GridModel& grid, const TotalHeading& heading, Day printedOn);
+    void ActiveReport_ReportStart(const TotalSheet& sheet, const TotalHeading& heading, Day printedOn);
     void PageHeader_Format(ReportSection& section, int record) const override;
     void GroupHeader_Format(ReportSection& section, int record) const override;
     void Detail_Format(ReportSection& section, int record) const override;

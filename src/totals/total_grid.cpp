@@ -1,7 +1,5 @@
 #include "totals/total_grid.h"
 
-#include "totals/total_lines.h"
-
 namespace kurbo {
 namespace {
 
@@ -46,8 +44,7 @@ void describeColumns(GridModel& grid, const Totals& totals, const std::vector<To
 
 } // namespace
 
-void fillTotalGrid(GridModel& grid, const Totals& totals) {
-    const std::vector<TotalLine> lines = totalLines(totals);
+void fillTotalGrid(GridModel& grid, const Totals& totals, const std::vector<TotalLine>& lines) {
     const Undrawn undrawn(grid);
     grid.reset({.rows = 1 + static_cast<int>(lines.size()), .columns = totalColumns, .frozenColumns = 2});
     grid.FormatString(totalHeadings(totals.byStaff));
@@ -55,18 +52,9 @@ void fillTotalGrid(GridModel& grid, const Totals& totals) {
     int row = 0;
     for (const TotalLine& line : lines) {
         grid.fillRow(++row, line.cells);
-        if (!line.row) grid.RowBackColor(row, subTotalPaper);
+        if (line.kind != LineKind::Month) grid.RowBackColor(row, subTotalPaper);
     }
     if (row > 0) grid.RowBackColor(row, totalPaper);
-}
-
-std::optional<Totals> ShowTotal(const Context& context, Connection& connection, TotalsQuestion& question,
-                                GridModel& grid) {
-    auto totals = calculateTotals(context, connection, question);
-    if (!totals) return {};
-    question.byStaff = totals->byStaff;
-    fillTotalGrid(grid, *totals);
-    return totals;
 }
 
 } // namespace kurbo

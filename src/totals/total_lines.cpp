@@ -67,7 +67,7 @@ class LineWriter final {
     [[nodiscard]] QString caption(const TotalRow& row) { return totals_.byStaff ? nameOf(row) : monthText(row.month); }
 
     [[nodiscard]] TotalLine month(const TotalRow& row, const QString& caption) {
-        TotalLine line{QStringList(totalColumns), &row};
+        TotalLine line{LineKind::Month, caption, QStringList(totalColumns), &row};
         QString* const cells = line.cells.data();
         cells[at(TotalColumn::First)] = caption;
         cells[at(TotalColumn::Second)] = totals_.byStaff ? monthText(row.month) : nameOf(row);
@@ -85,10 +85,10 @@ class LineWriter final {
         return line;
     }
 
-    [[nodiscard]] TotalLine sum(const Sum& sum, const QString& caption) {
-        TotalLine line{QStringList(totalColumns), nullptr};
+    [[nodiscard]] TotalLine sum(const Sum& sum, LineKind kind, const QString& group) {
+        TotalLine line{kind, group, QStringList(totalColumns), nullptr};
         QString* const cells = line.cells.data();
-        cells[at(TotalColumn::First)] = caption;
+        cells[at(TotalColumn::First)] = kind == LineKind::SubTotal ? group + subTotalMark() : group;
         if (sum.empty) return line;
         for (const QuantityFacts& facts : quantities)
             cells[at(totalColumnOf(facts.id))] = figureText(facts.unit(), sum.figures[placeOf(facts.id)]);
@@ -143,6 +143,10 @@ class LineWriter final {
 
 } // namespace
 
+QString subTotalMark() {
+    return QStringLiteral(" 小計");
+}
+
 QString totalHeadings(bool byStaff) {
     const QString first = byStaff ? QStringLiteral("|^氏名|^年月") : QStringLiteral("|^年月|^氏名");
     return first + u'|' + quantityHeadings(u"^").join(u'|') +
@@ -158,7 +162,7 @@ std::vector<TotalLine> totalLines(const Totals& totals) {
     const TotalRow* before = nullptr;
     QString caption;
     const auto endGroup = [&] {
-        if (before) lines.push_back(writer.sum(group, caption + QStringLiteral(" 小計")));
+        if (before) lines.push_back(writer.sum(group, LineKind::SubTotal, caption));
         group = {};
     };
     for (const TotalRow& row : totals.rows) {
@@ -172,7 +176,7 @@ std::vector<TotalLine> totalLines(const Totals& totals) {
         all.add(row);
     }
     endGroup();
-    if (!lines.empty()) lines.push_back(writer.sum(all, QStringLiteral("合計")));
+    if (!lines.empty()) lines.push_back(writer.sum(all, LineKind::Total, QStringLiteral("合計")));
     return lines;
 }
 

@@ -7,11 +7,17 @@
 
 namespace kurbo {
 
-// A line of the totals: a month (its row), or a sub-total or the total (no row).
+enum class LineKind { Month, SubTotal, Total };
+
 struct TotalLine {
-    QStringList cells; // 27
-    const TotalRow* row = nullptr;
+    LineKind kind = LineKind::Month;
+    QString group;                 // the name, or the month, under which it stands
+    QStringList cells;             // 27
+    const TotalRow* row = nullptr; // of a month
 };
+
+// What stands behind the group in the caption of its sub-total.
+[[nodiscard]] QString subTotalMark();
 
 // The headings parted by "|", each behind the sign of its alignment; the first column has none.
 [[nodiscard]] QString totalHeadings(bool byStaff);

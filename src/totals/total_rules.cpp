@@ -10,18 +10,6 @@ QString withoutMark(const QString& text) {
     return text.mid(text.lastIndexOf(u')') + 1);
 }
 
-QString TotalSheet::staffOf(int row) const {
-    return row > 0 ? grid.TextMatrix(row, static_cast<int>(TotalColumn::Staff)) : QString();
-}
-
-bool TotalSheet::isSaved(int row) const {
-    return !grid.TextMatrix(row, static_cast<int>(TotalColumn::Personal)).isEmpty();
-}
-
-bool TotalSheet::hasFigures(int row) const {
-    return isSaved(row) || !grid.TextMatrix(row, static_cast<int>(TotalColumn::Term)).isEmpty();
-}
-
 bool isFigure(int column, int countUnit, const QString& text) {
     const QuantityFacts* const facts = quantityAt(static_cast<TotalColumn>(column));
     if (!facts) return false;
@@ -30,10 +18,11 @@ bool isFigure(int column, int countUnit, const QString& text) {
 }
 
 bool TotalRules::mayEdit(int row, int column) const {
-    const QString staff = sheet_.staffOf(row);
+    const TotalEntry* const month = sheet_.at(row);
     const bool figure = quantityAt(static_cast<TotalColumn>(column)) != nullptr;
-    if (sheet_.blnFileMode || staff.isEmpty() || !figure || !sheet_.hasFigures(row)) return false;
-    return session_.access.has(staff == session_.SessionStaff ? Right::WriteMyMonthly : Right::WriteOtherMonthly);
+    if (sheet_.blnFileMode || !figure || !month || !month->hasFigures) return false;
+    return session_.access.has(month->staff == session_.SessionStaff ? Right::WriteMyMonthly
+                                                                     : Right::WriteOtherMonthly);
 }
 
 QString TotalRules::refusal(int /*row*/, int column, const QString& text) const {
@@ -42,7 +31,13 @@ QString TotalRules::refusal(int /*row*/, int column, const QString& text) const 
            sumDemand(sumForm(*quantityAt(static_cast<TotalColumn>(column)), sheet_.plngCountUnit));
 }
 
-void TotalRules::edited(int /*row*/, int /*column*/) {
+void TotalRules::edited(int row, int column) {
+    const QuantityFacts* const facts = quantityAt(static_cast<TotalColumn>(column));
+    if (TotalEntry* const month = sheet_.at(row); month && facts) {
+        const QString text = sheet_.grid.TextMatrix(row, column);
+        month->edits[facts->id] =
+            readFigure(*facts, facts->unit() == Unit::Time ? withoutMark(text) : text, sheet_.plngCountUnit);
+    }
     sheet_.changed = true;
     if (sheet_.onEdit) sheet_.onEdit();
 }

@@ -1,27 +1,9 @@
 #pragma once
 
-#include "screen/grid/grid_model.h"
 #include "store/client.h"
+#include "totals/total_sheet.h"
 
 namespace kurbo {
-
-// The totals on the screen: the grid, and what has been done to it since it was drawn.
-struct TotalSheet {
-    GridModel grid;
-    bool changed = false;
-    // Totals out of a card file are shown.
-    bool blnFileMode = false;
-    int plngCountUnit = 1; // 0 decimal, 1 h:mm
-    // Told after every edit.
-    std::function<void()> onEdit;
-
-    // The staff code of a person's month; empty on other rows.
-    [[nodiscard]] QString staffOf(int row) const;
-    // Whether the month came out of the store, where it may be corrected.
-    [[nodiscard]] bool isSaved(int row) const;
-    // A calculated month always names its period; without one there are no figures.
-    [[nodiscard]] bool hasFigures(int row) const;
-};
 
 // The cells of the totals: the figures of a person's month, for those who may correct it.
 class TotalRules final : public GridRules {

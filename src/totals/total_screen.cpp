@@ -1,7 +1,6 @@
 #include "totals/total_screen.h"
 
 #include "store/section_switch.h"
-#include "totals/total_grid.h"
 
 #include <algorithm>
 
@@ -10,11 +9,6 @@ namespace {
 
 Day firstDayOf(std::chrono::year_month month) {
     return Day{month / 1};
-}
-
-std::chrono::year_month monthOf(Day day) {
-    const auto date = civil(day);
-    return date.year() / date.month();
 }
 
 } // namespace
@@ -63,11 +57,8 @@ bool TotalScreen::draw(const std::optional<TotalsQuestion>& question) {
 }
 
 bool TotalScreen::ShowTotal(TotalsQuestion question) {
-    const auto totals = kurbo::ShowTotal(client_.context, connection(), question, sheet.grid);
+    const auto totals = kurbo::ShowTotal(client_.context, connection(), question, sheet);
     if (!totals) return false;
-    sheet.grid.clearRowStatus();
-    sheet.changed = sheet.blnFileMode = false;
-    sheet.plngCountUnit = totals->countUnit;
     hasSaved_ = std::ranges::any_of(totals->rows, &TotalRow::saved);
     question_ = question;
     boxes = {slashMonth(question.from), slashMonth(question.to)};
@@ -79,9 +70,8 @@ bool TotalScreen::ShowTotal(TotalsQuestion question) {
 // What stood in the grid no longer holds: without new totals it is empty.
 bool TotalScreen::ShowTotalOrNothing(const TotalsQuestion& question) {
     if (ShowTotal(question)) return true;
-    fillTotalGrid(sheet.grid, {});
-    sheet.grid.clearRowStatus();
-    sheet.changed = hasSaved_ = false;
+    sheet.show({.byStaff = sheet.byStaff, .countUnit = sheet.plngCountUnit, .rows = {}, .faults = {}});
+    hasSaved_ = false;
     return false;
 }
 
@@ -147,7 +137,7 @@ bool TotalScreen::update() {
     if (!CheckData(client_.context, sheet)) return false;
     const auto question = asked();
     if (!question || !confirmsUpdate()) return false;
-    if (!UpdateTotal(client_.context, connection(), sheet, question_.byStaff)) {
+    if (!UpdateTotal(client_.context, connection(), sheet)) {
         client_.context.prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;
     }

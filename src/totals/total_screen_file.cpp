@@ -16,15 +16,15 @@ QString totalMember() {
     return QStringLiteral("Total.tmp");
 }
 
-std::chrono::year_month monthOf(const QString& text) {
-    const auto first = text.size() == 7 ? parseSlashDate(text + QStringLiteral("/01")) : std::nullopt;
-    if (!first) throw foreignFile();
-    return civil(*first).year() / civil(*first).month();
+std::chrono::year_month shownMonth(const QString& text) {
+    const auto month = parseSlashMonth(text);
+    if (!month) throw foreignFile();
+    return *month;
 }
 
 void checkMonths(const QStringList& selection) {
-    (void)monthOf(selection[2]);
-    (void)monthOf(selection[3]);
+    (void)shownMonth(selection[2]);
+    (void)shownMonth(selection[3]);
 }
 
 } // namespace
@@ -52,11 +52,12 @@ bool TotalScreen::loadKrb() {
                sheet.changed = hasSaved_ = false;
                sheet.blnFileMode = true;
                const QStringList selection = loadSheet(*file, totalMember(), totalColumns, sheet.grid, checkMonths);
+               readImage(sheet);
                TotalsQuestion question = question_;
                question.section = selection[0];
                question.staff = selection[1];
-               question.from = monthOf(selection[2]);
-               question.to = monthOf(selection[3]);
+               question.from = shownMonth(selection[2]);
+               question.to = shownMonth(selection[3]);
                question_ = question;
                boxes = {selection[2], selection[3]};
                ++spanChanges_;

@@ -9,13 +9,6 @@
 namespace kurbo {
 namespace {
 
-std::optional<std::chrono::year_month> monthIn(const QString& text) {
-    const auto first = text.size() == 7 ? parseSlashDate(text + QStringLiteral("/01")) : std::nullopt;
-    if (!first) return {};
-    const auto day = civil(*first);
-    return day.year() / day.month();
-}
-
 QString monthId(std::chrono::year_month month) {
     return slashMonth(month).remove(u'/');
 }
@@ -35,36 +28,33 @@ QString demandOf(const QuantityFacts& facts, int countUnit, const QString& text)
 }
 
 void checkRow(const TotalSheet& sheet, int row) {
-    for (const QuantityFacts& facts : quantities) {
-        const int column = static_cast<int>(totalColumnOf(facts.id));
-        const QString text = cellOf(sheet, row, column);
-        if (text.isEmpty() || isFigure(column, sheet.plngCountUnit, text)) continue;
+    for (const auto& [id, figure] : sheet.at(row)->edits) {
+        if (figure.readable) continue;
+        const QuantityFacts& facts = factsOf(id);
+        const QString text = cellOf(sheet, row, static_cast<int>(totalColumnOf(id)));
         throw Complaint(cellOf(sheet, row, 1) + u' ' + cellOf(sheet, row, 2) + nameOf(facts) +
                         QStringLiteral("が不正です。") + demandOf(facts, sheet.plngCountUnit, text));
     }
 }
 
 bool isChanged(const TotalSheet& sheet, int row) {
-    return !sheet.staffOf(row).isEmpty() && sheet.grid.RowStatus(row) == GridStatus::Modified;
+    return sheet.at(row) && !sheet.at(row)->edits.empty();
 }
 
-void updateMonth(Connection& connection, const TotalSheet& sheet, int row, const QString& month) {
-    const QString staff = sheet.staffOf(row);
+// Only what was typed is written: the other figures may have been corrected elsewhere since.
+void updateMonth(Connection& connection, const TotalEntry& entry) {
+    const QString month = monthId(entry.month);
     RecordSet months(connection,
                      QStringLiteral("SELECT *, F_Year & F_Month AS F_YearMonth From T05_Approved WHERE (F_Staff = ?);"),
-                     {staff});
+                     {entry.staff});
     if (!months.filter(QStringLiteral("F_YearMonth = ?"), {month})) return;
     const double taken = leaveTaken(months);
-    for (const QuantityFacts& facts : quantities) {
-        const QString cell = cellOf(sheet, row, static_cast<int>(totalColumnOf(facts.id)));
-        const QString figure = facts.unit() == Unit::Time ? withoutMark(cell) : cell;
-        months.set(QString::fromUtf16(facts.field), figureOf(facts, figure, sheet.plngCountUnit));
-    }
+    for (const auto& [id, figure] : entry.edits) months.set(QString::fromUtf16(factsOf(id).field), figure.stored());
     for (const QString& mark : {QStringLiteral("F_PersonalApproval"), QStringLiteral("F_SuperiorApproval")})
         months.set(mark, Value::yesNo(false));
     const Value paidTotal = months.value(QStringLiteral("F_PaidTotal"));
     months.updateBatch();
-    followBalance(connection, staff, month, paidTotal, taken);
+    if (entry.edits.contains(Quantity::PaidTotal)) followBalance(connection, entry.staff, month, paidTotal, taken);
 }
 
 // One person's months, or a section's; the places are that code, the first and the last month.
@@ -79,13 +69,9 @@ Values placesOf(const SavedMonths& months) {
 
 } // namespace
 
-QString slashMonth(std::chrono::year_month month) {
-    return slashDate(Day{month / 1}).left(7);
-}
-
 std::optional<MonthSpan> checkedMonths(const Context& context, const QString& start, const QString& end) {
-    const auto from = monthIn(start);
-    const auto to = monthIn(end);
+    const auto from = parseSlashMonth(start);
+    const auto to = parseSlashMonth(end);
     if (!from || !to) {
         context.prompts.exclaim(
             QStringLiteral("期間が不正です。開始年月と終了年月を西暦年でyyyy/mm形式(半角)で入力して下さい。"));
@@ -111,19 +97,15 @@ bool CheckData(const Context& context, const TotalSheet& sheet) {
 ChangedMonths changedMonths(const TotalSheet& sheet) {
     ChangedMonths changed;
     for (int row = 1; row < sheet.grid.Rows(); ++row)
-        if (isChanged(sheet, row)) ++(sheet.isSaved(row) ? changed.saved : changed.unsaved);
+        if (isChanged(sheet, row)) ++(sheet.at(row)->saved ? changed.saved : changed.unsaved);
     return changed;
 }
 
-bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet, bool byStaff) {
-    constexpr int monthDigits = 6;
+bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet) {
     return guarded(context, u"frmTotal", u"UpdateTotal", false, [&] {
         Transaction transaction(connection);
-        for (int row = 1; row < sheet.grid.Rows(); ++row) {
-            if (!isChanged(sheet, row) || !sheet.isSaved(row)) continue;
-            const QString key = cellOf(sheet, row, static_cast<int>(TotalColumn::Order));
-            updateMonth(connection, sheet, row, byStaff ? key.right(monthDigits) : key.left(monthDigits));
-        }
+        for (int row = 1; row < sheet.grid.Rows(); ++row)
+            if (isChanged(sheet, row) && sheet.at(row)->saved) updateMonth(connection, *sheet.at(row));
         transaction.commit();
         return true;
     });

@@ -13,9 +13,6 @@ struct MonthSpan {
     std::chrono::year_month to;
 };
 
-// "yyyy/mm"
-[[nodiscard]] QString slashMonth(std::chrono::year_month month);
-
 // The span of two texts "yyyy/mm"; nothing after a refusal, which is told.
 [[nodiscard]] std::optional<MonthSpan> checkedMonths(const Context& context, const QString& start, const QString& end);
 
@@ -29,9 +26,10 @@ struct ChangedMonths {
 };
 [[nodiscard]] ChangedMonths changedMonths(const TotalSheet& sheet);
 
-// Writes the changed rows into the saved months, all or none, and takes their approvals away; a month that isn't saved
-// is passed over. The balance of paid leave follows the newest month. False after a reported failure.
-[[nodiscard]] bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet, bool byStaff);
+// Writes what was typed into the saved months, all or none, and takes their approvals away; a month that isn't saved is
+// passed over. A typed balance of paid leave becomes the person's, unless a later month is saved. False after a
+// reported failure.
+[[nodiscard]] bool UpdateTotal(const Context& context, Connection& connection, const TotalSheet& sheet);
 
 // Saved months of one person, or with an empty staff code all that name the section.
 struct SavedMonths {

@@ -28,13 +28,6 @@ void refuseOutside(const TotalsQuestion& question) {
         throw Complaint(QStringLiteral("集計できるのは1000年1月から9999年12月までです。"));
 }
 
-int numberOf(std::chrono::year year) {
-    return static_cast<int>(year);
-}
-int numberOf(std::chrono::month month) {
-    return static_cast<int>(static_cast<unsigned>(month));
-}
-
 class Calculation final {
   public:
     Calculation(const Context& context, Connection& connection, const TotalsQuestion& question)
@@ -143,8 +136,7 @@ class Calculation final {
         PersonMonths& person = people_[place];
         month.person = place;
         month.period = person.periods.size();
-        person.periods.push_back(
-            *periodOfMonth(numberOf(month.month.year()), numberOf(month.month.month()), person.rules.plngCloseDay()));
+        person.periods.push_back(*periodOfMonth(month.month, person.rules.plngCloseDay()));
     }
 
     void addCalculated(const Missing& month) {

@@ -27,8 +27,8 @@ class CardFile : public CardOffice {
         return screen.loadKrb();
     }
     [[nodiscard]] QString shown() const {
-        return screen.section() + u' ' + screen.staff() + u' ' + slashDate(screen.period().from) + u' ' +
-               cardText(screen.sheet.grid, firstCardDay, CardColumn::Enter);
+        return screen.chosen().section + u' ' + screen.chosen().staff + u' ' + slashDate(screen.chosen().period.from) +
+               u' ' + cardText(screen.sheet.grid, firstCardDay, CardColumn::Enter);
     }
 
     QString file = desk.file(u"april.krb"_q);
@@ -42,19 +42,19 @@ TEST_F(CardFile, ShowsAgainWhatWasSavedAndForbidsTheRest) {
     EXPECT_EQ(ArchiveCount(file), 2) << "saved again, it keeps its two members";
     connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Year, F_Month, F_PersonalApproval, "
                        "F_SuperiorApproval) VALUES ('1003', '2026', '03', True, True)"_q);
-    ASSERT_TRUE(screen.chooseStaff(u"1003"_q) && screen.chooseMonth(3) && screen.superiorApproval());
-    const int before = screen.periodChanges();
+    ASSERT_TRUE(screen.chooseStaff(u"1003"_q) && screen.chooseMonth(3) && screen.month().superiorApproval());
+    const int before = screen.chosen().periodChanges;
     ASSERT_TRUE(load(file));
-    EXPECT_GT(screen.periodChanges(), before) << "the boxes show the file's dates";
-    EXPECT_FALSE(screen.personalApproval() || screen.superiorApproval()) << "marks of the card before";
+    EXPECT_GT(screen.chosen().periodChanges, before) << "the boxes show the file's dates";
+    EXPECT_FALSE(screen.month().personalApproval() || screen.month().superiorApproval()) << "marks of the card before";
     EXPECT_EQ(shown(), u"S01 1001 2026/04/01 08:52"_q);
-    EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, 4) || screen.mayUpdateMonthly());
+    EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, 4) || screen.month().mayUpdate());
     const std::pair<QString, std::function<bool()>> refusals[] = {
         {u"更新は"_q, [this] { return screen.update(april, endOfApril); }},
         {u"削除は"_q, [this] { return screen.deletePeriod(april, endOfApril); }},
-        {u"時間調整は"_q, [this] { return screen.adjust(); }},
-        {u"月次更新は"_q, [this] { return screen.updateMonthly(); }},
-        {u"承認は"_q, [this] { return screen.approveSuperior(true, april, endOfApril); }},
+        {u"時間調整は"_q, [this] { return screen.month().adjust(); }},
+        {u"月次更新は"_q, [this] { return screen.month().update(); }},
+        {u"承認は"_q, [this] { return screen.month().approveSuperior(true, april, endOfApril); }},
     };
     for (const auto& [word, command] : refusals) {
         desk.prompts.expect(u"タイムカードファイルを呼出した状態で"_q + word);
@@ -88,7 +88,7 @@ TEST_F(CardFile, AFileOfNobodyKnownIsShownAndNoWayToOthersCards) {
     EXPECT_EQ(screen.people().last().name, u"工藤四郎"_q);
     EXPECT_TRUE(screen.chooseStaff(u"1003"_q)) << "back to the own card";
     EXPECT_NE(screen.people().last().code, u"9999"_q);
-    EXPECT_EQ(screen.section(), u"S01"_q);
+    EXPECT_EQ(screen.chosen().section, u"S01"_q);
 }
 
 TEST_F(CardFile, RefusesOtherFilesAndStaysInFileMode) {

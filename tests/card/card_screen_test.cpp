@@ -14,7 +14,7 @@ const QString discard = u"変更を破棄しますか？"_q;
 class CardScreenTest : public CardOffice {
   protected:
     [[nodiscard]] QString period() const {
-        return slashDate(screen.period().from) + u'-' + slashDate(screen.period().to);
+        return slashDate(screen.chosen().period.from) + u'-' + slashDate(screen.chosen().period.to);
     }
     [[nodiscard]] QString cell(int day, CardColumn column) const {
         return screen.sheet.grid.TextMatrix(firstCardDay + day - 1, static_cast<int>(column));
@@ -30,7 +30,7 @@ TEST_F(CardScreenTest, BeginsWithTheOwnCardOfThisMonth) {
     logIn(u"1001"_q);
     ASSERT_TRUE(screen.load());
     EXPECT_EQ(period(), u"2026/04/01-2026/04/30"_q);
-    EXPECT_EQ(screen.section() + u' ' + screen.staff(), u"S01 1001"_q);
+    EXPECT_EQ(screen.chosen().section + u' ' + screen.chosen().staff, u"S01 1001"_q);
     EXPECT_EQ(screen.people().size(), 3) << "people who aren't displayed can't be chosen";
     EXPECT_EQ(cell(2, CardColumn::Leave), u"(04/03)06:30"_q);
     EXPECT_FALSE(screen.mayChooseOthers());
@@ -56,11 +56,12 @@ TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
     EXPECT_EQ(period(), u"2026/02/21-2026/03/20"_q);
     desk.prompts.expect(noCalendar);
     EXPECT_FALSE(screen.moveYears(1, u"2026/02/21"_q, u"2026/03/20"_q));
-    EXPECT_EQ(period() + QString::number(screen.year()), u"2026/02/21-2026/03/202026"_q);
+    EXPECT_EQ(period() + QString::number(static_cast<int>(screen.chosen().month.year())),
+              u"2026/02/21-2026/03/202026"_q);
     EXPECT_TRUE(screen.display(u"2026/04/01"_q, u"2026/06/30"_q));
     EXPECT_EQ(screen.sheet.grid.Rows(), firstCardDay + 91);
-    EXPECT_EQ(screen.month(), 3) << "the month buttons keep their state";
-    EXPECT_FALSE(screen.isWholePeriod());
+    EXPECT_EQ(static_cast<unsigned>(screen.chosen().month.month()), 3) << "the month buttons keep their state";
+    EXPECT_FALSE(screen.month().isWholePeriod());
     const std::tuple<QString, QString, QString> refusals[] = {
         {u"2026/04/31"_q, u"2026/06/30"_q, u"期間が不正です。"_q},
         {u"2026/05/02"_q, u"2026/05/01"_q, u"開始日付が終了日付以降に設定されています。"_q},
@@ -95,11 +96,11 @@ TEST_F(CardScreenTest, AnotherPersonHasAnotherPeriodAndOtherRights) {
     type(1, CardColumn::Plan, u"出張"_q);
     desk.prompts.expect(discard, Answer::No);
     EXPECT_FALSE(screen.chooseStaff(u"1003"_q));
-    EXPECT_EQ(screen.staff() + cell(1, CardColumn::Plan), u"1001出張"_q);
+    EXPECT_EQ(screen.chosen().staff + cell(1, CardColumn::Plan), u"1001出張"_q);
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 29 WHERE (F_StaffCode = '1003')"_q);
     desk.prompts.expect(discard, Answer::Yes).expect(u"タイムカード締日"_q);
     EXPECT_FALSE(screen.chooseStaff(u"1003"_q));
-    EXPECT_EQ(screen.staff(), u"1001"_q);
+    EXPECT_EQ(screen.chosen().staff, u"1001"_q);
     EXPECT_TRUE(screen.sheet.blnCardChanged) << "what was refused changed nothing";
 }
 
@@ -152,10 +153,11 @@ TEST_F(CardScreenTest, AnotherSitesSectionIsReadAndWrittenThere) {
     const QString other = addOtherSite();
     logIn(u"1002"_q);
     ASSERT_TRUE(screen.load() && screen.chooseMonth(3));
-    EXPECT_TRUE(screen.mayApprovePersonal() && screen.mayAdjust() && screen.mayUpdateMonthly());
+    EXPECT_TRUE(screen.month().mayApprovePersonal() && screen.month().mayAdjust() && screen.month().mayUpdate());
     EXPECT_TRUE(screen.chooseSection(u"S02"_q));
-    EXPECT_EQ(screen.staff() + screen.people().first().code, u"2001"_q);
-    EXPECT_FALSE(screen.mayApprovePersonal() || screen.mayAdjust() || screen.mayUpdateMonthly()) << "no name is chosen";
+    EXPECT_EQ(screen.chosen().staff + screen.people().first().code, u"2001"_q);
+    EXPECT_FALSE(screen.month().mayApprovePersonal() || screen.month().mayAdjust() || screen.month().mayUpdate())
+        << "no name is chosen";
     EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, static_cast<int>(CardColumn::Enter)))
         << "the old card is only seen";
     ASSERT_TRUE(screen.chooseStaff(u"2001"_q));
@@ -176,7 +178,8 @@ TEST_F(CardScreenTest, ARefusedSectionLeavesThePlaceAsItWas) {
     const auto refused = [this](const QString& message) {
         desk.prompts.expect(message);
         EXPECT_FALSE(screen.chooseSection(u"S02"_q)) << message;
-        EXPECT_EQ(screen.section() + screen.staff() + QString::number(screen.people().size()), u"S0110013"_q);
+        EXPECT_EQ(screen.chosen().section + screen.chosen().staff + QString::number(screen.people().size()),
+                  u"S0110013"_q);
         EXPECT_TRUE(client.CurrentConnection == &client.HomeConnection);
         EXPECT_TRUE(client.session.access.has(Right::DeleteOtherData));
     };

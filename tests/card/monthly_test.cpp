@@ -168,7 +168,7 @@ class MonthlyScreen : public CardOffice {
         logIn(u"1002"_q);
         EXPECT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q) && screen.chooseMonth(3));
     }
-    bool approve(bool approved) { return screen.approveSuperior(approved, u"2026/03/01"_q, u"2026/03/31"_q); }
+    bool approve(bool approved) { return screen.month().approveSuperior(approved, u"2026/03/01"_q, u"2026/03/31"_q); }
     void edit(int row, CardColumn column, const QString& text) {
         screen.sheet.grid.edit(row, static_cast<int>(column), text);
     }
@@ -178,8 +178,8 @@ class MonthlyScreen : public CardOffice {
 
 TEST_F(MonthlyScreen, RefusesWhatIsNotReady) {
     const std::tuple<QString, QString, std::function<bool()>> commands[] = {
-        {u"集計結果の調整を"_q, u"時間調整"_q, [this] { return screen.adjust(); }},
-        {u"月次更新を"_q, u"月次更新"_q, [this] { return screen.updateMonthly(); }},
+        {u"集計結果の調整を"_q, u"時間調整"_q, [this] { return screen.month().adjust(); }},
+        {u"月次更新を"_q, u"月次更新"_q, [this] { return screen.month().update(); }},
         {u"承認を"_q, u"承認"_q, [this] { return approve(true); }},
     };
     for (const auto& [demand, name, command] : commands) {
@@ -192,29 +192,29 @@ TEST_F(MonthlyScreen, RefusesWhatIsNotReady) {
         screen.sheet.drawn();
         screen.sheet.blnFileMode = true;
         desk.prompts.expect(u"タイムカードファイルを呼出した状態で%1はできません。"_q.arg(name));
-        EXPECT_FALSE(command() || screen.mayUpdateMonthly());
+        EXPECT_FALSE(command() || screen.month().mayUpdate());
     }
     screen.sheet.drawn();
     edit(finalSumRow, CardColumn::Over, u"x"_q);
     desk.prompts.expect(u"普通残業合計が不正です。"_q);
-    EXPECT_FALSE(screen.updateMonthly());
+    EXPECT_FALSE(screen.month().update());
 }
 
 TEST_F(MonthlyScreen, QuestionsWarnOfMissingPunches) {
     const QString missing = u"よろしいですか？\r\n\r\n注意! 下記日付の打刻がありません。\r\n26/03/01(日), "_q;
     desk.prompts.expect(adjusting + u"\r\n\r\n"_q + missing, Answer::Cancel);
-    EXPECT_FALSE(screen.adjust());
+    EXPECT_FALSE(screen.month().adjust());
     desk.prompts.expect(u"時間調整が行われていないため、合計(最終)が空のまま保存されます。"_q, Answer::Cancel);
-    EXPECT_FALSE(screen.updateMonthly());
+    EXPECT_FALSE(screen.month().update());
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(count(u"T05_Approved"_q), 0);
     for (CardEntry& day : screen.sheet.days) day.absent = false;
     desk.prompts.expect(adjusting).expect(saving + u"\r\n\r\nよろしいですか？"_q);
-    EXPECT_TRUE(screen.adjust() && screen.updateMonthly());
+    EXPECT_TRUE(screen.month().adjust() && screen.month().update());
     EXPECT_TRUE(desk.prompts.last().text.endsWith(u"よろしいですか？\r\n\r\n"_q));
-    EXPECT_FALSE(screen.mayUpdateMonthly());
+    EXPECT_FALSE(screen.month().mayUpdate());
     edit(finalSumRow, CardColumn::Over, u"1:00"_q);
-    EXPECT_TRUE(screen.mayUpdateMonthly()) << "an edited sum can be saved";
+    EXPECT_TRUE(screen.month().mayUpdate()) << "an edited sum can be saved";
     desk.prompts.expect(u"承認を取り消します。\r\n\r\nよろしいですか？"_q, Answer::Cancel);
     EXPECT_FALSE(approve(false));
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
@@ -228,10 +228,10 @@ TEST_F(MonthlyScreen, AFailureIsToldTwiceAndChangesNothing) {
     client.HomeConnection.open(path, databasePassword());
     const QString question = u"よろしいですか？"_q;
     desk.prompts.expect(question).expect(u"3027"_q).expect(u"月次集計の最終保存データを更新できませんでした。"_q);
-    EXPECT_FALSE(screen.updateMonthly());
-    EXPECT_TRUE(screen.mayUpdateMonthly());
+    EXPECT_FALSE(screen.month().update());
+    EXPECT_TRUE(screen.month().mayUpdate());
     desk.prompts.expect(question).expect(u"3027"_q).expect(u"月次集計の最終保存データの承認に失敗しました。"_q);
-    EXPECT_FALSE(approve(true) || screen.superiorApproval());
+    EXPECT_FALSE(approve(true) || screen.month().superiorApproval());
     desk.prompts.expect(question).expect(u"3027"_q).expect(u"承認取り消しに失敗しました。"_q);
     EXPECT_FALSE(approve(false));
 }
@@ -239,14 +239,14 @@ TEST_F(MonthlyScreen, AFailureIsToldTwiceAndChangesNothing) {
 TEST_F(MonthlyScreen, TheChosenMonthCountsAndNotTheRangeInView) {
     ASSERT_TRUE(screen.display(u"2026/02/01"_q, u"2026/02/28"_q));
     const auto refused = [this] {
-        EXPECT_FALSE(screen.mayAdjust() || screen.mayUpdateMonthly());
+        EXPECT_FALSE(screen.month().mayAdjust() || screen.month().mayUpdate());
         for (const QString& name : {u"時間調整"_q, u"月次更新"_q})
             desk.prompts.expect(u"選択した月の期間が表示されていないため、%1はできません。"_q.arg(name));
-        EXPECT_FALSE(screen.adjust() || screen.updateMonthly());
+        EXPECT_FALSE(screen.month().adjust() || screen.month().update());
     };
     refused();
     desk.prompts.expect(u"承認はできません。"_q);
-    EXPECT_FALSE(screen.approveSuperior(true, u"____/__/__"_q, u"2026/02/28"_q));
+    EXPECT_FALSE(screen.month().approveSuperior(true, u"____/__/__"_q, u"2026/02/28"_q));
     EXPECT_EQ(count(u"T05_Approved"_q), 0);
 }
 
@@ -254,7 +254,7 @@ TEST_F(MonthlyScreen, ASavedMonthsLeaveIsDeductedOnce) {
     addCard(30, *makeDay(2026, 3, 10), {}, {}, u"0"_q);
     const auto save = [this] {
         desk.prompts.expect(adjusting).expect(saving);
-        EXPECT_TRUE(screen.chooseMonth(3) && screen.adjust() && screen.updateMonthly());
+        EXPECT_TRUE(screen.chooseMonth(3) && screen.month().adjust() && screen.month().update());
         return asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q);
     };
     EXPECT_EQ(save() + u' ' + save(), u"19 19"_q);
@@ -267,13 +267,13 @@ TEST_F(MonthlyScreen, ASavedMonthsLeaveIsDeductedOnce) {
     ASSERT_TRUE(screen.chooseMonth(3));
     edit(finalSumRow, CardColumn::Leave, {});
     desk.prompts.expect(saving);
-    EXPECT_TRUE(screen.updateMonthly());
+    EXPECT_TRUE(screen.month().update());
     EXPECT_EQ(save(), u"19.5"_q) << "a record without a balance has given back what it took";
     connection.execute(u"UPDATE M02_StaffInfo SET F_PaidTotal = 9 WHERE (F_StaffCode = '1001')"_q);
     desk.prompts.expect(saving)
         .expect(u"タイムカードの表示後に変更されています。"_q)
         .expect(u"更新できませんでした。"_q);
-    EXPECT_FALSE(screen.updateMonthly()) << "somebody else has changed the balance";
+    EXPECT_FALSE(screen.month().update()) << "somebody else has changed the balance";
 }
 
 } // namespace kurbo::test

@@ -63,11 +63,11 @@ TEST(Periods, BeginBehindTheCloseDay) {
 }
 
 TEST(Periods, OfAMonthEndInIt) {
-    EXPECT_EQ(periodOfMonth(2024, 2, 31), (Period{*makeDay(2024, 2, 1), *makeDay(2024, 2, 29)}));
-    EXPECT_EQ(periodOfMonth(2026, 1, 20), (Period{*makeDay(2025, 12, 21), *makeDay(2026, 1, 20)}));
-    EXPECT_EQ(periodOfMonth(2026, 3, 27), (Period{*makeDay(2026, 2, 28), *makeDay(2026, 3, 27)}));
-    EXPECT_FALSE(periodOfMonth(2026, 3, 28));
-    EXPECT_FALSE(periodOfMonth(2026, 13, 31));
+    EXPECT_EQ(periodOfMonth(std::chrono::year(2024) / 2, 31), (Period{*makeDay(2024, 2, 1), *makeDay(2024, 2, 29)}));
+    EXPECT_EQ(periodOfMonth(std::chrono::year(2026) / 1, 20), (Period{*makeDay(2025, 12, 21), *makeDay(2026, 1, 20)}));
+    EXPECT_EQ(periodOfMonth(std::chrono::year(2026) / 3, 27), (Period{*makeDay(2026, 2, 28), *makeDay(2026, 3, 27)}));
+    EXPECT_FALSE(periodOfMonth(std::chrono::year(2026) / 3, 28));
+    EXPECT_FALSE(periodOfMonth(std::chrono::year(2026) / 13, 31));
 }
 
 } // namespace kurbo::test

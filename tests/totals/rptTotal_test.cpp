@@ -1,7 +1,7 @@
 #include "totals/rptTotal.h"
 
 #include "paper/paper_texts.h"
-#include "totals/total_grid.h"
+#include "totals/total_sheet.h"
 
 namespace kurbo::test {
 namespace {
@@ -29,11 +29,9 @@ Totals totalsOf(const QStringList& names, unsigned months, bool byStaff) {
 
 class RptTotal : public ::testing::Test {
   protected:
-    void fill(const QStringList& names, unsigned months, bool byStaff) {
-        fillTotalGrid(grid, totalsOf(names, months, byStaff));
-    }
+    void fill(const QStringList& names, unsigned months, bool byStaff) { sheet.show(totalsOf(names, months, byStaff)); }
     [[nodiscard]] rptTotal report(const CodeName& staff = {}) const {
-        return {grid, {u"2026/01"_q, u"2026/12"_q, {u"S01"_q, u"総務部"_q}, staff}, *makeDay(2026, 5, 7)};
+        return {sheet, {u"2026/01"_q, u"2026/12"_q, {u"S01"_q, u"総務部"_q}, staff}, *makeDay(2026, 5, 7)};
     }
     // Of each line between headings and footer the first four texts.
     static QStringList begins(const rptTotal& report, int page) {
@@ -43,7 +41,8 @@ class RptTotal : public ::testing::Test {
         return lines;
     }
 
-    GridModel grid;
+    TotalSheet sheet;
+    GridModel& grid = sheet.grid;
 };
 
 TEST_F(RptTotal, GroupsAreMonthsOrPeople) {

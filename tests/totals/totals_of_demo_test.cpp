@@ -3,8 +3,8 @@
 #include "month/loaders.h"
 #include "store/file/database_file.h"
 #include "support/sample_company.h"
-#include "totals/total_grid.h"
 #include "totals/total_lines.h"
+#include "totals/total_sheet.h"
 
 #include <set>
 
@@ -40,8 +40,7 @@ class TotalsOfDemo : public ::testing::TestWithParam<DemoCase> {
         if (!GetWorkStyle(desk.context, connection, rules) || !GetStaffInfo(desk.context, connection, rules, staff) ||
             !GetWorkTime(desk.context, connection, rules, staff))
             return {};
-        const auto period = periodOfMonth(static_cast<int>(month.year()),
-                                          static_cast<int>(static_cast<unsigned>(month.month())), rules.plngCloseDay());
+        const auto period = periodOfMonth(month, rules.plngCloseDay());
         return makeCard(desk.context, connection, rules, staff, *period);
     }
 

@@ -3,8 +3,8 @@
 #include "month/loaders.h"
 #include "store/file/database_file.h"
 #include "support/sample_company.h"
-#include "totals/total_grid.h"
 #include "totals/total_lines.h"
+#include "totals/total_sheet.h"
 
 #include <set>
 
@@ -67,8 +67,9 @@ class TotalsTest : public SampleCompany {
 
     // Lines as "column 1|column 2|work|paid leave left".
     QStringList shown(TotalsQuestion question) {
-        GridModel grid;
-        if (!ShowTotal(desk.context, connection, question, grid)) return {u"failed"_q};
+        TotalSheet sheet;
+        const GridModel& grid = sheet.grid;
+        if (!ShowTotal(desk.context, connection, question, sheet)) return {u"failed"_q};
         QStringList lines;
         for (int row = 1; row < grid.Rows(); ++row) {
             const QStringList cells = texts(grid, row);
@@ -132,8 +133,9 @@ TEST_F(TotalsTest, AddTheDifferenceBehindTheHoursInFlexibleWork) {
     connection.execute(u"UPDATE M01_CorpInfo SET F_WorkStyle = 1, F_FlexStandard = '08:00', F_Diff = True"_q);
     connection.execute(u"UPDATE M03_WeekdayStyle SET F_StartFlex0 = '07:00', F_EndFlex0 = '22:00', "
                        "F_StartWork0 = Null, F_EndWork0 = Null"_q);
-    GridModel grid;
-    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, grid));
+    TotalSheet sheet;
+    const GridModel& grid = sheet.grid;
+    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, sheet));
     const auto column = [&grid](int number) {
         QStringList cells;
         for (int row = 1; row < grid.Rows(); ++row) cells.append(grid.TextMatrix(row, number));
@@ -146,8 +148,9 @@ TEST_F(TotalsTest, AddTheDifferenceBehindTheHoursInFlexibleWork) {
 
 TEST_F(TotalsTest, FillTheGridWithRecordsAndCalculatedMonths) {
     connection.execute(u"UPDATE M01_CorpInfo SET F_Over = True, F_Absent = True, F_EarlyLeave = True"_q);
-    GridModel grid;
-    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, grid));
+    TotalSheet sheet;
+    const GridModel& grid = sheet.grid;
+    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, sheet));
     ASSERT_EQ(grid.Cols(), 27);
     EXPECT_EQ(texts(grid, 0).join(u'|'),
               u"|氏名|年月|出勤日数|実働時間|有給残数|法内残業|普通残業|深夜残業|早出勤務|休日出勤|休日深夜|法休出勤|"
@@ -188,8 +191,9 @@ TEST_F(TotalsTest, RecordsBelongToTheirSectionAndCalculatedMonthsToItsPeopleOfTo
 }
 
 TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
-    GridModel grid;
-    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, grid));
+    TotalSheet sheet;
+    const GridModel& grid = sheet.grid;
+    ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, sheet));
     const QStringList before = texts(grid, 1);
     const int rows = grid.Rows();
     TotalsQuestion other = everybody;
@@ -197,7 +201,7 @@ TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
     const auto isOld = [&] { return grid.Rows() == rows && texts(grid, 1) == before; };
     for (const int step : {0, 1, 2}) {
         ClosedAt progress(step);
-        EXPECT_FALSE(ShowTotal({desk.prompts, desk.clock, desk.paths, progress}, connection, other, grid));
+        EXPECT_FALSE(ShowTotal({desk.prompts, desk.clock, desk.paths, progress}, connection, other, sheet));
         EXPECT_TRUE(isOld()) << step;
         EXPECT_EQ(progress.open, 0);
         EXPECT_EQ(progress.said, u"処理中です・・・");
@@ -205,11 +209,11 @@ TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
     // A leave before its enter is told by the calculation itself.
     connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 08:00:00#"_q);
     desk.prompts.expect(u"退社時刻が出社時刻より前に設定されています。"_q);
-    EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
+    EXPECT_FALSE(ShowTotal(desk.context, connection, other, sheet));
     EXPECT_EQ(desk.prompts.last().title, u"clsWorkTime－ShowTotal"_q);
     connection.execute(u"UPDATE M01_CorpInfo SET F_RoundUnit = Null"_q);
     desk.prompts.expect(u"時間計算方法設定に不備があります。"_q);
-    EXPECT_FALSE(ShowTotal(desk.context, connection, other, grid));
+    EXPECT_FALSE(ShowTotal(desk.context, connection, other, sheet));
     EXPECT_TRUE(isOld());
 }
 

@@ -63,7 +63,9 @@ bool MaskedBox::isValid() const {
 
 std::optional<Day> MaskedBox::day() const {
     if (kind_ == Time) return {};
-    return parseSlashDate(kind_ == Month ? maskText() + QStringLiteral("/01") : maskText());
+    if (kind_ == Date) return parseSlashDate(maskText());
+    const auto month = parseSlashMonth(maskText());
+    return month ? std::optional(kurbo::Day{*month / 1}) : std::nullopt;
 }
 
 void MaskedBox::setDay(Day day) {
