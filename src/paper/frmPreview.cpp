@@ -6,8 +6,8 @@
 #include "paper/paper_pdf.h"
 #include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
+#include "screen/windows/window_manners.h"
 #include "ui_frmPreview.h"
 
 #include <QCloseEvent>

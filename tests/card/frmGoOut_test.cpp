@@ -45,11 +45,7 @@ class FrmGoOut : public CardOffice {
         ASSERT_TRUE(form());
         ASSERT_TRUE(QTest::qWaitForWindowActive(form()));
     }
-    [[nodiscard]] static frmGoOut* form() {
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            if (window->objectName() == u"frmGoOut" && window->isVisible()) return qobject_cast<frmGoOut*>(window);
-        return nullptr;
-    }
+    [[nodiscard]] static frmGoOut* form() { return onScreen<frmGoOut>(); }
     // Of the preview over a window; it is closed.
     [[nodiscard]] static QString previewOf(const QWidget& window) {
         auto* const preview = window.findChild<frmPreview*>();

@@ -7,8 +7,8 @@
 #include "screen/grid/vfg_copy.h"
 #include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
+#include "screen/windows/window_manners.h"
 #include "ui_frmGoOut.h"
 
 #include <QCloseEvent>

@@ -4,7 +4,7 @@
 #include "screen/grid/grid.h"
 #include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
+#include "screen/windows/window_manners.h"
 
 #include <QLabel>
 #include <QMenuBar>
