@@ -22,9 +22,13 @@ ScreenForm::ScreenForm(Client& client, QWidget* parent) : QMainWindow(parent), c
 }
 
 void ScreenForm::dress(const QString& title) {
-    title_ = productName() + u'－' + title;
+    dressAs(productName() + u'－' + title);
+}
+
+void ScreenForm::dressAs(const QString& wholeTitle) {
+    title_ = wholeTitle;
     setWindowTitle(title_);
-    menuBar()->setNativeMenuBar(false);
+    if (auto* const menus = findChild<QMenuBar*>()) menus->setNativeMenuBar(false);
     dressKeys();
     for (Grid* const grid : findChildren<Grid*>()) {
         connect(grid, &Grid::ChangeEdit, this, [this] { openUpdate(); });
