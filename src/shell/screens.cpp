@@ -65,7 +65,7 @@ bool anybody(const Session& session) {
     return !session.SessionStaff.isEmpty();
 }
 
-bool administrator(const Session& session) {
+bool admin(const Session& session) {
     return session.access.IsAdmin;
 }
 
@@ -79,32 +79,35 @@ bool inOrder(const Context& context, Connection& connection) {
     return settingAllowed(context, connection, setting);
 }
 
+constexpr std::size_t placeOf(Screen screen) {
+    return static_cast<std::size_t>(screen);
+}
+
 constexpr auto beside = Qt::NonModal;
 constexpr auto modal = Qt::ApplicationModal;
+using enum Screen;
 
 // The card and the totals go to other sites' files, under the rights of what they show: one of them at a time. An open
 // card knows its rows by numbers that belong to others after a move, and would go to the other file with its next
 // update after the choice of another database.
 constexpr std::array<ScreenEntry, screenCount> table{{
-    {&made<frmKurbo>, beside, &whoMay<Right::ReadMyKurbo>, &cardAllowed, true, {"cmdKurbo"}},
-    {&made<frmTotal>, beside, &whoMay<Right::ReadOtherKurbo>, &cardAllowed, true, {"cmdTotal"}},
-    {&made<frmCorp>, modal, &administrator, &inOrder<Setting::Corp>, false, {"mnuCorp"}},
-    {&made<frmSection>, modal, &administrator, &inOrder<Setting::Section>, false, {"mnuSection"}},
-    {&made<frmStaff>, modal, &administrator, &inOrder<Setting::Staff>, false, {"mnuStaff"}},
-    {&made<frmWorkStyle>, modal, &administrator, &inOrder<Setting::WorkStyle>, false, {"mnuWorkStyle"}},
-    {&madeWorkTime, modal, &administrator, &inOrder<Setting::WorkTime>, false, {"mnuWorkTime"}},
-    {&made<frmAccess>, modal, &administrator, &inOrder<Setting::Access>, false, {"mnuAccess"}},
-    {&madeAsign, beside, &administrator, &inOrder<Setting::User>, false, {"mnuUser"}},
-    {&made<frmCalendar>, beside, &administrator, &inOrder<Setting::Calendar>, false, {"mnuCalendar"}},
-    {&made<frmPassword>, modal, &anybody, nullptr, false, {"mnuPassword"}},
-    {&made<frmMaintainance>, modal, &administrator, &moveAllowed, true, {"mnuMove"}},
-    {&made<frmDeleteDest>, modal, &anybody, nullptr, false, {"mnuDeleteDest", "mnuDeleteDestAdmin"}},
-    {&madeParm, modal, &anybody, nullptr, true, {"mnuDB"}},
+    {Kurbo, made<frmKurbo>, beside, whoMay<Right::ReadMyKurbo>, cardAllowed, true, {"cmdKurbo"}},
+    {Total, made<frmTotal>, beside, whoMay<Right::ReadOtherKurbo>, cardAllowed, true, {"cmdTotal"}},
+    {Corp, made<frmCorp>, modal, admin, inOrder<Setting::Corp>, false, {"mnuCorp"}},
+    {Section, made<frmSection>, modal, admin, inOrder<Setting::Section>, false, {"mnuSection"}},
+    {Staff, made<frmStaff>, modal, admin, inOrder<Setting::Staff>, false, {"mnuStaff"}},
+    {WorkStyle, made<frmWorkStyle>, modal, admin, inOrder<Setting::WorkStyle>, false, {"mnuWorkStyle"}},
+    {WorkTime, madeWorkTime, modal, admin, inOrder<Setting::WorkTime>, false, {"mnuWorkTime"}},
+    {Access, made<frmAccess>, modal, admin, inOrder<Setting::Access>, false, {"mnuAccess"}},
+    {Asign, madeAsign, beside, admin, inOrder<Setting::User>, false, {"mnuUser"}},
+    {Calendar, made<frmCalendar>, beside, admin, inOrder<Setting::Calendar>, false, {"mnuCalendar"}},
+    {Password, made<frmPassword>, modal, anybody, nullptr, false, {"mnuPassword"}},
+    {Maintainance, made<frmMaintainance>, modal, admin, moveAllowed, true, {"mnuMove"}},
+    {DeleteDest, made<frmDeleteDest>, modal, anybody, nullptr, false, {"mnuDeleteDest", "mnuDeleteDestAdmin"}},
+    {Parm, madeParm, modal, anybody, nullptr, true, {"mnuDB"}},
 }};
-
-std::size_t placeOf(Screen screen) {
-    return static_cast<std::size_t>(screen);
-}
+static_assert(std::ranges::all_of(table,
+                                  [](const ScreenEntry& entry) { return &entry == &table[placeOf(entry.screen)]; }));
 
 bool isUp(const QPointer<QWidget>& window) {
     return window && window->isVisible();

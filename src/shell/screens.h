@@ -27,12 +27,13 @@ enum class Screen {
     DeleteDest,
     Parm,
 };
-inline constexpr std::size_t screenCount = 14;
+inline constexpr std::size_t screenCount = static_cast<std::size_t>(Screen::Parm) + 1;
 
 class Screens;
 
 // One row of the table of screens.
 struct ScreenEntry {
+    Screen screen;
     // Makes and loads it, over the screen that leads to it if there is one.
     QWidget* (*make)(Screens& screens, QWidget* leading);
     // While a modal one is open, nothing else can be worked on.

@@ -31,7 +31,8 @@ class FrmLogin : public Window<frmLogin> {
     [[nodiscard]] DataCombo* section() const { return &of<DataCombo>("dcbSection"); }
     [[nodiscard]] DataCombo* staff() const { return &of<DataCombo>("dcbStaff"); }
     void tick(const char* timer) const { QMetaObject::invokeMethod(&of<QTimer>(timer), "timeout"); }
-    [[nodiscard]] QWidget* screen(Screen screen) const { return form->screens().window(screen); }
+    [[nodiscard]] const Screens& screens() const { return form->screens(); }
+    [[nodiscard]] QWidget* screen(Screen screen) const { return screens().window(screen); }
     void close(Screen screen) const {
         EXPECT_TRUE(this->screen(screen)->close());
         settle();
@@ -190,6 +191,27 @@ TEST_F(FrmLogin, ListsFollowWhatASettingsScreenHasChanged) {
     close(Screen::Password);
     EXPECT_EQ(section()->boundText(), u"S01");
     EXPECT_EQ(staff()->currentText(), QString()) << "no longer in the list";
+}
+
+TEST_F(FrmLogin, AnotherDatabaseEndsTheSessionAndShowsItsLists) {
+    const QString other = desk.file(u"other.mdb"_q);
+    makeSampleCompany(other);
+    connection.open(other, databasePassword());
+    connection.execute(u"UPDATE C02_Section SET F_SectionName = '工場' WHERE (F_SectionCode = 'S01')"_q);
+    logInAs(u"1001"_q);
+    openCard(false);
+    trigger("mnuDB");
+    EXPECT_FALSE(screen(Screen::Kurbo)) << "its next update would go to the other file";
+    ASSERT_TRUE(screen(Screen::Parm));
+    idleAway();
+    EXPECT_TRUE(client.HomeConnection.isOpen());
+    named<QPushButton>(*screen(Screen::Parm), "cmdCancel").click();
+    EXPECT_TRUE(form->isLoggedIn() && !screens().isAnyOpen());
+    trigger("mnuDB");
+    named<QLineEdit>(*screen(Screen::Parm), "txtDB").setText(other);
+    close(Screen::Parm);
+    EXPECT_FALSE(form->isLoggedIn() || screens().isAnyOpen());
+    EXPECT_TRUE(section()->itemText(0) == u"工場" && section()->currentText().isEmpty());
 }
 
 TEST_F(FrmLogin, AComboRefusesWhatIsNotInItsList) {

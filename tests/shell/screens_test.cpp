@@ -28,15 +28,16 @@ class ScreensTest : public SampleCompany {
 };
 
 TEST_F(ScreensTest, EachIsOfferedAndOpensOnce) {
-    for (std::size_t place = 0; place < screenCount; ++place) {
-        const auto screen = static_cast<Screen>(place);
+    for (const ScreenEntry& entry : screenTable()) {
+        const Screen screen = entry.screen;
+        const auto place = static_cast<int>(screen);
         client.session = {};
         EXPECT_FALSE(screens.isOffered(screen)) << place << " to nobody";
         logInWithAllRights();
         EXPECT_TRUE(screens.isOffered(screen)) << place;
         const QPointer<QWidget> window = opened(screen);
         ASSERT_TRUE(window) << place;
-        EXPECT_EQ(window->windowModality(), screenTable()[place].modality) << place;
+        EXPECT_EQ(window->windowModality(), entry.modality) << place;
         EXPECT_EQ(opened(screen), window) << place;
         EXPECT_TRUE(screens.closeAll() && !screens.isAnyOpen()) << place;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -7,11 +7,11 @@ namespace kurbo {
 
 ScreenCommands::ScreenCommands(const QWidget& window, const Screens& screens) : screens_(screens) {
     for (const ScreenEntry& entry : screenTable()) {
-        const auto screen = static_cast<Screen>(&entry - screenTable().data());
         for (const char* const command : entry.commands) {
             const QString name = QString::fromLatin1(command);
             if (name.isEmpty()) continue;
-            commands_.push_back({screen, window.findChild<QAction*>(name), window.findChild<QAbstractButton*>(name)});
+            commands_.push_back(
+                {entry.screen, window.findChild<QAction*>(name), window.findChild<QAbstractButton*>(name)});
         }
     }
 }
