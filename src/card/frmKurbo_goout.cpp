@@ -4,8 +4,8 @@
 #include "card/edit/card_checks.h"
 #include "card/frmKurbo.h"
 #include "card/outings/frmGoOut.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
+#include "screen/windows/window_manners.h"
 #include "ui_frmKurbo.h"
 
 #include <QScopedValueRollback>
@@ -38,7 +38,7 @@ void frmKurbo::openGoOut() {
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
     if (!period || refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細の表示はできません。")))
         return;
-    if (activateForm(QStringLiteral("frmGoOut"))) return;
+    if (isGoOutOpen()) return bringToFront(*frmGoOut_);
     frmGoOut_ = std::make_unique<frmGoOut>(client_);
     frmGoOut_->setPeriod(*period);
     showGoOutDay();

@@ -4,9 +4,7 @@
 #include "base/system/files.h"
 #include "paper/page_view.h"
 #include "paper/paper_pdf.h"
-#include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
 #include "ui_frmPreview.h"
 
@@ -14,7 +12,6 @@
 #include <QKeyEvent>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QShortcut>
 
@@ -51,15 +48,13 @@ bool turnsPages(const QKeyEvent& event) {
 
 } // namespace
 
-frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent)
-    : QWidget(parent, Qt::Window),
+frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, Client& client, QWidget* parent)
+    : ScreenForm(client, parent),
       ui_(std::make_unique<Ui::frmPreview>()),
       document_(std::move(document)),
-      client_(client),
       view_(new PageView(*document_)) {
     ui_->setupUi(this);
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(document_->Caption());
+    dressAs(document_->Caption());
     ui_->scrPage->setWidget(view_);
     ui_->scrPage->viewport()->installEventFilter(this);
     for (QWidget* const field : {static_cast<QWidget*>(ui_->scrPage), static_cast<QWidget*>(ui_->txtPage),
@@ -74,15 +69,17 @@ frmPreview::frmPreview(std::unique_ptr<PaperDocument> document, const Client& cl
     fillScreen(this, {1360, 990});
 }
 
-frmPreview::~frmPreview() = default;
+frmPreview::~frmPreview() {
+    putAway();
+}
 
 void frmPreview::fillZooms() {
     for (const int zoom : zooms) ui_->cboZoom->addItem(zoomName(zoom), zoom);
 }
 
 void frmPreview::connectCommands() {
-    connect(ui_->cmdPrint, &QPushButton::clicked, this, &frmPreview::print);
-    connect(ui_->cmdPdf, &QPushButton::clicked, this, &frmPreview::savePdf);
+    onCommand(ui_->cmdPrint, nullptr, [this] { print(); });
+    onCommand(ui_->cmdPdf, nullptr, [this] { savePdf(); });
     connect(ui_->cmdClose, &QPushButton::clicked, this, &QWidget::close);
     connect(ui_->cmdFirst, &QPushButton::clicked, this, [this] { showPage(0); });
     connect(ui_->cmdBack, &QPushButton::clicked, this, [this] { showPage(page_ - 1); });
@@ -90,22 +87,25 @@ void frmPreview::connectCommands() {
     connect(ui_->cmdLast, &QPushButton::clicked, this, [this] { showPage(document_->pageCount() - 1); });
     connect(ui_->txtPage, &QSpinBox::valueChanged, this, [this](int page) { showPage(page - 1); });
     connect(ui_->cboZoom, &QComboBox::currentIndexChanged, this, &frmPreview::applyZoom);
-    wireEscape(*this);
-    wireHelp(*this, client_);
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &frmPreview::print);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, &frmPreview::savePdf);
+    for (const auto& [keys, button] :
+         {std::pair{QKeySequence::Print, ui_->cmdPrint}, {QKeySequence::Save, ui_->cmdPdf}})
+        connect(new QShortcut(keys, this), &QShortcut::activated, button, &QAbstractButton::click);
 }
 
 void frmPreview::showPage(int index) {
     page_ = std::clamp(index, 0, document_->pageCount() - 1);
     ui_->txtPage->setValue(page_ + 1);
+    showState();
+    applyZoom();
+}
+
+void frmPreview::showState() {
     const bool hasBefore = page_ > 0;
     const bool hasMore = page_ < document_->pageCount() - 1;
     ui_->cmdFirst->setEnabled(hasBefore);
     ui_->cmdBack->setEnabled(hasBefore);
     ui_->cmdNext->setEnabled(hasMore);
     ui_->cmdLast->setEnabled(hasMore);
-    applyZoom();
 }
 
 void frmPreview::applyZoom() {
@@ -176,6 +176,7 @@ bool frmPreview::takeWheel(const QWheelEvent& wheel) {
 bool frmPreview::eventFilter(QObject* watched, QEvent* event) {
     const bool onPaper = watched == ui_->scrPage || watched == ui_->scrPage->viewport();
     if (onPaper && event->type() == QEvent::Wheel) return takeWheel(*static_cast<QWheelEvent*>(event));
+    if (watched == ui_->scrPage && event->type() == QEvent::Resize) applyZoom();
     if (event->type() != QEvent::KeyPress) return false;
     auto* const key = static_cast<QKeyEvent*>(event);
     // There the other keys belong to what is typed.
@@ -205,14 +206,9 @@ void frmPreview::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void frmPreview::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    applyZoom();
-}
-
 // Not while it is printed.
 void frmPreview::closeEvent(QCloseEvent* event) {
-    event->setAccepted(!busy_);
+    event->setAccepted(!blnShowing_);
 }
 
 void frmPreview::print() {
@@ -224,6 +220,7 @@ void frmPreview::print() {
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, document_->pageCount());
+    const NormalPointer pointer;
     if (dialog.exec() == QDialog::Accepted) printOn(printer);
 }
 
@@ -236,8 +233,6 @@ PageRange frmPreview::rangeOf(const QPrinter& printer) const {
 }
 
 void frmPreview::printOn(QPrinter& printer) {
-    if (busy_) return;
-    const QScopedValueRollback busy(busy_, true);
     printer.setFullPage(true);
     guarded(client_.context, u"frmPreview", u"cmdPrint_Click", [&] {
         const Hourglass hourglass;
@@ -252,15 +247,11 @@ void frmPreview::printOn(QPrinter& printer) {
 }
 
 void frmPreview::savePdf() {
-    if (busy_) return;
-    const QScopedValueRollback busy(busy_, true);
     guarded(client_.context, u"frmPreview", u"cmdPdf_Click", [&] {
         const auto path =
             client_.context.prompts.saveFile(QStringLiteral("PDFﾌｧｲﾙ(*.pdf)|*.pdf"), QStringLiteral("pdf"),
                                              fileName(document_->FileName()) + QStringLiteral(".pdf"));
-        if (!path) return;
-        const Hourglass hourglass;
-        (void)writePdf(*document_, *path, client_.context.progress);
+        if (path) (void)writePdf(*document_, *path, client_.context.progress);
     });
 }
 
@@ -268,7 +259,7 @@ void closePreview(const QWidget* parent) {
     for (frmPreview* const open : parent->findChildren<frmPreview*>(Qt::FindDirectChildrenOnly)) open->close();
 }
 
-void showPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent) {
+void showPreview(std::unique_ptr<PaperDocument> document, Client& client, QWidget* parent) {
     closePreview(parent);
     auto* const preview = new frmPreview(std::move(document), client, parent);
     preview->show();

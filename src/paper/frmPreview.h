@@ -1,9 +1,7 @@
 #pragma once
 
 #include "paper/paper_pdf.h"
-#include "store/client.h"
-
-#include <QWidget>
+#include "screen/windows/screen_form.h"
 
 #include <memory>
 
@@ -17,14 +15,12 @@ class frmPreview;
 class PageView;
 
 // A document page by page before it is printed or saved as a PDF. Only the page that is looked at is drawn.
-class frmPreview final : public QWidget {
+class frmPreview final : public ScreenForm {
     Q_OBJECT
 
   public:
-    frmPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent);
+    frmPreview(std::unique_ptr<PaperDocument> document, Client& client, QWidget* parent);
     ~frmPreview() override;
-    frmPreview(const frmPreview&) = delete;
-    frmPreview& operator=(const frmPreview&) = delete;
 
     // Counted from 0; a page before the first or behind the last is that one.
     [[nodiscard]] int Page() const { return page_; }
@@ -35,11 +31,13 @@ class frmPreview final : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    // A document holds all that it shows.
+    [[nodiscard]] bool hasConnection() override { return true; }
+    void showState() override;
     void fillZooms();
     void connectCommands();
     void print();
@@ -55,10 +53,8 @@ class frmPreview final : public QWidget {
 
     const std::unique_ptr<Ui::frmPreview> ui_;
     const std::unique_ptr<PaperDocument> document_;
-    const Client& client_;
     PageView* view_;
     int page_ = 0;
-    bool busy_ = false;
     // What the wheel has moved since the last step.
     int wheel_ = 0;
 };
@@ -66,6 +62,6 @@ class frmPreview final : public QWidget {
 // Closes the one that the parent has open.
 void closePreview(const QWidget* parent);
 // Opens the window over its parent, in the place of the one that the parent had open.
-void showPreview(std::unique_ptr<PaperDocument> document, const Client& client, QWidget* parent);
+void showPreview(std::unique_ptr<PaperDocument> document, Client& client, QWidget* parent);
 
 } // namespace kurbo

@@ -5,7 +5,7 @@
 
 namespace kurbo {
 
-void PrintGrid(const GridModel& grid, const QString& documentName, const Client& client, QWidget* parent) {
+void PrintGrid(const GridModel& grid, const QString& documentName, Client& client, QWidget* parent) {
     guarded(client.context, u"basGrid", u"PrintGrid", [&] {
         showPreview(std::make_unique<GridPages>(grid, documentName, slashDate(client.context.clock.today())), client,
                     parent);

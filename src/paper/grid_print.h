@@ -9,6 +9,6 @@ namespace kurbo {
 
 // Opens the preview of a grid as it stands now: its visible rows and columns, the words of its lists, its headings on
 // every page.
-void PrintGrid(const GridModel& grid, const QString& documentName, const Client& client, QWidget* parent);
+void PrintGrid(const GridModel& grid, const QString& documentName, Client& client, QWidget* parent);
 
 } // namespace kurbo

@@ -1,6 +1,5 @@
 #include "shell/frmParm.h"
 
-#include "base/product.h"
 #include "screen/fields/fields.h"
 #include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
@@ -12,11 +11,10 @@
 namespace kurbo {
 
 frmParm::frmParm(Client& client, QWidget* parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::frmParm>()), client_(client) {
+    : FormDialog(QStringLiteral("データベース指定"), parent), ui_(std::make_unique<Ui::frmParm>()), client_(client) {
     ui_->setupUi(this);
     ui_->menus->setNativeMenuBar(false);
     layout()->setMenuBar(ui_->menus);
-    setWindowTitle(productName() + QStringLiteral("－データベース指定"));
     connect(ui_->txtDB, &QLineEdit::textChanged, this,
             [this](const QString& text) { ui_->cmdOK->setEnabled(!text.trimmed().isEmpty()); });
     connect(ui_->cmdDB, &QPushButton::clicked, this, &frmParm::browse);
@@ -43,7 +41,9 @@ void frmParm::cancel() {
 
 // Every way out leads through here: the buttons, Esc and the window's own close.
 void frmParm::done(int result) {
-    if (unload()) QDialog::done(result);
+    if (!unload()) return;
+    QDialog::done(result);
+    if (chosen_) Q_EMIT databaseChosen();
 }
 
 bool frmParm::unload() {
@@ -53,7 +53,7 @@ bool frmParm::unload() {
         return true;
     }
     const ChoiceEnd end = chooseDatabase(client_, ui_->txtDB->text());
-    if (end == ChoiceEnd::Chosen) Q_EMIT databaseChosen();
+    chosen_ = end == ChoiceEnd::Chosen;
     return end != ChoiceEnd::Stay;
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "screen/windows/form_dialog.h"
 #include "store/client.h"
-
-#include <QDialog>
 
 #include <memory>
 
@@ -13,7 +12,7 @@ class frmParm;
 }
 
 // Where the database lies. Every way out but the cancel button takes over the path, or asks why not.
-class frmParm final : public QDialog {
+class frmParm final : public FormDialog {
     Q_OBJECT
 
   public:
@@ -25,7 +24,7 @@ class frmParm final : public QDialog {
     void done(int result) override;
 
   Q_SIGNALS:
-    // The client works on another database now.
+    // The form is closed, and the client works on another database now.
     void databaseChosen();
 
   private:
@@ -37,6 +36,7 @@ class frmParm final : public QDialog {
     const std::unique_ptr<Ui::frmParm> ui_;
     Client& client_;
     bool cancelled_ = false;
+    bool chosen_ = false;
 };
 
 } // namespace kurbo

@@ -8,6 +8,8 @@
 #include <QCloseEvent>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace kurbo {
 namespace {
 
@@ -63,6 +65,12 @@ frmWaiting::frmWaiting()
 }
 
 frmWaiting::~frmWaiting() = default;
+
+bool frmWaiting::isAnyUp() {
+    return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
+        return window->isVisible() && qobject_cast<const frmWaiting*>(window);
+    });
+}
 
 void frmWaiting::begin(const QString& text, int maximum) {
     endless_ = maximum == 0;

@@ -24,6 +24,9 @@ class frmWaiting final : public QWidget, public Progress {
     frmWaiting(const frmWaiting&) = delete;
     frmWaiting& operator=(const frmWaiting&) = delete;
 
+    // Whether one of them is on the screen.
+    [[nodiscard]] static bool isAnyUp();
+
     void begin(const QString& text, int maximum) override;
     void step(int value) override;
     void end() override;

@@ -4,10 +4,10 @@
 #include "screen/windows/hourglass.h"
 #include "session/delivery.h"
 #include "session/main_order.h"
-#include "shell/frmLogin.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWaiting.h"
+#include "shell/login/frmLogin.h"
 #include "shell/single_instance.h"
 #include "shell/wait_box.h"
 
@@ -20,9 +20,9 @@ namespace kurbo {
 namespace {
 
 // The start's windows. The pointer is an hourglass until somebody can work.
-class Screens final : public StartScreens {
+class StartWindows final : public StartScreens {
   public:
-    explicit Screens(Client& client) : client_(client), hourglass_(std::in_place) {}
+    explicit StartWindows(Client& client) : client_(client), hourglass_(std::in_place) {}
 
     void showSplash(const QString& warning) override { splash_.emplace(warning).showAtOnce(); }
 
@@ -73,8 +73,8 @@ int runClient(const QString& appFolder, const Clock& clock) {
     Client client(context);
     waitBox.watch(client.HomeConnection);
     waitBox.watch(client.OtherConnection);
-    Screens screens(client);
-    return Main(client, screens) ? QApplication::exec() : 1;
+    StartWindows windows(client);
+    return Main(client, windows) ? QApplication::exec() : 1;
 }
 
 } // namespace kurbo

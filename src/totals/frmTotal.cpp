@@ -105,7 +105,7 @@ void frmTotal::loadCsv() {
     if (!screen_.mayDiscard()) return;
     const QStringList files = client_.context.prompts.openFiles(QStringLiteral("CSVﾌｧｲﾙ(*.csv)|*.csv"));
     if (files.isEmpty() || !mayLoadCsv(client_.context, files.size())) return;
-    if (frmCsv(client_, screen_.countUnit(), this).run(files)) screen_.reload();
+    if (frmCsv(client_, screen_.countUnit(), this).review(files)) screen_.reload();
 }
 
 void frmTotal::sectionChosen() {

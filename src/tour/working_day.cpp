@@ -2,12 +2,15 @@
 
 #include "card/card_cells.h"
 #include "card/card_grid.h"
+#include "card/outings/frmGoOut.h"
 #include "paper/frmPreview.h"
 #include "screen/fields/data_combo.h"
 #include "screen/fields/data_list.h"
 #include "screen/fields/masked_box.h"
 #include "screen/grid/grid.h"
 #include "screen/windows/frmAbout.h"
+#include "screen/windows/frmHelp.h"
+#include "settings/calendar/frmHoliday.h"
 #include "shell/frmParm.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWaiting.h"
@@ -38,6 +41,14 @@ void press(QWidget* control, int key, const QString& text = {}) {
 
 void type(QWidget* control, const QString& text) {
     for (const QChar c : text) press(control, 0, QString(c));
+}
+
+// The window of a kind, if one is there.
+template <typename Form>
+Form* onScreen() {
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (auto* const form = qobject_cast<Form*>(window); form && form->isVisible()) return form;
+    return nullptr;
 }
 
 } // namespace
@@ -120,12 +131,6 @@ void WorkingDay::nightShiftEnds() {
     press(control("cmdLeave"), Qt::Key_Space);
 }
 
-QWidget* WorkingDay::screen(const char* name) {
-    for (QWidget* const window : QApplication::topLevelWidgets())
-        if (window->isVisible() && window->objectName() == QLatin1String(name)) return window;
-    return nullptr;
-}
-
 void WorkingDay::print(const QWidget& form, const QString& title) {
     form.findChild<QPushButton*>(QStringLiteral("cmdPrint"))->click();
     settle();
@@ -141,7 +146,7 @@ void WorkingDay::print(const QWidget& form, const QString& title) {
 void WorkingDay::card() {
     logIn(QStringLiteral("総務部"), QStringLiteral("和田　学"), QStringLiteral("kurbo1001"));
     press(control("cmdKurbo"), Qt::Key_Space);
-    QWidget* const form = screen("frmKurbo");
+    QWidget* const form = screen(Screen::Kurbo);
     if (!form) return;
     form->resize(1360, 700);
     camera_.shoot(*form, QStringLiteral("タイムカード"));
@@ -164,7 +169,7 @@ void WorkingDay::card() {
     camera_.shoot(*form, QStringLiteral("保存した月"));
     form->findChild<QAction*>(QStringLiteral("mnuDetail"))->trigger();
     settle();
-    if (QWidget* const outings = screen("frmGoOut")) {
+    if (auto* const outings = onScreen<frmGoOut>()) {
         camera_.shoot(*outings, QStringLiteral("外出明細"));
         print(*outings, QStringLiteral("外出明細の印刷"));
     }
@@ -177,7 +182,7 @@ void WorkingDay::card() {
 void WorkingDay::totals() {
     logIn(QStringLiteral("総務部"), QStringLiteral("青木　美穂"), QStringLiteral("kurbo1002"));
     press(control("cmdTotal"), Qt::Key_Space);
-    QWidget* const form = screen("frmTotal");
+    QWidget* const form = screen(Screen::Total);
     if (!form) return;
     form->resize(1360, 700);
     form->findChild<MaskedBox*>(QStringLiteral("mskStart"))->setText(QStringLiteral("2026/03"));
@@ -201,31 +206,31 @@ void WorkingDay::administrator() {
         camera_.shoot(*menu, QStringLiteral("メニュー ") + menu->title().section(u'(', 0, 0));
         menu->close();
     }
-    for (const auto& [menu, form] : {std::pair{"mnuCorp", "frmCorp"},
-                                     {"mnuSection", "frmSection"},
-                                     {"mnuStaff", "frmStaff"},
-                                     {"mnuWorkStyle", "frmWorkStyle"},
-                                     {"mnuWorkTime", "frmWorkTime"},
-                                     {"mnuAccess", "frmAccess"},
-                                     {"mnuUser", "frmAsign"},
-                                     {"mnuPassword", "frmPassword"},
-                                     {"mnuMove", "frmMaintainance"},
-                                     {"mnuDeleteDestAdmin", "frmDeleteDest"}})
+    for (const auto& [menu, form] : {std::pair{"mnuCorp", Screen::Corp},
+                                     {"mnuSection", Screen::Section},
+                                     {"mnuStaff", Screen::Staff},
+                                     {"mnuWorkStyle", Screen::WorkStyle},
+                                     {"mnuWorkTime", Screen::WorkTime},
+                                     {"mnuAccess", Screen::Access},
+                                     {"mnuUser", Screen::Asign},
+                                     {"mnuPassword", Screen::Password},
+                                     {"mnuMove", Screen::Maintainance},
+                                     {"mnuDeleteDestAdmin", Screen::DeleteDest}})
         showSetting(menu, form);
     calendar();
     window_.findChild<QAction*>(QStringLiteral("mnuTopic"))->trigger();
     settle();
-    if (QWidget* const help = screen("frmHelp")) {
+    if (auto* const help = onScreen<frmHelp>()) {
         camera_.shoot(*help, QStringLiteral("ヘルプ"));
         help->close();
     }
 }
 
 // In a list, the first record behind the one that stands for a new one.
-void WorkingDay::showSetting(const char* menu, const char* name) {
+void WorkingDay::showSetting(const char* menu, Screen setting) {
     window_.findChild<QAction*>(QString::fromLatin1(menu))->trigger();
     settle();
-    QWidget* const form = screen(name);
+    QWidget* const form = screen(setting);
     if (!form) return;
     for (DataList* const list : form->findChildren<DataList*>())
         if (list->isVisible()) press(list, Qt::Key_Down);
@@ -238,11 +243,11 @@ void WorkingDay::showSetting(const char* menu, const char* name) {
 void WorkingDay::calendar() {
     window_.findChild<QAction*>(QStringLiteral("mnuCalendar"))->trigger();
     settle();
-    QWidget* const form = screen("frmCalendar");
+    QWidget* const form = screen(Screen::Calendar);
     if (!form) return;
     form->findChild<QAction*>(QStringLiteral("mnuHoliday"))->trigger();
     settle();
-    if (QWidget* const rules = screen("frmHoliday")) {
+    if (auto* const rules = onScreen<frmHoliday>()) {
         GridModel& cells = *rules->findChild<Grid*>(QStringLiteral("vfgHoliday"))->grid();
         int column = 0;
         for (const char16_t* text : {u"毎週", u"日曜日", u"", u"", u"定休日", u"全日"})

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/clock.h"
-#include "shell/frmLogin.h"
+#include "shell/login/frmLogin.h"
 #include "tour/photographed_prompts.h"
 
 namespace kurbo {
@@ -21,7 +21,7 @@ class WorkingDay final {
     void card();
     void totals();
     void administrator();
-    void showSetting(const char* menu, const char* name);
+    void showSetting(const char* menu, Screen setting);
     void calendar();
     void otherWindows();
     void end();
@@ -32,7 +32,7 @@ class WorkingDay final {
     void shoot(const QString& title) { camera_.shoot(window_, title); }
     [[nodiscard]] QWidget* control(const char* name) const;
     // A screen that is open beside the main window.
-    [[nodiscard]] static QWidget* screen(const char* name);
+    [[nodiscard]] QWidget* screen(Screen screen) const { return window_.screens().window(screen); }
 
     Client& client_;
     FixedClock& clock_;

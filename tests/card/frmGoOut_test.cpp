@@ -45,11 +45,7 @@ class FrmGoOut : public CardOffice {
         ASSERT_TRUE(form());
         ASSERT_TRUE(QTest::qWaitForWindowActive(form()));
     }
-    [[nodiscard]] static frmGoOut* form() {
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            if (window->objectName() == u"frmGoOut" && window->isVisible()) return qobject_cast<frmGoOut*>(window);
-        return nullptr;
-    }
+    [[nodiscard]] static frmGoOut* form() { return onScreen<frmGoOut>(); }
     // Of the preview over a window; it is closed.
     [[nodiscard]] static QString previewOf(const QWidget& window) {
         auto* const preview = window.findChild<frmPreview*>();
@@ -129,6 +125,8 @@ TEST_F(FrmGoOut, ItFollowsTheRowOfTheCard) {
     EXPECT_EQ(total(), u"26/04/02(木)  合計"_q);
     goTo(6);
     EXPECT_FALSE(named<QAction>(*form(), "mnuGPaste").isEnabled()) << "no card row";
+    QTest::keyClick(&grid(), Qt::Key_1);
+    EXPECT_EQ(form()->statusBar()->currentMessage(), u"タイムカードの打刻記録が無いため編集できません"_q);
     goTo(1);
     type(3, 6, u"300"_q);
     desk.prompts.expect(leaveDay, Answer::No);

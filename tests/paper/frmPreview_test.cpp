@@ -122,6 +122,7 @@ TEST_F(FrmPreview, SizesGoUpAndDown) {
     EXPECT_EQ(zoom.currentText(), u"ページ全体"_q);
     EXPECT_LE(sheet(), of<QScrollArea>("scrPage").viewport()->width());
     const int whole = sheet();
+    EXPECT_GT(whole, of<QScrollArea>("scrPage").viewport()->width() / 2);
     press(Qt::Key_Plus);
     EXPECT_GT(sheet(), whole);
     for (int i = 0; i < 12; ++i) press(Qt::Key_Plus);

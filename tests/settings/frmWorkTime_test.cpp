@@ -126,15 +126,11 @@ TEST_F(FrmWorkTime, APasteGoesToTheGridInViewAndNotIntoNavyCells) {
     EXPECT_TRUE(grid().isEditing());
 }
 
-TEST_F(FrmWorkTime, PagesFollowTheWorkStyleAndTheButtonThatAsks) {
+TEST_F(FrmWorkTime, PagesFollowTheWorkStyleAndThePageThatIsAsked) {
     setStyle(u"F_AmHolidayWork = 0"_q);
-    QWidget asking;
-    asking.setObjectName(u"frmAsign"_q);
-    QPushButton button(&asking);
-    button.setObjectName(u"cmdWorkTime_3"_q);
-    asking.show();
-    button.setFocus();
     open();
+    form->setFirstPage(PmHoliday);
+    form->load();
     EXPECT_EQ(of<QTabWidget>("tabTime").currentIndex(), PmHoliday);
     EXPECT_FALSE(of<QTabWidget>("tabTime").isTabVisible(AmHoliday));
     EXPECT_FALSE(of<QMenu>("mnuAmHoliday").menuAction()->isVisible());

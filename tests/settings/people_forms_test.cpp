@@ -3,7 +3,6 @@
 #include "screen/fields/data_combo.h"
 #include "screen/fields/data_list.h"
 #include "screen/grid/grid.h"
-#include "screen/windows/open_forms.h"
 #include "settings/people/frmAccess.h"
 #include "settings/people/frmPassword.h"
 #include "support/window.h"
@@ -111,24 +110,6 @@ TEST_F(frmAsignTest, ASectionIsAskedAboutOnceAndABadFieldKeepsItsPage) {
         EXPECT_EQ(section.boundText(), kept);
         EXPECT_EQ(of<DataList>("dtsStaff").count(), people);
     }
-}
-
-// The page of the button that was pressed.
-TEST_F(frmAsignTest, TheButtonsLeadToTheirPages) {
-    open();
-    of<QTabWidget>("tabStaff").setCurrentIndex(1);
-    for (const auto& [button, page] : {std::pair{"cmdWorkTime_1", 1}, {"cmdWorkTime_4", 4}}) {
-        of<QWidget>(button).setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QWidget* const workTime = QApplication::activeModalWidget();
-        ASSERT_TRUE(workTime && workTime->objectName() == u"frmWorkTime") << button;
-        EXPECT_EQ(workTime->findChild<QTabWidget*>(u"tabTime"_q)->currentIndex(), page);
-        workTime->close();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    }
-    click("cmdAccess");
-    ASSERT_TRUE(IsFormLoaded(u"frmAccess"_q));
-    QApplication::activeModalWidget()->close();
 }
 
 class frmAccessTest : public Window<frmAccess> {

@@ -2,7 +2,7 @@
 #include "card/frmKurbo.h"
 #include "settings/calendar/frmCalendar.h"
 #include "settings/records/frmStaff.h"
-#include "shell/frmLogin.h"
+#include "shell/login/frmLogin.h"
 #include "support/typing.h"
 #include "totals/frmTotal.h"
 

@@ -1,7 +1,10 @@
-#include "shell/frmLogin.h"
+#include "shell/login/frmLogin.h"
 
+#include "card/card_cells.h"
+#include "card/card_grid.h"
 #include "screen/fields/data_combo.h"
-#include "screen/windows/open_forms.h"
+#include "screen/grid/grid.h"
+#include "screen/windows/frmHelp.h"
 #include "store/file/database_file.h"
 #include "support/window.h"
 
@@ -28,10 +31,19 @@ class FrmLogin : public Window<frmLogin> {
     [[nodiscard]] DataCombo* section() const { return &of<DataCombo>("dcbSection"); }
     [[nodiscard]] DataCombo* staff() const { return &of<DataCombo>("dcbStaff"); }
     void tick(const char* timer) const { QMetaObject::invokeMethod(&of<QTimer>(timer), "timeout"); }
-    static void close(const char* screen) {
-        for (QWidget* const form : openScreens())
-            if (form->objectName() == QLatin1String(screen)) form->close();
+    [[nodiscard]] const Screens& screens() const { return form->screens(); }
+    [[nodiscard]] QWidget* screen(Screen screen) const { return screens().window(screen); }
+    void close(Screen screen) const {
+        EXPECT_TRUE(this->screen(screen)->close());
         settle();
+    }
+    // The own card; a change in it is asked about before the card closes.
+    void openCard(bool changed) const {
+        click("cmdKurbo");
+        if (changed)
+            named<Grid>(*screen(Screen::Kurbo), "vfgKurbo")
+                .grid()
+                ->edit(firstCardDay, static_cast<int>(CardColumn::Plan), u"x"_q);
     }
     void idleAway() const {
         for (int minute = 0; minute < 5; ++minute) tick("tmrTimer");
@@ -63,40 +75,32 @@ class FrmLogin : public Window<frmLogin> {
     }
 };
 
-// A screen that is open beside the main window, and may have changes that somebody keeps.
-struct OtherScreen final : QWidget {
-    OtherScreen() {
-        setObjectName(u"frmKurbo"_q);
-        show();
-    }
-    void closeEvent(QCloseEvent* event) override { event->setAccepted(!kept); }
-    bool kept = false;
-};
-
 TEST_F(FrmLogin, ASessionEndsWithItsScreensOrGoesOn) {
+    const QString discard = u"変更を破棄しますか？"_q;
     logInAs(u"1001"_q);
-    OtherScreen card;
-    card.kept = true;
+    openCard(true);
+    comeBack();
+    desk.prompts.expect(discard, Answer::No).expect(discard, Answer::No);
     staff()->setFocus();
     settle();
-    EXPECT_TRUE(form->isLoggedIn() && card.isVisible());
+    EXPECT_TRUE(form->isLoggedIn() && screen(Screen::Kurbo));
     EXPECT_EQ(form->focusWidget(), &of("txtClock"));
     click("cmdEnter");
-    EXPECT_TRUE(form->isLoggedIn());
-    card.kept = false;
+    EXPECT_TRUE(form->isLoggedIn() && desk.prompts.allShown());
     comeBack();
+    desk.prompts.expect(discard, Answer::Yes);
     staff()->setFocus();
     settle();
-    EXPECT_FALSE(form->isLoggedIn() || card.isVisible() || client.session.access.CanPunch);
+    EXPECT_FALSE(form->isLoggedIn() || screen(Screen::Kurbo) || client.session.access.CanPunch);
     EXPECT_EQ(form->focusWidget(), staff());
     EXPECT_TRUE(staff()->boundText() == u"1001" && password()->text().isEmpty());
     logInAsAdmin();
     password()->setFocus();
     EXPECT_TRUE(staff()->currentText().isEmpty() && !form->isLoggedIn());
     logInAs(u"1001"_q);
-    card.show();
+    openCard(false);
     click("cmdLeave");
-    EXPECT_FALSE(form->isLoggedIn() || card.isVisible());
+    EXPECT_FALSE(form->isLoggedIn() || screen(Screen::Kurbo));
 }
 
 TEST_F(FrmLogin, AHiddenPersonGetsInByNoWay) {
@@ -144,8 +148,8 @@ TEST_F(FrmLogin, ThePersonsRightsOpenTheCommands) {
     EXPECT_FALSE(of<QMenu>("mnuAsign").menuAction()->isVisible());
     EXPECT_EQ(form->focusWidget(), button("cmdEnter"));
     trigger("mnuDeleteDest");
-    EXPECT_TRUE(QApplication::activeModalWidget() && IsFormLoaded(u"frmDeleteDest"_q));
-    close("frmDeleteDest");
+    EXPECT_TRUE(screen(Screen::DeleteDest));
+    close(Screen::DeleteDest);
     form->HideTimeRecorder();
     EXPECT_EQ(form->height(), shortHeight);
 }
@@ -163,7 +167,7 @@ TEST_F(FrmLogin, TheAdministratorGetsTheSettingsInTheirOrder) {
     trigger("mnuSection");
     desk.prompts.expect(u"設定メニューの表示順序"_q);
     trigger("mnuCorp");
-    close("frmCorp");
+    close(Screen::Corp);
     connection.execute(u"DELETE * FROM T01_Calendar WHERE (F_DateID < '20261120')"_q);
     desk.prompts.expect(u"移動するデータがありません。"_q);
     trigger("mnuMove");
@@ -177,16 +181,37 @@ TEST_F(FrmLogin, ListsFollowWhatASettingsScreenHasChanged) {
     connection.execute(u"UPDATE C02_Section SET F_SectionName = '管理部' WHERE (F_SectionCode = 'S01')"_q);
     connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
                        "VALUES ('S02', '工場', '/srv/other.mdb', 2, -1)"_q);
-    close("frmSection");
+    close(Screen::Section);
     EXPECT_EQ(staff()->currentText(), u"admin");
     EXPECT_EQ(section()->itemText(0), u"管理部"_q);
     EXPECT_EQ(section()->count(), 1) << "the factory lies in another file";
     logInAs(u"1001"_q);
     trigger("mnuPassword");
     connection.execute(u"UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = '1001')"_q);
-    close("frmPassword");
+    close(Screen::Password);
     EXPECT_EQ(section()->boundText(), u"S01");
     EXPECT_EQ(staff()->currentText(), QString()) << "no longer in the list";
+}
+
+TEST_F(FrmLogin, AnotherDatabaseEndsTheSessionAndShowsItsLists) {
+    const QString other = desk.file(u"other.mdb"_q);
+    makeSampleCompany(other);
+    connection.open(other, databasePassword());
+    connection.execute(u"UPDATE C02_Section SET F_SectionName = '工場' WHERE (F_SectionCode = 'S01')"_q);
+    logInAs(u"1001"_q);
+    openCard(false);
+    trigger("mnuDB");
+    EXPECT_FALSE(screen(Screen::Kurbo)) << "its next update would go to the other file";
+    ASSERT_TRUE(screen(Screen::Parm));
+    idleAway();
+    EXPECT_TRUE(client.HomeConnection.isOpen());
+    named<QPushButton>(*screen(Screen::Parm), "cmdCancel").click();
+    EXPECT_TRUE(form->isLoggedIn() && !screens().isAnyOpen());
+    trigger("mnuDB");
+    named<QLineEdit>(*screen(Screen::Parm), "txtDB").setText(other);
+    close(Screen::Parm);
+    EXPECT_FALSE(form->isLoggedIn() || screens().isAnyOpen());
+    EXPECT_TRUE(section()->itemText(0) == u"工場" && section()->currentText().isEmpty());
 }
 
 TEST_F(FrmLogin, AComboRefusesWhatIsNotInItsList) {
@@ -250,7 +275,7 @@ TEST_F(FrmLogin, IdleReleaseDoesNotMindATextThatIsRead) {
     QFile(desk.paths.helpPath).open(QIODevice::WriteOnly);
     trigger("mnuTopic");
     idleAway();
-    EXPECT_TRUE(IsFormLoaded(u"frmHelp"_q) && !client.HomeConnection.isOpen());
+    EXPECT_TRUE(onScreen<frmHelp>() && !client.HomeConnection.isOpen());
     QTimer::singleShot(0, form, [this] {
         EXPECT_TRUE(client.HomeConnection.isOpen() && of<QTimer>("tmrTimer").isActive());
         idleAway();
@@ -261,10 +286,11 @@ TEST_F(FrmLogin, IdleReleaseDoesNotMindATextThatIsRead) {
 }
 
 TEST_F(FrmLogin, IdleReleaseAsksNothingAndWaitsWhileAScreenIsOpen) {
-    OtherScreen card;
+    logInAs(u"1001"_q);
+    openCard(false);
     idleAway();
     EXPECT_TRUE(client.HomeConnection.isOpen());
-    card.close();
+    close(Screen::Kurbo);
     comeBack();
     section()->setFocus();
     QTest::keyClicks(section(), u"zz"_q);
@@ -276,20 +302,23 @@ TEST_F(FrmLogin, IdleReleaseAsksNothingAndWaitsWhileAScreenIsOpen) {
 
 TEST_F(FrmLogin, TheThirdWrongPasswordInARowEndsTheClient) {
     connection.close();
+    logInAs(u"1001"_q);
+    openCard(false);
+    form->HideTimeRecorder();
+    comeBack();
     const QSignalSpy ended(form, &frmLogin::ended);
     desk.prompts.expect(u"正しいパスワードを"_q).expect(u"正しいパスワードを"_q);
     logInAs(u"1001"_q, u"no"_q);
     EXPECT_TRUE(password()->text().isEmpty());
     EXPECT_EQ(form->focusWidget(), password());
     give(u"no"_q);
-    OtherScreen card;
     desk.prompts.expect(u"強制終了します。"_q).expect(u"他のメニューが開いているので"_q);
     give(u"no"_q);
     desk.prompts.expect(u"他のメニューが開いているので"_q);
     give(u"kurbo1"_q);
     EXPECT_TRUE(form->isVisible() && !form->isLoggedIn());
-    card.close();
-    comeBack();
+    close(Screen::Kurbo);
+    form->activateWindow();
     settle();
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(ended.count(), 1);

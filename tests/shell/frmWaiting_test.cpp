@@ -88,15 +88,12 @@ TEST_F(SampleCompany, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {
     waiting.open(path, databasePassword());
     bool shown = false;
     const auto waitFor = [&](std::chrono::milliseconds time) {
-        shown = false;
         Connection busy;
         busy.open(path, databasePassword());
         busy.engine("BEGIN EXCLUSIVE");
         waiting.setTimeout(time);
         EXPECT_THROW((void)waiting.hasRow(u"SELECT * FROM C02_Section;"_q), Fault);
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (const QWidget* window : windows)
-            shown = shown || (window->isVisible() && window->objectName() == u"frmWaiting");
+        shown = frmWaiting::isAnyUp();
         busy.engine("ROLLBACK");
     };
     waitFor(std::chrono::milliseconds(500));
@@ -104,8 +101,7 @@ TEST_F(SampleCompany, ALongWaitForTheDatabaseIsShownAndAShortOneIsNot) {
     waitFor(std::chrono::milliseconds(1700));
     EXPECT_TRUE(shown);
     QTest::qWait(500);
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (const QWidget* window : windows) EXPECT_FALSE(window->isVisible() && window->objectName() == u"frmWaiting");
+    EXPECT_FALSE(frmWaiting::isAnyUp());
 }
 
 } // namespace

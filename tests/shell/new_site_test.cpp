@@ -2,9 +2,9 @@
 #include "card/card_grid.h"
 #include "screen/fields/data_combo.h"
 #include "screen/fields/data_list.h"
-#include "settings/calendar/holiday_sheet.h"
+#include "settings/calendar/frmHoliday.h"
 #include "settings/people/access_sheet.h"
-#include "shell/frmLogin.h"
+#include "shell/login/frmLogin.h"
 #include "support/kurboctl.h"
 #include "support/window.h"
 
@@ -30,15 +30,10 @@ class NewSite : public ::testing::Test {
         window.greet();
     }
     // The screen that a menu entry opens.
-    QWidget* open(const char* menu, const QString& name) {
+    QWidget* open(const char* menu, Screen screen) {
         named<QAction>(window, menu).trigger();
-        return screen(name);
-    }
-    static QWidget* screen(const QString& name) {
         QCoreApplication::processEvents();
-        for (QWidget* const form : QApplication::topLevelWidgets())
-            if (form->isVisible() && form->objectName() == name) return form;
-        return nullptr;
+        return window.screens().window(screen);
     }
     static void press(const QWidget* form, const char* button) { named<QPushButton>(*form, button).click(); }
     static void fill(const QWidget* form, const Texts& texts) {
@@ -85,7 +80,7 @@ class NewSite : public ::testing::Test {
 
 void NewSite::enterCompany() {
     desk.prompts.expect(u"設定メニューの表示順序に従い、会社情報登録から順次設定を行って下さい。"_q);
-    QWidget* const form = open("mnuCorp", u"frmCorp"_q);
+    QWidget* const form = open("mnuCorp", Screen::Corp);
     ASSERT_TRUE(form);
     fill(form, {{"txtCorp", u"新設商事"_q}, {"txtTel", u"03-1234-5678"_q}});
     update(form);
@@ -93,7 +88,7 @@ void NewSite::enterCompany() {
 }
 
 void NewSite::enterSections() {
-    QWidget* const form = open("mnuSection", u"frmSection"_q);
+    QWidget* const form = open("mnuSection", Screen::Section);
     ASSERT_TRUE(form);
     for (const auto& [code, name] : {std::pair{u"S1"_q, u"総務部"_q}, {u"S2"_q, u"製造部"_q}}) {
         chooseNew(form, "dtsSection");
@@ -105,7 +100,7 @@ void NewSite::enterSections() {
 }
 
 void NewSite::enterPeople() {
-    QWidget* const form = open("mnuStaff", u"frmStaff"_q);
+    QWidget* const form = open("mnuStaff", Screen::Staff);
     ASSERT_TRUE(form);
     for (const auto& [code, name, section] : {std::tuple{u"11"_q, u"青木"_q, u"総務部"_q},
                                               {u"12"_q, u"石田"_q, u"総務部"_q},
@@ -120,7 +115,7 @@ void NewSite::enterPeople() {
 }
 
 void NewSite::setWorkStyle() {
-    QWidget* const form = open("mnuWorkStyle", u"frmWorkStyle"_q);
+    QWidget* const form = open("mnuWorkStyle", Screen::WorkStyle);
     ASSERT_TRUE(form);
     for (const char* const item : {"chkDisplay_2", "chkDisplay_5", "chkDisplay_10"})
         EXPECT_TRUE(named<QCheckBox>(*form, item).isChecked()) << item;
@@ -130,7 +125,7 @@ void NewSite::setWorkStyle() {
 }
 
 void NewSite::setWorkTimes() {
-    QWidget* const form = open("mnuWorkTime", u"frmWorkTime"_q);
+    QWidget* const form = open("mnuWorkTime", Screen::WorkTime);
     ASSERT_TRUE(form);
     auto* const tab = &named<QTabWidget>(*form, "tabTime");
     auto& weekday = named<Grid>(*form, "vfgWeekday");
@@ -153,7 +148,7 @@ void NewSite::setWorkTimes() {
 }
 
 void NewSite::setRights() {
-    QWidget* const form = open("mnuAccess", u"frmAccess"_q);
+    QWidget* const form = open("mnuAccess", Screen::Access);
     ASSERT_TRUE(form);
     auto& grid = named<Grid>(*form, "vfgAccess");
     typeInto(&named<QWidget>(*form, "txtAccess"), u"一般"_q);
@@ -165,7 +160,7 @@ void NewSite::setRights() {
 }
 
 void NewSite::setPeople() {
-    QWidget* const form = open("mnuUser", u"frmAsign"_q);
+    QWidget* const form = open("mnuUser", Screen::Asign);
     ASSERT_TRUE(form);
 
     // Who keeps the changes there keeps the session: the window would be left to the next person.
@@ -198,10 +193,11 @@ void NewSite::setPeople() {
 }
 
 void NewSite::setCalendar() {
-    QWidget* const calendar = open("mnuCalendar", u"frmCalendar"_q);
+    QWidget* const calendar = open("mnuCalendar", Screen::Calendar);
     ASSERT_TRUE(calendar);
     press(calendar, "cmdHoliday");
-    QWidget* const form = screen(u"frmHoliday"_q);
+    QCoreApplication::processEvents();
+    QWidget* const form = onScreen<frmHoliday>();
     ASSERT_TRUE(form);
     auto& rules = named<Grid>(*form, "vfgHoliday");
     typeCell(rules, 1, 1, u"毎週"_q);
@@ -219,11 +215,11 @@ void NewSite::setCalendar() {
 TEST_F(NewSite, IsSetUpThroughTheWindowsInTheirOrder) {
     logIn({}, u"admin"_q, u"ADMIN"_q);
     desk.prompts.expect(u"部課情報が登録されていません。"_q);
-    EXPECT_FALSE(open("mnuStaff", u"frmStaff"_q));
+    EXPECT_FALSE(open("mnuStaff", Screen::Staff));
     enterCompany();
     enterSections();
     desk.prompts.expect(u"社員情報が登録されていません。"_q);
-    EXPECT_FALSE(open("mnuWorkStyle", u"frmWorkStyle"_q));
+    EXPECT_FALSE(open("mnuWorkStyle", Screen::WorkStyle));
     enterPeople();
     setWorkStyle();
     setWorkTimes();
@@ -241,7 +237,7 @@ TEST_F(NewSite, IsSetUpThroughTheWindowsInTheirOrder) {
     EXPECT_FALSE(window.isLoggedIn());
     logIn(u"総務部"_q, u"石田"_q, u"pass1"_q);
     press(&window, "cmdKurbo");
-    QWidget* const card = screen(u"frmKurbo"_q);
+    QWidget* const card = window.screens().window(Screen::Kurbo);
     ASSERT_TRUE(card);
     const GridModel& cells = *named<Grid>(*card, "vfgKurbo").grid();
     const int today = firstCardDay + 14;

@@ -4,6 +4,7 @@
 #include "support/typing.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -18,6 +19,14 @@ template <typename Part>
     auto* const part = window.findChild<Part*>(QString::fromLatin1(name));
     if (!part) ADD_FAILURE() << name;
     return *part;
+}
+
+// The window of a kind that is on the screen, if there is one.
+template <typename Form>
+[[nodiscard]] Form* onScreen() {
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (auto* const form = qobject_cast<Form*>(window); form && form->isVisible()) return form;
+    return nullptr;
 }
 
 // A window over a company, worked as a person works it.

@@ -1,13 +1,9 @@
 #include "card/outings/frmGoOut.h"
 
-#include "base/product.h"
 #include "card/edit/card_checks.h"
 #include "card/outings/rptGoOut.h"
 #include "paper/frmPreview.h"
 #include "screen/grid/vfg_copy.h"
-#include "screen/windows/help.h"
-#include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
 #include "ui_frmGoOut.h"
 
@@ -16,10 +12,11 @@
 namespace kurbo {
 
 frmGoOut::frmGoOut(Client& client, QWidget* parent)
-    : QMainWindow(parent), ui_(std::make_unique<Ui::frmGoOut>()), client_(client), goOut_(client) {
+    : ScreenForm(client, parent), ui_(std::make_unique<Ui::frmGoOut>()), goOut_(client) {
     ui_->setupUi(this);
-    ui_->menus->setNativeMenuBar(false);
-    setWindowTitle(productName() + QStringLiteral("－外出明細"));
+    // Its card owns it.
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    dress(QStringLiteral("外出明細"));
     dressFields();
     connectCommands();
     goOut_.sheet.onEdit = [this] { showCommands(); };
@@ -28,10 +25,8 @@ frmGoOut::frmGoOut(Client& client, QWidget* parent)
     fillScreen(this, {640, 600});
 }
 
-// The controls go before what they show.
 frmGoOut::~frmGoOut() {
-    ui_->vfgGoOut->cancelEdit();
-    hide();
+    putAway();
 }
 
 void frmGoOut::dressFields() {
@@ -47,26 +42,15 @@ void frmGoOut::dressFields() {
     }
     ui_->vfgGoOut->setGrid(goOut_.sheet.grid, client_.context);
     ui_->vfgGoOut->setStretchColumn(static_cast<int>(GoOutColumn::Destination));
+    tellRefusals(*ui_->vfgGoOut);
     wireGridMenu(*ui_->vfgGoOut, client_.context, ui_->mnuGrid, ui_->mnuGCopy, ui_->mnuGPaste, ui_->mnuGClear);
 }
 
 void frmGoOut::connectCommands() {
-    // While a cell is typed into, the update is open: it takes the cell first.
-    connect(ui_->vfgGoOut, &Grid::ChangeEdit, this, [this] {
-        ui_->cmdUpdate->setEnabled(true);
-        ui_->mnuUpdate->setEnabled(true);
-    });
-    connect(ui_->vfgGoOut, &Grid::AfterEdit, this, &frmGoOut::showCommands);
-    for (QPushButton* const button : findChildren<QPushButton*>()) button->setAutoDefault(true);
-    connect(ui_->cmdUpdate, &QPushButton::clicked, this, &frmGoOut::update);
-    connect(ui_->mnuUpdate, &QAction::triggered, this, &frmGoOut::update);
-    connect(ui_->cmdPrint, &QPushButton::clicked, this, &frmGoOut::print);
-    connect(ui_->mnuPrint, &QAction::triggered, this, &frmGoOut::print);
-    connect(ui_->mnuClose, &QAction::triggered, this, &QWidget::close);
-    wireEscape(*this);
-    connect(ui_->mnuGInsert, &QAction::triggered, this, &frmGoOut::insertRow);
-    connect(ui_->mnuGDelete, &QAction::triggered, this, &frmGoOut::deleteRow);
-    wireHelp(*this, client_);
+    onCommand(ui_->cmdUpdate, ui_->mnuUpdate, [this] { goOut_.update(); });
+    onCommand(ui_->cmdPrint, ui_->mnuPrint, [this] { print(); });
+    onCommand(nullptr, ui_->mnuGInsert, [this] { insertRow(); });
+    onCommand(nullptr, ui_->mnuGDelete, [this] { goOut_.deleteRow(ui_->vfgGoOut->Row()); });
 }
 
 void frmGoOut::setPeriod(Period period) {
@@ -91,22 +75,15 @@ bool frmGoOut::isChanged() const {
 }
 
 bool frmGoOut::mayLeaveDay() {
-    const bool leaves = ui_->vfgGoOut->finishEdit() && goOut_.mayLeaveDay();
+    const bool leaves = finishEdits() && goOut_.mayLeaveDay();
     showCommands();
     return leaves;
 }
 
-void frmGoOut::update() {
-    if (!ui_->vfgGoOut->finishEdit()) return;
-    const Hourglass hourglass;
-    goOut_.update();
-    showCommands();
-}
-
 void frmGoOut::print() {
-    if (!ui_->vfgGoOut->finishEdit() || !goOut_.mayPrint()) return;
+    if (!goOut_.mayPrint()) return;
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
-    if (!period || !client_.hasConnection(u"frmGoOut")) return;
+    if (!period) return;
     auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, section_, staff_, *period);
     if (report) showPreview(std::move(report), client_, this);
 }
@@ -116,11 +93,7 @@ void frmGoOut::insertRow() {
     Grid& grid = *ui_->vfgGoOut;
     const int row = std::max(grid.Row(), firstGoOut);
     const int column = std::max(grid.Col(), static_cast<int>(GoOutColumn::Out));
-    if (grid.finishEdit() && goOut_.insertRow(row)) grid.Select(row, column);
-}
-
-void frmGoOut::deleteRow() {
-    if (ui_->vfgGoOut->finishEdit()) goOut_.deleteRow(ui_->vfgGoOut->Row());
+    if (goOut_.insertRow(row)) grid.Select(row, column);
 }
 
 void frmGoOut::showCommands() {
@@ -132,7 +105,7 @@ void frmGoOut::showCommands() {
 }
 
 void frmGoOut::closeEvent(QCloseEvent* event) {
-    event->setAccepted(ui_->vfgGoOut->finishEdit() && goOut_.mayClose());
+    event->setAccepted(!blnShowing_ && finishEdits() && goOut_.mayClose());
     if (event->isAccepted()) closePreview(this);
 }
 

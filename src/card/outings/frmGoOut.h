@@ -2,9 +2,8 @@
 
 #include "card/outings/go_out.h"
 #include "engine/hours.h"
+#include "screen/windows/screen_form.h"
 #include "store/readers.h"
-
-#include <QMainWindow>
 
 #include <memory>
 
@@ -15,14 +14,12 @@ class frmGoOut;
 }
 
 // The outings of one day of a card, beside that card. What is done with them is decided by GoOut.
-class frmGoOut final : public QMainWindow {
+class frmGoOut final : public ScreenForm {
     Q_OBJECT
 
   public:
     explicit frmGoOut(Client& client, QWidget* parent = nullptr);
     ~frmGoOut() override;
-    frmGoOut(const frmGoOut&) = delete;
-    frmGoOut& operator=(const frmGoOut&) = delete;
 
     // The period that is printed.
     void setPeriod(Period period);
@@ -44,14 +41,12 @@ class frmGoOut final : public QMainWindow {
   private:
     void dressFields();
     void connectCommands();
-    void update();
     void print();
     void insertRow();
-    void deleteRow();
-    void showCommands();
+    void showState() override { showCommands(); }
+    void showCommands() override;
 
     const std::unique_ptr<Ui::frmGoOut> ui_;
-    Client& client_;
     GoOut goOut_;
     CodeName section_;
     CodeName staff_;

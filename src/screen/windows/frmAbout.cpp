@@ -19,9 +19,9 @@ QString dateOf(const QString& path) {
 
 } // namespace
 
-frmAbout::frmAbout(const QString& helpPath, QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAbout>()) {
+frmAbout::frmAbout(const QString& helpPath, QWidget* parent)
+    : FormDialog(QStringLiteral("ヴァージョン情報"), parent), ui_(std::make_unique<Ui::frmAbout>()) {
     ui_->setupUi(this);
-    setWindowTitle(productName() + QStringLiteral("－ヴァージョン情報"));
     ui_->imgLogo->setPixmap(QApplication::windowIcon().pixmap(96, 96));
     ui_->lblProductName->setText(productName());
     ui_->lblVersion->setText(QStringLiteral("version ") + productVersion());

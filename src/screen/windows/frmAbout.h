@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "screen/windows/form_dialog.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class frmAbout;
 }
 
 // Name and version, and how old the program's files are.
-class frmAbout final : public QDialog {
+class frmAbout final : public FormDialog {
     Q_OBJECT
 
   public:

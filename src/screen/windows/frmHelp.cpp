@@ -1,8 +1,8 @@
 #include "screen/windows/frmHelp.h"
 
 #include "base/product.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
+#include "screen/windows/window_manners.h"
 #include "ui_frmHelp.h"
 
 #include <QFile>

@@ -2,8 +2,8 @@
 
 #include "base/product.h"
 #include "base/system/files.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
+#include "screen/windows/window_manners.h"
 
 #include <QFile>
 #include <QMenuBar>

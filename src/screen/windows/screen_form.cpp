@@ -4,7 +4,7 @@
 #include "screen/grid/grid.h"
 #include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
+#include "screen/windows/window_manners.h"
 
 #include <QLabel>
 #include <QMenuBar>
@@ -22,9 +22,13 @@ ScreenForm::ScreenForm(Client& client, QWidget* parent) : QMainWindow(parent), c
 }
 
 void ScreenForm::dress(const QString& title) {
-    title_ = productName() + u'－' + title;
+    dressAs(productName() + u'－' + title);
+}
+
+void ScreenForm::dressAs(const QString& wholeTitle) {
+    title_ = wholeTitle;
     setWindowTitle(title_);
-    menuBar()->setNativeMenuBar(false);
+    if (auto* const menus = findChild<QMenuBar*>()) menus->setNativeMenuBar(false);
     dressKeys();
     for (Grid* const grid : findChildren<Grid*>()) {
         connect(grid, &Grid::ChangeEdit, this, [this] { openUpdate(); });

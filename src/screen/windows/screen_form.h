@@ -29,6 +29,8 @@ class ScreenForm : public QMainWindow {
 
     // Once the controls are there: the title behind the product's name, Esc, F1, mnuClose, mnuTopic and mnuVersion.
     void dress(const QString& title);
+    // The same under a title that already tells whose window it is.
+    void dressAs(const QString& wholeTitle);
     // A button, or none, and its menu twin, or none, run the same command.
     void onCommand(QAbstractButton* button, QAction* action, const Command& command);
     // Runs a command: the open cell of each grid is taken first, and the window then shows what stands.

@@ -2,12 +2,9 @@
 
 #include "month/loaders.h"
 #include "screen/fields/fields.h"
-#include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
 #include "settings/listing.h"
-#include "settings/people/frmAccess.h"
-#include "settings/work_time/frmWorkTime.h"
+#include "settings/work_time/time_pages.h"
 #include "ui_frmAsign.h"
 
 #include <QScopedValueRollback>
@@ -71,9 +68,9 @@ void frmAsign::dressChoices() {
                    [this](const QString&) { return ui_->dcbSection->isInList() ? QString() : notListed(); });
     for (int page = 0; page < workTimes; ++page)
         connect(findChild<QPushButton*>(QStringLiteral("cmdWorkTime_%1").arg(page)), &QPushButton::clicked, this,
-                &frmAsign::openSetting<frmWorkTime>);
+                &frmAsign::workTimeAsked);
     checkOnLeavingPages(*ui_->tabStaff);
-    connect(ui_->cmdAccess, &QPushButton::clicked, this, &frmAsign::openSetting<frmAccess>);
+    connect(ui_->cmdAccess, &QPushButton::clicked, this, &frmAsign::accessAsked);
 }
 
 void frmAsign::connectCommands() {
@@ -85,15 +82,10 @@ void frmAsign::connectCommands() {
     connect(ui_->dtsStaff, &DataList::chosen, this, &frmAsign::staffChosen);
 }
 
-// The screen that blocks this one until it is closed. What is added there stands in the lists at the next opening.
-template <typename Form>
-void frmAsign::openSetting() {
-    const Hourglass hourglass;
-    if (activateForm(QString::fromLatin1(Form::staticMetaObject.className()).section(u':', -1))) return;
-    auto* const form = new Form(client_, this);
-    form->setWindowModality(Qt::ApplicationModal);
-    form->load();
-    form->show();
+int frmAsign::askedPage() const {
+    const QString button = focusWidget() ? focusWidget()->objectName() : QString();
+    if (button == u"cmdAccess") return adjustPage;
+    return button.startsWith(QStringLiteral("cmdWorkTime_")) ? button.right(1).toInt() : 0;
 }
 
 void frmAsign::readAll() {

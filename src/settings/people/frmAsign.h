@@ -20,6 +20,15 @@ class frmAsign final : public SettingsForm {
     explicit frmAsign(Client& client, QWidget* parent = nullptr);
     ~frmAsign() override;
 
+    // The page of frmWorkTime, from 0, that the active button stands for; the first one without such a button.
+    [[nodiscard]] int askedPage() const;
+
+  Q_SIGNALS:
+    // The screen is asked for that blocks this one until it is closed. What is added there stands in the lists at the
+    // next opening.
+    void workTimeAsked();
+    void accessAsked();
+
   protected:
     void readAll() override;
 
@@ -38,8 +47,6 @@ class frmAsign final : public SettingsForm {
     void updateStaff();
     void deleteStaff();
     void PrintStaff();
-    template <typename Form>
-    void openSetting();
 
     const std::unique_ptr<Ui::frmAsign> ui_;
     clsWorkTime style_;

@@ -7,7 +7,6 @@
 #include "screen/fields/fields.h"
 #include "screen/grid/grid.h"
 #include "screen/grid/vfg_copy.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
 #include "settings/work_time/day_chart.h"
 #include "settings/work_time/time_checks.h"
@@ -19,17 +18,6 @@ namespace kurbo {
 namespace {
 
 constexpr int legendLabels = 8;
-
-// The page that a button of frmAsign asks for; the first one without it.
-int askedPage() {
-    for (const QWidget* const form : openScreens()) {
-        const QWidget* const active = form->objectName() == u"frmAsign" ? form->focusWidget() : nullptr;
-        const QString name = active ? active->objectName() : QString();
-        if (name == u"cmdAccess") return adjustPage;
-        if (name.startsWith(QStringLiteral("cmdWorkTime_"))) return name.right(1).toInt();
-    }
-    return 0;
-}
 
 QString subjectOf(const TimePage& page) {
     return QString::fromUtf16(page.subject) + QStringLiteral("設定");
@@ -96,7 +84,6 @@ void frmWorkTime::readAll() {
     if (!GetWorkStyle(client_.context, connection(), style_)) return loadFailed();
     for (const auto& page : pages_)
         if (isAlive()) loadPage(*page);
-    shown_ = askedPage();
     if (!exists(shownPage().sheet.page, style_)) shown_ = 0;
     ui_->tabTime->setCurrentIndex(shown_);
     shownPage().dtsList->setFocus();

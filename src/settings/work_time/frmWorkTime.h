@@ -27,6 +27,9 @@ class frmWorkTime final : public SettingsForm {
     explicit frmWorkTime(Client& client, QWidget* parent = nullptr);
     ~frmWorkTime() override;
 
+    // The page, from 0, that load() shows, if the company has it.
+    void setFirstPage(int page) { shown_ = page; }
+
   protected:
     void readAll() override;
     void showState() override;

@@ -1,9 +1,6 @@
 #include "totals/csv/frmCsv.h"
 
-#include "base/product.h"
-#include "screen/windows/help.h"
 #include "screen/windows/hourglass.h"
-#include "screen/windows/open_forms.h"
 #include "screen/windows/show_now.h"
 #include "totals/csv/csv_exchange.h"
 #include "totals/csv/csv_review.h"
@@ -13,7 +10,6 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QScopedValueRollback>
 #include <QToolTip>
 
 namespace kurbo {
@@ -37,27 +33,25 @@ class StatusProgress final : public Progress {
 } // namespace
 
 frmCsv::frmCsv(Client& client, int countUnit, QWidget* parent)
-    : QMainWindow(parent), ui_(std::make_unique<Ui::frmCsv>()), client_(client), countUnit_(countUnit) {
+    : ScreenForm(client, parent), ui_(std::make_unique<Ui::frmCsv>()), countUnit_(countUnit) {
     ui_->setupUi(this);
-    ui_->menus->setNativeMenuBar(false);
+    // Who runs it owns it.
+    setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowModality(Qt::ApplicationModal);
-    setWindowTitle(productName() + QStringLiteral("－CSV呼出"));
+    dress(QStringLiteral("CSV呼出"));
     ui_->vfgCsv->setGrid(cells_, client_.context);
     ui_->vfgCsv->horizontalHeader()->viewport()->installEventFilter(this);
-    connect(ui_->cmdAddDB, &QPushButton::clicked, this, &frmCsv::addToDatabase);
-    connect(ui_->mnuAddDB, &QAction::triggered, this, &frmCsv::addToDatabase);
+    onCommand(ui_->cmdAddDB, ui_->mnuAddDB, [this] { addToDatabase(); });
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QWidget::close);
     connect(ui_->mnuCancel, &QAction::triggered, this, &QWidget::close);
-    wireEscape(*this);
-    wireHelp(*this, client_);
     fillScreen(this, {1300, 640});
 }
 
 frmCsv::~frmCsv() {
-    hide();
+    putAway();
 }
 
-bool frmCsv::run(const QStringList& files) {
+bool frmCsv::review(const QStringList& files) {
     const auto months = loadCsv(client_.context, files);
     if (!months) return false;
     months_ = *months;
@@ -74,7 +68,7 @@ bool frmCsv::run(const QStringList& files) {
 }
 
 bool frmCsv::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return QMainWindow::eventFilter(watched, event);
+    if (event->type() != QEvent::ToolTip) return ScreenForm::eventFilter(watched, event);
     const auto* const help = static_cast<QHelpEvent*>(event);
     const int column = ui_->vfgCsv->horizontalHeader()->logicalIndexAt(help->pos());
     QToolTip::showText(help->globalPos(), csvHeadingTip(column), ui_->vfgCsv);
@@ -87,13 +81,10 @@ bool frmCsv::takeStop() {
 }
 
 void frmCsv::addToDatabase() {
-    if (adding_) return;
     Prompts& prompts = client_.context.prompts;
     const QString question = lines(QStringLiteral("表示されている月次集計データをデータベースに登録します。"),
                                    QString(), QStringLiteral("よろしいですか？"));
     if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return;
-    const QScopedValueRollback adding(adding_, true);
-    const Hourglass hourglass;
     stop_ = false;
     StatusProgress progress(*ui_->status);
     const Context& own = client_.context;
@@ -110,8 +101,8 @@ void frmCsv::addToDatabase() {
 
 // While months are entered this asks for a stop.
 void frmCsv::closeEvent(QCloseEvent* event) {
-    stop_ = adding_;
-    event->setAccepted(!adding_);
+    stop_ = blnShowing_;
+    event->setAccepted(!blnShowing_);
 }
 
 } // namespace kurbo

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "screen/grid/grid_model.h"
-#include "store/client.h"
+#include "screen/windows/screen_form.h"
 #include "totals/csv/csv_file.h"
-
-#include <QMainWindow>
 
 #include <memory>
 
@@ -15,34 +13,31 @@ class frmCsv;
 }
 
 // Months out of CSV files, looked at before they are entered in the database.
-class frmCsv final : public QMainWindow {
+class frmCsv final : public ScreenForm {
     Q_OBJECT
 
   public:
     // `countUnit` 0 shows decimal hours, 1 h:mm.
     frmCsv(Client& client, int countUnit, QWidget* parent);
     ~frmCsv() override;
-    frmCsv(const frmCsv&) = delete;
-    frmCsv& operator=(const frmCsv&) = delete;
 
     // Shows the months of the files until the person closes the window; true when they went into the database.
-    [[nodiscard]] bool run(const QStringList& files);
+    [[nodiscard]] bool review(const QStringList& files);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void showState() override {}
     void addToDatabase();
     // Looks at the screen between two months, and whether a stop was asked for since.
     [[nodiscard]] bool takeStop();
 
     const std::unique_ptr<Ui::frmCsv> ui_;
-    Client& client_;
     int countUnit_;
     GridModel cells_;
     QList<LoadedMonth> months_;
-    bool adding_ = false;
     bool stop_ = false;
     bool added_ = false;
 };
