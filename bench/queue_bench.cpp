@@ -29,7 +29,7 @@ std::vector<double> punchesOf(const QString& path, const QString& folder, int nu
         // A new person each time, so that every punch is written.
         const QString staff = QString::number(number) + u'-' + QString::number(times.size());
         times.push_back(timed([&] {
-            (void)punch(office.context, connection, {{}, staff, {true, true, false, {}}, 0, 0}, Punch::Enter);
+            (void)punch(office.context, connection, {{}, staff, {true, true, false, {}}, {}, {}}, Punch::Enter);
         }));
     }
     return times;

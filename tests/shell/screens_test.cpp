@@ -14,7 +14,7 @@ class ScreensTest : public SampleCompany {
         mainWindow.show();
     }
     void logInWithAllRights() {
-        client.session = {u"S01"_q, u"1001"_q, {}, 0, 0};
+        client.session = {u"S01"_q, u"1001"_q, {}, {}, {}};
         client.session.access.IsAdmin = true;
         for (const Right right : {Right::ReadMyKurbo, Right::ReadOtherKurbo}) client.session.access.set(right, true);
     }
