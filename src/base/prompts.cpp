@@ -1,5 +1,6 @@
 #include "base/prompts.h"
 
+#include "base/failure.h"
 #include "base/product.h"
 
 namespace kurbo {
@@ -21,6 +22,14 @@ void Prompts::inform(const QString& text) {
 
 bool Prompts::confirm(const QString& text) {
     return ask({productName(), text, Icon::Question, Buttons::YesNo, Answer::No}) == Answer::Yes;
+}
+
+bool Prompts::agrees(const QString& question, Answer preset) {
+    return ask({productName(), question, Icon::Question, Buttons::OkCancel, preset}) == Answer::Ok;
+}
+
+bool Prompts::sure(const QString& what, Answer preset) {
+    return agrees(lines(what, QString(), QStringLiteral("よろしいですか？")), preset);
 }
 
 std::optional<QString> Prompts::openFile(const QString& filter) {

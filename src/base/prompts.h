@@ -47,6 +47,10 @@ class Prompts {
     void inform(const QString& text);
     // Question of a risky kind: Yes and No, No being the preset.
     [[nodiscard]] bool confirm(const QString& text);
+    // Ok and Cancel; true for Ok. `preset` is Cancel where nothing leads back.
+    [[nodiscard]] bool agrees(const QString& question, Answer preset = Answer::Ok);
+    // The same of what is about to be done: "<what>", a blank line and "よろしいですか？".
+    [[nodiscard]] bool sure(const QString& what, Answer preset = Answer::Ok);
 
     // The file dialogs; nothing when they are cancelled.
     [[nodiscard]] std::optional<QString> openFile(const QString& filter);
