@@ -86,7 +86,7 @@ void Connection::openFile(const QString& path, const QString& password, bool alo
     path_ = path;
     alone_ = alone;
     try {
-        if (!alone) (void)lock_.join(path, patience(), notice_);
+        if (!alone) (void)lock_.join(path, deadline(), notice_);
         openEngine();
         checkIdentity(password);
     } catch (...) {
@@ -181,7 +181,7 @@ int Connection::onBusy(void* self, int count) {
     auto& connection = *static_cast<Connection*>(self);
     const auto now = steady_clock::now();
     if (count == 0) {
-        connection.busyUntil_ = connection.patience();
+        connection.busyUntil_ = connection.deadline();
         connection.nextNotice_ = now + betweenNotices;
     }
     if (connection.outOfTurn_ || now >= connection.busyUntil_) return 0;
@@ -205,17 +205,17 @@ void Connection::forgetIdle(std::unordered_map<QString, Shelf>& shelves) {
     });
 }
 
-Prepared& Connection::prepare(Form form, const QString& statement) {
+Prepared& Connection::prepare(Variant variant, const QString& statement) {
     constexpr std::size_t mostKept = 300;
     if (!database_) throw storeFault(StoreError::NoFile, path_);
-    auto& shelves = shelves_[static_cast<std::size_t>(form)];
+    auto& shelves = shelves_[static_cast<std::size_t>(variant)];
     if (shelves.size() >= mostKept) forgetIdle(shelves);
     Shelf& shelf = shelves[statement];
     for (const auto& prepared : shelf)
         if (!prepared->busy) return *prepared;
-    const Translation translation = form == Form::FromLast ? translatedFromLast(statement)
-                                    : form == Form::WithId ? translatedWithRowId(statement)
-                                                           : translated(statement);
+    const Translation translation = variant == Variant::FromLast ? translatedFromLast(statement)
+                                    : variant == Variant::WithId ? translatedWithRowId(statement)
+                                                                 : translated(statement);
     auto prepared = std::make_unique<Prepared>();
     const int result = sqlite3_prepare_v3(database_, translation.sql.constData(), -1, SQLITE_PREPARE_PERSISTENT,
                                           &prepared->statement, nullptr);
@@ -234,19 +234,19 @@ Rows Connection::bound(Prepared& prepared, const Values& values) {
 }
 
 Rows Connection::rows(const QString& statement, const Values& values) {
-    return bound(prepare(Form::Plain, statement), values);
+    return bound(prepare(Variant::Plain, statement), values);
 }
 
 Rows Connection::rowsFromLast(const QString& statement, const Values& values) {
-    return bound(prepare(Form::FromLast, statement), values);
+    return bound(prepare(Variant::FromLast, statement), values);
 }
 
 Rows Connection::rowsWithId(const QString& statement, const Values& values) {
-    return bound(prepare(Form::WithId, statement), values);
+    return bound(prepare(Variant::WithId, statement), values);
 }
 
 QString Connection::tableOf(const QString& statement) {
-    return prepare(Form::Plain, statement).table;
+    return prepare(Variant::Plain, statement).table;
 }
 
 std::optional<Value> Connection::firstValue(const QString& statement, const Values& values) {
@@ -281,7 +281,7 @@ std::int64_t Connection::lastRowId() const {
 
 void Connection::beginTurn() {
     // The queue is a courtesy and the engine's lock decides: a client that stands still in its place stops nobody.
-    if (turns_++ == 0) outOfTurn_ = !lock_.waitTurn(patience(), notice_);
+    if (turns_++ == 0) outOfTurn_ = !lock_.waitTurn(deadline(), notice_);
 }
 
 void Connection::endTurn() {

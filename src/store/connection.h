@@ -71,13 +71,13 @@ class Connection final {
     friend class Transaction;
     friend class Reading;
 
-    enum class Form { Plain, FromLast, WithId };
+    enum class Variant { Plain, FromLast, WithId };
     // The statements around all others, kept ready.
     enum class Frame { Begin, BeginWriting, Commit };
     // Statements of one wording; more than one where the same question is asked within its own loop.
     using Shelf = std::vector<std::unique_ptr<Prepared>>;
 
-    [[nodiscard]] Patience patience() const { return std::chrono::steady_clock::now() + timeout_; }
+    [[nodiscard]] Deadline deadline() const { return std::chrono::steady_clock::now() + timeout_; }
     void openFile(const QString& path, const QString& password, bool alone);
     void openEngine();
     void checkIdentity(const QString& password);
@@ -85,7 +85,7 @@ class Connection final {
     void endTurn();
     int run(Frame frame);
     void runOrFail(Frame frame);
-    Prepared& prepare(Form form, const QString& statement);
+    Prepared& prepare(Variant variant, const QString& statement);
     static void forgetIdle(std::unordered_map<QString, Shelf>& shelves);
     Rows bound(Prepared& prepared, const Values& values);
     static int onBusy(void* self, int count);
@@ -101,8 +101,8 @@ class Connection final {
     bool outOfTurn_ = false;
     int transactions_ = 0;
     std::chrono::milliseconds timeout_{std::chrono::seconds{60}};
-    Patience busyUntil_;
-    Patience nextNotice_;
+    Deadline busyUntil_;
+    Deadline nextNotice_;
     WaitNotice notice_;
     std::array<std::unordered_map<QString, Shelf>, 3> shelves_;
     std::array<sqlite3_stmt*, 3> frames_{};
