@@ -22,7 +22,7 @@ Exit runCard(const Options& options) {
     const Format format = formatNamed(options.value(QStringLiteral("format")));
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     const auto asked = askedCard(console.context(), connection, options);
     if (!asked) return console.refused();
     printCard(asked->card, asked->who.staff.code, asked->span, format);
@@ -41,7 +41,7 @@ constexpr std::array cardOptions{
 const Command cardCommand{
     .name = u"card",
     .run = runCard,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Prints the time card of a person, worked out from the stored punches.",
     .more = u"",
     .options = cardOptions,

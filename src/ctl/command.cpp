@@ -41,12 +41,12 @@ QString optionTable(std::span<const OptionText> options) {
 
 } // namespace
 
-qsizetype Command::placeCount() const {
-    return text(places).split(u' ', Qt::SkipEmptyParts).size();
+qsizetype Command::argumentCount() const {
+    return text(arguments).split(u' ', Qt::SkipEmptyParts).size();
 }
 
-bool Command::takesMorePlaces() const {
-    return text(places).endsWith(QStringLiteral("..."));
+bool Command::takesMoreArguments() const {
+    return text(arguments).endsWith(QStringLiteral("..."));
 }
 
 std::span<const OptionText> commonOptions() {
@@ -54,7 +54,7 @@ std::span<const OptionText> commonOptions() {
 }
 
 QString usageOf(const Command& command) {
-    QString usage = QStringLiteral("kurboctl ") + text(command.name) + u' ' + text(command.places);
+    QString usage = QStringLiteral("kurboctl ") + text(command.name) + u' ' + text(command.arguments);
     for (const OptionText& option : command.options)
         usage += option.needed ? u' ' + withValue(option) : QStringLiteral(" [") + withValue(option) + u']';
     return usage;

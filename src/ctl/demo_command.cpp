@@ -43,8 +43,8 @@ void sayPeople(const DemoOptions& demo) {
 
 Exit runDemo(const Options& options) {
     const DemoOptions demo = demoOf(options);
-    refuseExisting(options.place(0));
-    fill(options.place(0), demo);
+    refuseExisting(options.argument(0));
+    fill(options.argument(0), demo);
     sayPeople(demo);
     return Exit::Done;
 }
@@ -63,7 +63,7 @@ constexpr std::array demoOptions{
 const Command demoCommand{
     .name = u"demo",
     .run = runDemo,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Makes a database with a believable company.",
     .more = u"Prints section, code, name, password and role of its people, parted by tabs.\n"
             u"The same options make the same company. A file that is there already is refused.",

@@ -9,8 +9,8 @@ namespace {
 
 Exit runHolidays(const Options& options) {
     const int year = options.number(QStringLiteral("year"), firstHolidayYear, firstHolidayYear, lastHolidayYear);
-    if (!options.has(QStringLiteral("overwrite"))) refuseExisting(options.place(0));
-    replaceFile(chosenFile(options.place(0)), holidayFileOf(year));
+    if (!options.has(QStringLiteral("overwrite"))) refuseExisting(options.argument(0));
+    replaceFile(chosenFile(options.argument(0)), holidayFileOf(year));
     return Exit::Done;
 }
 
@@ -24,7 +24,7 @@ constexpr std::array holidaysOptions{
 const Command holidaysCommand{
     .name = u"holidays",
     .run = runHolidays,
-    .places = u"Holiday.txt",
+    .arguments = u"Holiday.txt",
     .summary = u"Writes the public holidays of a year, as the calendar window reads them.",
     .more = u"A file that is there already is refused without --overwrite.",
     .options = holidaysOptions,

@@ -55,7 +55,7 @@ QString sectionOf(Connection& connection, const QString& staff) {
 Exit logInAndPunch(const Console& console, const Options& options, const QString& password, Punch kind) {
     const QString staff = options.value(QStringLiteral("staff"));
     Client client(console.context());
-    client.DbPath = options.place(0);
+    client.DbPath = options.argument(0);
     client.openHome();
     Login login(client);
     const Credentials credentials{sectionOf(client.HomeConnection, staff), staff, password};
@@ -66,7 +66,7 @@ Exit logInAndPunch(const Console& console, const Options& options, const QString
 }
 
 Exit runPunch(const Options& options) {
-    const Punch kind = punchNamed(options.place(1));
+    const Punch kind = punchNamed(options.argument(1));
     const QString password = passwordOf(options);
     const Console console(options, continuedAnswer(options));
     try {
@@ -88,7 +88,7 @@ constexpr std::array punchOptions{
 const Command punchCommand{
     .name = u"punch",
     .run = runPunch,
-    .places = u"FILE enter|leave|out|in",
+    .arguments = u"FILE enter|leave|out|in",
     .summary = u"Punches for a person as the window does, with the same messages.",
     .more = u"Without --password the environment variable KURBO_PASSWORD holds the password. One that stands on the\n"
             u"command line is seen by whoever may list the processes.\n"

@@ -66,13 +66,13 @@ const Kind& kindNamed(const QString& name) {
 }
 
 Exit runReport(const Options& options) {
-    const Kind& kind = kindNamed(options.place(1));
+    const Kind& kind = kindNamed(options.argument(1));
     const QString out = options.needed(QStringLiteral("out"));
     if (out.isEmpty()) throw WrongUse{QStringLiteral("--out takes the name of a file")};
-    if (isSameFile(out, options.place(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
+    if (isSameFile(out, options.argument(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     const auto [document, whole] = kind.make(console.context(), connection, options);
     connection.close();
     if (!document || !writePdf(*document, out, console.context().progress)) return console.refused();
@@ -95,7 +95,7 @@ constexpr std::array reportOptions{
 const Command reportCommand{
     .name = u"report",
     .run = runReport,
-    .places = u"FILE card|totals|goout",
+    .arguments = u"FILE card|totals|goout",
     .summary = u"Writes a report as a PDF file.",
     .more = u"card and goout (a person's outings) take the options of card, totals those of totals.",
     .options = reportOptions,

@@ -27,7 +27,7 @@ Exit runTotals(const Options& options) {
     const TotalsQuestion question = askedTotals(options);
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     (void)askedPeople(connection, question);
     const auto totals = calculateTotals(console.context(), connection, question);
     if (!totals) return console.refused();
@@ -48,7 +48,7 @@ constexpr std::array totalsOptions{
 const Command totalsCommand{
     .name = u"totals",
     .run = runTotals,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Prints the months of a section's people, or of one person.",
     .more = u"Saved months stand as they were saved, the others are calculated. When the rules of somebody are at "
             u"fault, the\n"

@@ -142,8 +142,8 @@ void frmLogin::tick() {
     const Day today = dayOf(now);
     showTime(now);
     if (dayOfMonth(today) == LastDay_ || !ReConnect()) return;
-    const QString name = WhichHoliday(client_.context, client_.HomeConnection, today);
-    if (name != u"ERROR") ui_->lblHoliday->setText(name);
+    const auto name = WhichHoliday(client_.context, client_.HomeConnection, today);
+    if (name) ui_->lblHoliday->setText(*name);
     LastDay_ = dayOfMonth(today);
 }
 

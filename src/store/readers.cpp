@@ -27,8 +27,8 @@ QString gridList(Connection& connection, const QString& statement, const QString
 
 } // namespace
 
-QString GetDbPath(const Context& context, Connection& connection, const QString& section) {
-    return guarded(context, module, u"GetDbPath", QStringLiteral("ERROR"), [&] {
+std::optional<QString> GetDbPath(const Context& context, Connection& connection, const QString& section) {
+    return guarded(context, module, u"GetDbPath", std::optional<QString>(), [&] {
         const auto path =
             connection.firstValue(QStringLiteral("SELECT F_DB FROM C02_Section WHERE (F_SectionCode = ?);"), {section});
         if (!path) throw Complaint(QStringLiteral("選択した部課が登録されていません。"));
@@ -46,8 +46,8 @@ std::int64_t nextKurboId(Connection& connection) {
     return last ? last->integer() + 1 : 1;
 }
 
-QString WhichHoliday(const Context& context, Connection& connection, Day date) {
-    return guarded(context, module, u"WhichHoliday", QStringLiteral("ERROR"), [&] {
+std::optional<QString> WhichHoliday(const Context& context, Connection& connection, Day date) {
+    return guarded(context, module, u"WhichHoliday", std::optional<QString>(), [&] {
         const auto name = connection.firstValue(
             QStringLiteral("SELECT F_Holiday FROM T01_Calendar WHERE (F_DateID = ?);"), {dateId(date)});
         if (!name)
@@ -126,17 +126,17 @@ std::optional<Day> GetFirstMonth(const Context& context, Connection& connection)
     });
 }
 
-QString VfgComboList(const Context& context, Connection& connection, const QString& statement,
-                     const QString& valueField, const QString& codeField, bool blank) {
-    return guarded(context, module, u"VfgComboList", QStringLiteral("ERROR"), [&] {
+std::optional<QString> VfgComboList(const Context& context, Connection& connection, const QString& statement,
+                                    const QString& valueField, const QString& codeField, bool blank) {
+    return guarded(context, module, u"VfgComboList", std::optional<QString>(), [&] {
         const QString list = gridList(connection, statement, codeField, valueField);
         return blank && !list.isEmpty() ? list + u'|' : list;
     });
 }
 
-QString BuildGridList(const Context& context, Connection& connection, const QString& statement,
-                      const QString& codeField, const QString& nameField, bool blank) {
-    return guarded(context, module, u"BuildGridList", QStringLiteral("ERROR"), [&] {
+std::optional<QString> BuildGridList(const Context& context, Connection& connection, const QString& statement,
+                                     const QString& codeField, const QString& nameField, bool blank) {
+    return guarded(context, module, u"BuildGridList", std::optional<QString>(), [&] {
         const QString list = gridList(connection, statement, codeField, nameField);
         return blank ? u'|' + list : list;
     });

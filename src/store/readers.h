@@ -12,14 +12,14 @@ namespace kurbo {
 
 // The small questions that several screens ask. A failure is reported here; the caller stops without another word.
 
-// The value of F_DB, or "ERROR".
-[[nodiscard]] QString GetDbPath(const Context& context, Connection& connection, const QString& section);
+// The value of F_DB; nothing on a failure.
+[[nodiscard]] std::optional<QString> GetDbPath(const Context& context, Connection& connection, const QString& section);
 // The largest F_KurboID plus 1, 1 on an empty table, or -1.
 [[nodiscard]] std::int64_t GenerateKurboID(const Context& context, Connection& connection);
 // The same without a report; throws.
 [[nodiscard]] std::int64_t nextKurboId(Connection& connection);
-// Name of the day, the empty text on an ordinary day, or "ERROR".
-[[nodiscard]] QString WhichHoliday(const Context& context, Connection& connection, Day date);
+// Name of the day, the empty text on an ordinary day; nothing on a failure.
+[[nodiscard]] std::optional<QString> WhichHoliday(const Context& context, Connection& connection, Day date);
 // Calendar rows from `from` to `to`, both included, or -1.
 [[nodiscard]] int ExistCalendar(const Context& context, Connection& connection, Day from, Day to);
 // The same without a report; throws.
@@ -42,12 +42,14 @@ namespace kurbo {
 // First day of the first saved month, or of this month when none is saved; nothing on a failure.
 [[nodiscard]] std::optional<Day> GetFirstMonth(const Context& context, Connection& connection);
 // Combo list of a grid column, "#code;value" joined by "|"; without a code field the values alone; with `blank` one "|"
-// more at the end. "ERROR" on a failure.
-[[nodiscard]] QString VfgComboList(const Context& context, Connection& connection, const QString& statement,
-                                   const QString& valueField, const QString& codeField, bool blank);
+// more at the end. Nothing on a failure.
+[[nodiscard]] std::optional<QString> VfgComboList(const Context& context, Connection& connection,
+                                                  const QString& statement, const QString& valueField,
+                                                  const QString& codeField, bool blank);
 // The same with the blank entry, one "|" more, at the beginning.
-[[nodiscard]] QString BuildGridList(const Context& context, Connection& connection, const QString& statement,
-                                    const QString& codeField, const QString& nameField, bool blank);
+[[nodiscard]] std::optional<QString> BuildGridList(const Context& context, Connection& connection,
+                                                   const QString& statement, const QString& codeField,
+                                                   const QString& nameField, bool blank);
 
 // One entry of a list in which a code is chosen by its name.
 struct CodeName {

@@ -13,8 +13,8 @@ TEST_F(Readers, DbPathOfASection) {
     EXPECT_EQ(GetDbPath(desk.context, connection, u"s01"_q), u"/srv/Other.mdb"_q);
     desk.prompts.expect(u"選択した部課のＤＢパスが入力されていません。"_q)
         .expect(u"選択した部課が登録されていません。"_q);
-    EXPECT_EQ(GetDbPath(desk.context, connection, u"NEW"_q), u"ERROR"_q);
-    EXPECT_EQ(GetDbPath(desk.context, connection, u"S99"_q), u"ERROR"_q);
+    EXPECT_EQ(GetDbPath(desk.context, connection, u"NEW"_q), std::nullopt);
+    EXPECT_EQ(GetDbPath(desk.context, connection, u"S99"_q), std::nullopt);
 }
 
 TEST_F(Readers, NextCardId) {
@@ -32,7 +32,7 @@ TEST_F(Readers, NameOfTheDay) {
     EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2026, 4, 29)), u"昭和の日"_q);
     EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2026, 4, 28)), QString());
     desk.prompts.expect(u"2031 年のカレンダーが作成されていません。\r\n管理者に"_q);
-    EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2031, 1, 1)), u"ERROR"_q);
+    EXPECT_EQ(WhichHoliday(desk.context, connection, *makeDay(2031, 1, 1)), std::nullopt);
 }
 
 TEST_F(Readers, CalendarRowsOfASpan) {
