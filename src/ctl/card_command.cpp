@@ -30,10 +30,11 @@ Exit runCard(const Options& options) {
 }
 
 constexpr std::array cardOptions{
-    OptionText{u"staff", u"CODE", u"the person", true},
-    OptionText{u"month", u"yyyy/mm", u"the month in which the period ends; this, or --from and --to"},
-    OptionText{u"from", u"yyyy/mm/dd", u"first day"},
-    OptionText{u"to", u"yyyy/mm/dd", u"last day"},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"the person", .needed = true},
+    OptionText{
+        .name = u"month", .value = u"yyyy/mm", .text = u"the month in which the period ends; this, or --from and --to"},
+    OptionText{.name = u"from", .value = u"yyyy/mm/dd", .text = u"first day"},
+    OptionText{.name = u"to", .value = u"yyyy/mm/dd", .text = u"last day"},
 };
 
 } // namespace

@@ -8,10 +8,11 @@ namespace kurbo {
 namespace {
 
 constexpr std::array common{
-    OptionText{u"format", u"table|tsv|csv|json", u"how card, totals and sql print; table without it"},
-    OptionText{u"today", u"yyyy/mm/dd", u"the day that counts as today"},
-    OptionText{u"at", u"\"yyyy/mm/dd hh:nn:ss\"", u"the moment that counts as now"},
-    OptionText{u"app-folder", u"DIR", u"the folder of Error.log"},
+    OptionText{
+        .name = u"format", .value = u"table|tsv|csv|json", .text = u"how card, totals and sql print; table without it"},
+    OptionText{.name = u"today", .value = u"yyyy/mm/dd", .text = u"the day that counts as today"},
+    OptionText{.name = u"at", .value = u"\"yyyy/mm/dd hh:nn:ss\"", .text = u"the moment that counts as now"},
+    OptionText{.name = u"app-folder", .value = u"DIR", .text = u"the folder of Error.log"},
 };
 
 QString text(const char16_t* literal) {

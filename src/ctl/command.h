@@ -14,8 +14,8 @@ class Options;
 struct OptionText {
     const char16_t* name;
     // What stands behind it, in the words of the help; empty for a switch.
-    const char16_t* value;
-    const char16_t* text;
+    const char16_t* value = u"";
+    const char16_t* text = u"";
     // The command doesn't run without it.
     bool needed = false;
 };

@@ -67,15 +67,15 @@ Exit runImport(const Options& options) {
 }
 
 constexpr std::array exportOptions{
-    OptionText{u"section", u"CODE", u"the section", true},
-    OptionText{u"staff", u"CODE", u"one of its people alone"},
-    OptionText{u"from", u"yyyy/mm", u"first month", true},
-    OptionText{u"to", u"yyyy/mm", u"last month", true},
-    OptionText{u"out", u"X.csv", u"the CSV file, replaced when it is there", true},
+    OptionText{.name = u"section", .value = u"CODE", .text = u"the section", .needed = true},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"one of its people alone"},
+    OptionText{.name = u"from", .value = u"yyyy/mm", .text = u"first month", .needed = true},
+    OptionText{.name = u"to", .value = u"yyyy/mm", .text = u"last month", .needed = true},
+    OptionText{.name = u"out", .value = u"X.csv", .text = u"the CSV file, replaced when it is there", .needed = true},
 };
 
 constexpr std::array importOptions{
-    OptionText{u"overwrite", u"", u"replaces months that are there already; without it they are skipped"},
+    OptionText{.name = u"overwrite", .text = u"replaces months that are there already; without it they are skipped"},
 };
 
 } // namespace

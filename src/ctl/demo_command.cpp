@@ -50,12 +50,15 @@ Exit runDemo(const Options& options) {
 }
 
 constexpr std::array demoOptions{
-    OptionText{u"people", u"N", u"number of people, 1 to 3600; 12 without it"},
-    OptionText{u"sections", u"N", u"number of sections, 1 to 200; 3 without it"},
-    OptionText{u"months", u"N", u"whole months of cards before the current one, 0 to 240; 4 without it"},
-    OptionText{u"seed", u"N", u"another number makes another company"},
-    OptionText{u"until", u"yyyy/mm/dd", u"the day before which the cards end; today without it"},
-    OptionText{u"flexible", u"", u"a company with flexible working time"},
+    OptionText{.name = u"people", .value = u"N", .text = u"number of people, 1 to 3600; 12 without it"},
+    OptionText{.name = u"sections", .value = u"N", .text = u"number of sections, 1 to 200; 3 without it"},
+    OptionText{.name = u"months",
+               .value = u"N",
+               .text = u"whole months of cards before the current one, 0 to 240; 4 without it"},
+    OptionText{.name = u"seed", .value = u"N", .text = u"another number makes another company"},
+    OptionText{
+        .name = u"until", .value = u"yyyy/mm/dd", .text = u"the day before which the cards end; today without it"},
+    OptionText{.name = u"flexible", .text = u"a company with flexible working time"},
 };
 
 } // namespace

@@ -15,8 +15,8 @@ Exit runHolidays(const Options& options) {
 }
 
 constexpr std::array holidaysOptions{
-    OptionText{u"year", u"YYYY", u"2022 to 2099", true},
-    OptionText{u"overwrite", u"", u"replaces a file that is there"},
+    OptionText{.name = u"year", .value = u"YYYY", .text = u"2022 to 2099", .needed = true},
+    OptionText{.name = u"overwrite", .text = u"replaces a file that is there"},
 };
 
 } // namespace

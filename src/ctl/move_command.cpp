@@ -61,12 +61,16 @@ Exit runMove(const Options& options) {
 }
 
 constexpr std::array moveOptions{
-    OptionText{u"dest", u"DEST.mdb", u"the database that gets the days; an older one keeps a name with .old", true},
-    OptionText{u"from", u"yyyy/mm/dd", u"first day", true},
-    OptionText{u"to", u"yyyy/mm/dd", u"last day", true},
-    OptionText{u"month-from", u"yyyy/mm", u"first of the saved months that move as well"},
-    OptionText{u"month-to", u"yyyy/mm", u"last of them"},
-    OptionText{u"running", u"", u"also days of a closing period that still runs; nobody can punch on them then"},
+    OptionText{.name = u"dest",
+               .value = u"DEST.mdb",
+               .text = u"the database that gets the days; an older one keeps a name with .old",
+               .needed = true},
+    OptionText{.name = u"from", .value = u"yyyy/mm/dd", .text = u"first day", .needed = true},
+    OptionText{.name = u"to", .value = u"yyyy/mm/dd", .text = u"last day", .needed = true},
+    OptionText{.name = u"month-from", .value = u"yyyy/mm", .text = u"first of the saved months that move as well"},
+    OptionText{.name = u"month-to", .value = u"yyyy/mm", .text = u"last of them"},
+    OptionText{.name = u"running",
+               .text = u"also days of a closing period that still runs; nobody can punch on them then"},
 };
 
 } // namespace

@@ -16,8 +16,12 @@ struct Word {
     Punch punch;
 };
 
-constexpr std::array words{Word{u"enter", Punch::Enter}, Word{u"leave", Punch::Leave}, Word{u"out", Punch::Out},
-                           Word{u"in", Punch::In}};
+constexpr std::array words{
+    Word{.word = u"enter", .punch = Punch::Enter},
+    Word{.word = u"leave", .punch = Punch::Leave},
+    Word{.word = u"out", .punch = Punch::Out},
+    Word{.word = u"in", .punch = Punch::In},
+};
 
 Punch punchNamed(const QString& name) {
     const auto found = std::ranges::find_if(words, [&](const Word& word) { return name == QStringView(word.word); });
@@ -78,9 +82,13 @@ Exit runPunch(const Options& options) {
 }
 
 constexpr std::array punchOptions{
-    OptionText{u"staff", u"CODE", u"the person", true},
-    OptionText{u"password", u"PW|-", u"the password, or - to read it from the first line of standard input"},
-    OptionText{u"continued", u"yes|no", u"answers the question whether a day that is still open goes on"},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"the person", .needed = true},
+    OptionText{.name = u"password",
+               .value = u"PW|-",
+               .text = u"the password, or - to read it from the first line of standard input"},
+    OptionText{.name = u"continued",
+               .value = u"yes|no",
+               .text = u"answers the question whether a day that is still open goes on"},
 };
 
 } // namespace

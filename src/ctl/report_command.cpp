@@ -81,13 +81,13 @@ Exit runReport(const Options& options) {
 }
 
 constexpr std::array reportOptions{
-    OptionText{u"out", u"X.pdf", u"the PDF file, replaced when it is there", true},
-    OptionText{u"staff", u"CODE", u"the person"},
-    OptionText{u"section", u"CODE", u"the section, of totals"},
-    OptionText{u"month", u"yyyy/mm", u"the month in which the period ends, of card and goout"},
-    OptionText{u"from", u"yyyy/mm/dd", u"first day, or first month of totals"},
-    OptionText{u"to", u"yyyy/mm/dd", u"last day, or last month of totals"},
-    OptionText{u"by", u"staff|month", u"the order of the rows, of totals; staff without it"},
+    OptionText{.name = u"out", .value = u"X.pdf", .text = u"the PDF file, replaced when it is there", .needed = true},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"the person"},
+    OptionText{.name = u"section", .value = u"CODE", .text = u"the section, of totals"},
+    OptionText{.name = u"month", .value = u"yyyy/mm", .text = u"the month in which the period ends, of card and goout"},
+    OptionText{.name = u"from", .value = u"yyyy/mm/dd", .text = u"first day, or first month of totals"},
+    OptionText{.name = u"to", .value = u"yyyy/mm/dd", .text = u"last day, or last month of totals"},
+    OptionText{.name = u"by", .value = u"staff|month", .text = u"the order of the rows, of totals; staff without it"},
 };
 
 } // namespace

@@ -36,11 +36,11 @@ Exit runTotals(const Options& options) {
 }
 
 constexpr std::array totalsOptions{
-    OptionText{u"from", u"yyyy/mm", u"first month", true},
-    OptionText{u"to", u"yyyy/mm", u"last month", true},
-    OptionText{u"section", u"CODE", u"the people shown in a section; this or --staff"},
-    OptionText{u"staff", u"CODE", u"one person"},
-    OptionText{u"by", u"staff|month", u"the order of the rows; staff without it"},
+    OptionText{.name = u"from", .value = u"yyyy/mm", .text = u"first month", .needed = true},
+    OptionText{.name = u"to", .value = u"yyyy/mm", .text = u"last month", .needed = true},
+    OptionText{.name = u"section", .value = u"CODE", .text = u"the people shown in a section; this or --staff"},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"one person"},
+    OptionText{.name = u"by", .value = u"staff|month", .text = u"the order of the rows; staff without it"},
 };
 
 } // namespace

@@ -15,10 +15,15 @@ struct Notice {
 };
 
 constexpr std::array notices{
-    Notice{OptimizeResult::NoFile, u" が見つかりません。", u"データベースファイルの保存場所を確認して下さい。"},
-    Notice{OptimizeResult::NoDrive, u" が置かれたドライブの準備ができていません。",
-           u"データベースファイルが置かれたドライブの状態を確認して下さい。"},
-    Notice{OptimizeResult::NoPath, u" のパスが見つかりません。", u"データベースファイルの保存場所を確認して下さい。"},
+    Notice{.result = OptimizeResult::NoFile,
+           .problem = u" が見つかりません。",
+           .advice = u"データベースファイルの保存場所を確認して下さい。"},
+    Notice{.result = OptimizeResult::NoDrive,
+           .problem = u" が置かれたドライブの準備ができていません。",
+           .advice = u"データベースファイルが置かれたドライブの状態を確認して下さい。"},
+    Notice{.result = OptimizeResult::NoPath,
+           .problem = u" のパスが見つかりません。",
+           .advice = u"データベースファイルの保存場所を確認して下さい。"},
 };
 
 } // namespace

@@ -24,9 +24,9 @@ Day lastOf(int year) {
 
 void Calendar::load() {
     Connection& connection = client_.HomeConnection;
-    clsWorkTime rules;
-    readCompanyStyle(connection, rules);
-    sheet.kinds = GridList(holidayKinds(rules));
+    clsWorkTime style;
+    readCompanyStyle(connection, style);
+    sheet.kinds = GridList(holidayKinds(style));
     const int thisYear = yearOf(client_.context.clock.today());
     const auto first = firstCalendarDay(connection);
     if (!first) CreateCalendar(client_.context.progress, connection, firstOf(thisYear), lastOf(thisYear));

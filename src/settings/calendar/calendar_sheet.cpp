@@ -32,11 +32,11 @@ std::optional<GridColour> colourOf(Day day) {
 
 } // namespace
 
-QString holidayKinds(const clsWorkTime& rules) {
+QString holidayKinds(const clsWorkTime& style) {
     QString list = QStringLiteral("|#0;全日");
-    if (rules.plngAmHolidayWork > 0) list += QStringLiteral("|#1;午前");
-    if (rules.plngPmHolidayWork > 0) list += QStringLiteral("|#2;午後");
-    if (rules.pbleEnableLegalHoliday) list += QStringLiteral("|#3;法定休日");
+    if (style.plngAmHolidayWork > 0) list += QStringLiteral("|#1;午前");
+    if (style.plngPmHolidayWork > 0) list += QStringLiteral("|#2;午後");
+    if (style.pbleEnableLegalHoliday) list += QStringLiteral("|#3;法定休日");
     return list;
 }
 

@@ -42,8 +42,9 @@ struct HalfDayFields {
 
 HalfDayFields fieldsOf(QStringView half) {
     const QString prefix = QStringLiteral("F_") + half.toString();
-    return {prefix + QStringLiteral("HolidayWork"), prefix + QStringLiteral("Flex"),
-            prefix + QStringLiteral("FlexStandard")};
+    return {.work = prefix + QStringLiteral("HolidayWork"),
+            .flex = prefix + QStringLiteral("Flex"),
+            .standard = prefix + QStringLiteral("FlexStandard")};
 }
 
 void take(const RecordSet& row, const QString& field, int& number) {
