@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/field_tests.h"
 #include "base/numbers.h"
+#include "month/loaders.h"
 #include "month/quantities.h"
 #include "settings/settings_steps.h"
 #include "store/record_set.h"
@@ -19,15 +20,6 @@ constexpr auto displayFields = [] {
     return fields;
 }();
 static_assert(displayFields.size() == WorkStyle::displays);
-
-QString statement() {
-    return QStringLiteral(
-               "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, "
-               "F_PmFlex, "
-               "F_PmFlexStandard, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, "
-               "F_Diff, ") +
-           switchFields() + QStringLiteral(" FROM M01_CorpInfo;");
-}
 
 bool isBlank(const QString& time) {
     return time == u"__:__";
@@ -118,7 +110,7 @@ void writeRounding(RecordSet& row, const WorkStyle& style) {
 } // namespace
 
 WorkStyle readWorkStyle(Connection& connection, const WorkStyle& before) {
-    const RecordSet row(connection, statement());
+    const RecordSet row(connection, companyStyleStatement());
     WorkStyle style = before;
     if (!row.atRow()) {
         style.display.fill(true);
