@@ -44,10 +44,6 @@ std::optional<bool> passes(const Context& context, Connection& connection, const
                    [&] { return connection.hasRow(QString::fromUtf16(test.statement)); });
 }
 
-bool isOK(const Context& context, Connection& connection, const Test& test) {
-    return passes(context, connection, test).value_or(false);
-}
-
 struct Step {
     Setting setting;
     const Test& test;
@@ -91,34 +87,6 @@ constexpr std::array steps{
 };
 
 } // namespace
-
-bool IsCorpOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, corp);
-}
-
-bool IsSectionOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, section);
-}
-
-bool IsStaffOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, staff);
-}
-
-bool IsWorkStyleOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, workStyle);
-}
-
-bool IsWorkTimeOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, workTime);
-}
-
-bool IsAdjustOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, adjust);
-}
-
-bool IsAccessOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, access);
-}
 
 bool settingAllowed(const Context& context, Connection& connection, Setting setting) {
     // The first setting opens in any case; on a new site the order is told.

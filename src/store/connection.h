@@ -52,7 +52,6 @@ class Connection final {
     std::int64_t execute(const QString& statement, const Values& values = {});
     // The number that the last added row got.
     [[nodiscard]] std::int64_t lastRowId() const;
-    [[nodiscard]] bool inTransaction() const { return transactions_ > 0; }
 
     // How long a busy file is waited for (60 seconds), and what runs about ten times a second meanwhile.
     void setTimeout(std::chrono::milliseconds timeout) { timeout_ = timeout; }

@@ -79,11 +79,6 @@ bool hasCalendar(const Context& context, Connection& connection, Day day) {
     return count > 0;
 }
 
-std::optional<Moment> EndAllNight(const Context& context, Connection& connection, const QString& staff, Moment border) {
-    return guarded(context, module, u"EndAllNight", std::optional<Moment>(),
-                   [&] { return leaveBeyond(connection, staff, border); });
-}
-
 std::optional<Moment> leaveBeyond(Connection& connection, const QString& staff, Moment border) {
     const auto leave = connection.lastValue(
         QStringLiteral("SELECT F_Leave FROM T02_Kurbo WHERE (F_User = ?) AND (F_DateID < ?) ORDER BY F_DateID;"),

@@ -29,9 +29,7 @@ namespace kurbo {
 // Says so when `day` has no calendar row.
 [[nodiscard]] bool hasCalendar(const Context& context, Connection& connection, Day day);
 // The leave time of the person's last row before the day of `border`, when it lies later than `border`; else nothing.
-[[nodiscard]] std::optional<Moment> EndAllNight(const Context& context, Connection& connection, const QString& staff,
-                                                Moment border);
-// The same without a report; throws.
+// Throws.
 [[nodiscard]] std::optional<Moment> leaveBeyond(Connection& connection, const QString& staff, Moment border);
 // Days between the first and the last card row, 0 without rows, or -1.
 [[nodiscard]] int RecordedDays(const Context& context, Connection& connection);

@@ -47,7 +47,7 @@ TEST_F(Readers, ShiftOverTheBorder) {
     addCard(1, *makeDay(2026, 4, 10), u"22:00"_q, QString());
     connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/11 07:00#"_q);
     const auto end = [&](int day, int hour) {
-        return EndAllNight(desk.context, connection, u"1001"_q, at(*makeDay(2026, 4, day), hour, 0));
+        return leaveBeyond(connection, u"1001"_q, at(*makeDay(2026, 4, day), hour, 0));
     };
     EXPECT_EQ(end(11, 6), at(*makeDay(2026, 4, 11), 7, 0));
     EXPECT_FALSE(end(11, 7)) << "not later than the border";
