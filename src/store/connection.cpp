@@ -25,15 +25,15 @@ using std::chrono::steady_clock;
 
 constexpr milliseconds betweenNotices{100};
 
-void bind(sqlite3_stmt* statement, int place, const Value& value) {
+void bind(sqlite3_stmt* statement, int index, const Value& value) {
     const auto bindText = [&](const char* bytes, qsizetype size) {
-        sqlite3_bind_text64(statement, place, bytes, static_cast<sqlite3_uint64>(size), SQLITE_TRANSIENT, SQLITE_UTF8);
+        sqlite3_bind_text64(statement, index, bytes, static_cast<sqlite3_uint64>(size), SQLITE_TRANSIENT, SQLITE_UTF8);
     };
     const auto& data = value.data();
     if (const auto* number = std::get_if<std::int64_t>(&data)) {
-        sqlite3_bind_int64(statement, place, *number);
+        sqlite3_bind_int64(statement, index, *number);
     } else if (const auto* real = std::get_if<double>(&data)) {
-        sqlite3_bind_double(statement, place, *real);
+        sqlite3_bind_double(statement, index, *real);
     } else if (const auto* text = std::get_if<QString>(&data)) {
         const QByteArray bytes = text->toUtf8();
         bindText(bytes.constData(), bytes.size());
@@ -41,7 +41,7 @@ void bind(sqlite3_stmt* statement, int place, const Value& value) {
         const std::string stored = isoText(*moment);
         bindText(stored.data(), static_cast<qsizetype>(stored.size()));
     } else {
-        sqlite3_bind_null(statement, place);
+        sqlite3_bind_null(statement, index);
     }
 }
 

@@ -16,7 +16,7 @@ struct sqlite3;
 namespace kurbo {
 
 // One database file in use. All failures are thrown as a Fault. Statements are those of the dialect (dialect.h); a
-// value goes into a place marked "?" and never becomes part of the text.
+// value takes a placeholder "?" and never becomes part of the text.
 class Connection final {
   public:
     Connection();

@@ -73,13 +73,13 @@ void paintBox(QPainter& painter, const QStyleOptionViewItem& option, const QMode
 // "0" is a digit that must be there, "#" one that may; the toolkit's signs for them are "9" and "0".
 QString inputMask(const QString& mask) {
     QString own;
-    for (const QChar place : mask) own += place == u'#' ? u'0' : place == u'0' ? u'9' : place;
+    for (const QChar sign : mask) own += sign == u'#' ? u'0' : sign == u'0' ? u'9' : sign;
     return own.isEmpty() ? own : own + QStringLiteral(";_");
 }
 
 QString withoutSigns(QString text, const QString& mask) {
-    for (const QChar place : mask)
-        if (place != u'#' && place != u'0') text.remove(place);
+    for (const QChar sign : mask)
+        if (sign != u'#' && sign != u'0') text.remove(sign);
     return text;
 }
 
