@@ -37,10 +37,6 @@ std::optional<QString> GetDbPath(const Context& context, Connection& connection,
     });
 }
 
-std::int64_t GenerateKurboID(const Context& context, Connection& connection) {
-    return guarded(context, module, u"GenerateKurboID", std::int64_t{-1}, [&] { return nextKurboId(connection); });
-}
-
 std::int64_t nextKurboId(Connection& connection) {
     const auto last = connection.lastValue(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo ORDER BY F_KurboID;"));
     return last ? last->integer() + 1 : 1;

@@ -14,9 +14,7 @@ namespace kurbo {
 
 // The value of F_DB; nothing on a failure.
 [[nodiscard]] std::optional<QString> GetDbPath(const Context& context, Connection& connection, const QString& section);
-// The largest F_KurboID plus 1, 1 on an empty table, or -1.
-[[nodiscard]] std::int64_t GenerateKurboID(const Context& context, Connection& connection);
-// The same without a report; throws.
+// The largest F_KurboID plus 1, 1 on an empty table. Throws.
 [[nodiscard]] std::int64_t nextKurboId(Connection& connection);
 // Name of the day, the empty text on an ordinary day; nothing on a failure.
 [[nodiscard]] std::optional<QString> WhichHoliday(const Context& context, Connection& connection, Day date);
