@@ -7,7 +7,7 @@ int monthOf(Day day) {
     return static_cast<int>(static_cast<unsigned>(civil(day).month()));
 }
 
-// The years that a calendar shows between two days, less one when the last is not yet whole.
+// The difference of the calendar years, less one while the last of them is not complete.
 int wholeYears(Day from, Day to) {
     const int years = yearOf(to) - yearOf(from);
     return addMonths(from, years * 12) > to ? years - 1 : years;

@@ -25,7 +25,7 @@ CsvSpan spanOf(const Options& options) {
     return span;
 }
 
-// The lines would name the section that was asked for.
+// Otherwise the lines of a person from elsewhere would carry the section that was asked for.
 void refuseOutsider(Connection& connection, const CsvSpan& span) {
     const CodeName home = askedPerson(connection, span.staff).section;
     if (compareText(home.code, span.section) != 0)

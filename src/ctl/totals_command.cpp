@@ -10,7 +10,7 @@
 namespace kurbo {
 namespace {
 
-// Without the signs of the alignment.
+// "^" is the grid's sign for a centred column.
 QStringList plainHeadings(bool byStaff) {
     return totalHeadings(byStaff).remove(u'^').split(u'|');
 }

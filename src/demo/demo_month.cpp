@@ -84,7 +84,7 @@ void addHoliday(MonthFigures& month, const Style& style, const Stay& stay, bool 
     if (work + late > 0) ++month.workDays;
 }
 
-// A half day is missed within the weekday's hours.
+// Who misses a half day misses its part of the weekday's hours.
 void addAbsence(MonthFigures& month, const Style& style, const Style& weekday) {
     ++month.absentDays;
     month.of(Figure::Absent) += workMinutes(business(weekday), style);

@@ -50,7 +50,7 @@ class ClosedMeanwhile final {
 
 // Throws where the compaction's result has a message.
 void explain(OptimizeResult result, const QString& database) {
-    // The lock file of a client that is there tells of a user; one that a crash has left tells of nobody.
+    // A lock file that nobody holds was left by a crash.
     if (result == OptimizeResult::Opened || (result == OptimizeResult::ExistLdb && LockFile::isHeld(database)))
         throw inUse();
     if (result == OptimizeResult::NoFile || result == OptimizeResult::NoPath)
@@ -91,7 +91,7 @@ class Destination final {
         DeleteApprovedRange(change, order.withMonths ? *order.startMonth : *order.startDay,
                             order.withMonths ? *order.endMonth : *order.endDay, true);
         change.commit();
-        // The compaction has looked at the values a moment ago; the pages are new.
+        // The compaction has just checked the values, so that here only the structure of the file is looked at.
         copy.engine("PRAGMA ignore_check_constraints=ON");
         requireWhole(copy);
     }

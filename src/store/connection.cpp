@@ -78,7 +78,7 @@ void Connection::openAlone(const QString& path, const QString& password) {
 }
 
 void Connection::openFile(const QString& path, const QString& password, bool alone) {
-    // The notice of a wait may lead back here.
+    // What runs during a wait may try to open this very connection.
     if (openingNow_) throw storeFault(StoreError::Busy);
     const QScopedValueRollback now(openingNow_, true);
     close();
@@ -189,13 +189,13 @@ int Connection::onBusy(void* self, int count) {
         connection.notice_();
         connection.nextNotice_ = now + betweenNotices;
     }
-    // Short and uneven, so that waiting clients do not come back together.
+    // Pauses are short and of random length, so that waiting clients do not all try at one moment.
     const int longest = std::min(500 + count * 250, 5000);
     std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(250, longest)));
     return 1;
 }
 
-// A script of statements that differ in their values alone must not fill the memory.
+// A script of many statements that differ only in the values written into them must not fill the memory.
 void Connection::forgetIdle(std::unordered_map<QString, Shelf>& shelves) {
     std::erase_if(shelves, [](const auto& entry) {
         const Shelf& shelf = entry.second;
@@ -280,7 +280,8 @@ std::int64_t Connection::lastRowId() const {
 }
 
 void Connection::beginTurn() {
-    // The queue is a courtesy and the engine's lock decides: a client that stands still in its place stops nobody.
+    // The queue only keeps the order, and the engine's lock decides: where a client ahead hangs, this one goes on after
+    // the timeout.
     if (turns_++ == 0) outOfTurn_ = !lock_.waitTurn(deadline(), notice_);
 }
 

@@ -141,7 +141,7 @@ QByteArray written(zip_source_t* source) {
     return bytes;
 }
 
-// Closing an archive takes a share of its source, so that one is kept to read from.
+// zip_close() releases its source; zip_source_keep() leaves one reference to read from.
 QByteArray zipped(const QList<Member>& members) {
     const Source target = sourceOf({});
     Zip zip(zip_open_from_source(target.get(), ZIP_CREATE | ZIP_TRUNCATE, nullptr));
