@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/field_tests.h"
 #include "base/numbers.h"
+#include "settings/listing.h"
 #include "store/record_set.h"
 
 namespace kurbo {
@@ -46,29 +47,29 @@ constexpr std::array<FieldFacts, StaffSettings::fields> fieldFacts{{
      .demand = u"パスワードは半角英数字10文字以内で入力します。",
      .missing = u"パスワードが入力されていません。",
      .takes = isPassword,
-     .label = u"         ﾊﾟｽﾜｰﾄﾞ："},
+     .label = u"ﾊﾟｽﾜｰﾄﾞ"},
     {.field = u"F_CloseDay",
      .name = u"タイムカード締日",
      .demand = u"タイムカード締日は1～27, 31(末締は31)の範囲で入力します。",
      .missing = u"締日が入力されていません。",
      .takes = isCloseDay,
-     .label = u"     ﾀｲﾑｶｰﾄﾞ締日："},
+     .label = u"ﾀｲﾑｶｰﾄﾞ締日"},
     {.field = u"F_PaidTotal",
      .name = u"有給休暇残数",
      .demand = u"数値を入力して下さい。",
      .missing = u"有給休暇残数が入力されていません。",
      .takes = isNumeric,
-     .label = u"    有給休暇残数："},
+     .label = u"有給休暇残数"},
     {.field = u"F_EnterDelay",
      .name = u"出社時刻調整時間",
      .demand = u"出社時刻調整時間は0～999(秒)の範囲で入力します。",
      .takes = isSeconds,
-     .label = u"    出社時刻調整："},
+     .label = u"出社時刻調整"},
     {.field = u"F_LeaveGain",
      .name = u"退社時刻調整時間",
      .demand = u"退社時刻調整時間は0～999(秒)の範囲で入力します。",
      .takes = isSeconds,
-     .label = u"    退社時刻調整："},
+     .label = u"退社時刻調整"},
 }};
 
 struct ChoiceFacts {
@@ -87,37 +88,37 @@ constexpr std::array<ChoiceFacts, StaffSettings::choices> choiceFacts{{
      .code = u"F_WeekdayCode",
      .name = u"F_WeekdayName",
      .word = u"平日勤務形態",
-     .label = u"        平日勤務："},
+     .label = u"平日勤務"},
     {.field = u"F_Holiday",
      .table = u"M04_HolidayStyle",
      .code = u"F_HolidayCode",
      .name = u"F_HolidayName",
      .word = u"休日勤務形態",
-     .label = u"        休日勤務："},
+     .label = u"休日勤務"},
     {.field = u"F_AmHoliday",
      .table = u"M05_AmHolidayStyle",
      .code = u"F_AmHolidayCode",
      .name = u"F_AmHolidayName",
      .word = u"午前休日勤務形態",
-     .label = u"    午前休日勤務："},
+     .label = u"午前休日勤務"},
     {.field = u"F_PmHoliday",
      .table = u"M06_PmHolidayStyle",
      .code = u"F_PmHolidayCode",
      .name = u"F_PmHolidayName",
      .word = u"午後休日勤務形態",
-     .label = u"    午後休日勤務："},
+     .label = u"午後休日勤務"},
     {.field = u"F_AdjustHours",
      .table = u"M07_AdjustHours",
      .code = u"F_AdjustCode",
      .name = u"F_AdjustName",
      .word = u"時間調整方法",
-     .label = u"    時間調整方法："},
+     .label = u"時間調整方法"},
     {.field = u"F_Access",
      .table = u"M08_Access",
      .code = u"F_AccessCode",
      .name = u"F_AccessName",
      .word = u"アクセス権",
-     .label = u"          ｱｸｾｽ権："},
+     .label = u"ｱｸｾｽ権"},
 }};
 
 QString word(const char16_t* text) {
@@ -278,13 +279,16 @@ QString stepped(StaffSettings::Field field, const QString& text, bool up) {
 }
 
 QStringList staffListing(const CodeName& section, const CodeName& staff, const StaffSettings& settings) {
+    constexpr int labelWidth = 16;
     QStringList listing{QStringLiteral("  部課：%1 (%2)").arg(section.code, section.name),
                         QStringLiteral("  氏名：%1 (%2)").arg(staff.code, staff.name)};
     for (std::size_t i = 0; i < fieldFacts.size(); ++i) {
         const QString& text = settings.texts[i];
-        listing.append(word(fieldFacts[i].label) + (i == Field::Password ? QString(text.size(), u'*') : text));
+        listing.append(listingLabel(word(fieldFacts[i].label), labelWidth) +
+                       (i == Field::Password ? QString(text.size(), u'*') : text));
     }
-    for (std::size_t i = 0; i < choiceFacts.size(); ++i) listing.append(word(choiceFacts[i].label) + settings.codes[i]);
+    for (std::size_t i = 0; i < choiceFacts.size(); ++i)
+        listing.append(listingLabel(word(choiceFacts[i].label), labelWidth) + settings.codes[i]);
     return listing;
 }
 

@@ -4,6 +4,7 @@
 #include "base/field_tests.h"
 #include "base/system/code_page.h"
 #include "screen/fields/prefectures.h"
+#include "settings/listing.h"
 #include "settings/settings_steps.h"
 
 #include <algorithm>
@@ -197,8 +198,7 @@ QStringList fieldLines(RecordFields fields, const RecordTexts& texts, const QHas
     QStringList listing;
     for (qsizetype i = 0; i < texts.size(); ++i) {
         const RecordField& field = fields[static_cast<std::size_t>(i)];
-        const QString label = text(field.label);
-        listing.append(QString(indent + widest - byteLength(label), u' ') + label + u'：' + wordOf(field, texts[i]) +
+        listing.append(listingLabel(text(field.label), indent + widest) + wordOf(field, texts[i]) +
                        notes.value(text(field.name)));
     }
     return listing;
