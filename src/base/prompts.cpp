@@ -33,16 +33,19 @@ bool Prompts::sure(const QString& what, Answer preset) {
 }
 
 std::optional<QString> Prompts::openFile(const QString& filter) {
-    return firstOf(chooseFiles({FileQuestion::Kind::Open, filter, {}, {}}));
+    return firstOf(chooseFiles({.kind = FileQuestion::Kind::Open, .filter = filter}));
 }
 
 QStringList Prompts::openFiles(const QString& filter) {
-    return chooseFiles({FileQuestion::Kind::OpenMany, filter, {}, {}});
+    return chooseFiles({.kind = FileQuestion::Kind::OpenMany, .filter = filter});
 }
 
 std::optional<QString> Prompts::saveFile(const QString& filter, const QString& defaultExtension,
                                          const QString& suggestedName) {
-    return firstOf(chooseFiles({FileQuestion::Kind::Save, filter, defaultExtension, suggestedName}));
+    return firstOf(chooseFiles({.kind = FileQuestion::Kind::Save,
+                                .filter = filter,
+                                .defaultExtension = defaultExtension,
+                                .suggestedName = suggestedName}));
 }
 
 } // namespace kurbo

@@ -24,10 +24,10 @@ struct FileQuestion {
     enum class Kind { Open, OpenMany, Save };
     Kind kind = Kind::Open;
     // "text|pattern|text|pattern"; empty for all files.
-    QString filter;
+    QString filter{};
     // Of a save: what a name without an extension gets, without the dot.
-    QString defaultExtension;
-    QString suggestedName;
+    QString defaultExtension{};
+    QString suggestedName{};
 };
 
 // Whatever the program tells or asks a person goes through here: boxes on the screen, standard error in the command

@@ -8,8 +8,8 @@ using namespace std::chrono;
 namespace kurbo {
 namespace {
 
-constexpr GridColour red{255, 0, 0};
-constexpr GridColour blue{0, 0, 255};
+constexpr GridColour red{.red = 255, .green = 0, .blue = 0};
+constexpr GridColour blue{.red = 0, .green = 0, .blue = 255};
 
 void describeColumns(GridModel& grid, const QString& kinds) {
     const auto width = [&grid](CalendarColumn column, int twips) { grid.ColWidth(static_cast<int>(column), twips); };
