@@ -1,4 +1,4 @@
-#include "demo/demo_rules.h"
+#include "demo/demo_styles.h"
 
 namespace kurbo {
 namespace {
