@@ -72,9 +72,7 @@ LoginResult Login::wrongPassword() {
 }
 
 LoginResult Login::admit(const Listed& person) {
-    Session session;
-    session.SessionSection = person.section;
-    session.SessionStaff = person.staff.code;
+    Session session{person.section, person.staff.code, {}, 0, 0};
     Connection& connection = client_.HomeConnection;
     if (!GetAccess(client_.context, connection, session.SessionStaff, mySection(), session.access) ||
         !GetTimeDiff(client_.context, connection, session.SessionStaff, session.EnterDelay, session.LeaveGain))
