@@ -77,9 +77,9 @@ int main() {
         const Context watched{office.prompts, office.clock, office.paths, bar};
         Connection connection;
         connection.open(path, databasePassword());
-        QString word;
-        const double move = timed([&] { word = carryOut(watched, connection, path, order(destination)); });
-        if (word != u"OK") return 1;
+        OptimizeResult result{};
+        const double move = timed([&] { result = carryOut(watched, connection, path, order(destination)); });
+        if (result != OptimizeResult::OK) return 1;
         bare.add(least);
         moved.add(move);
         ratios.add(move / least);

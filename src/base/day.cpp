@@ -89,7 +89,7 @@ std::optional<seconds> clockAt(QStringView text, qsizetype& from) {
     return hours{*hour} + minutes{*minute} + seconds{second};
 }
 
-// The number of two digits, or one that spoils every sum it goes into.
+// The number of two digits; for anything else one so far below 0 that no sum with it is a valid date.
 int twoDigits(const char* text) {
     constexpr int noNumber = -10000;
     const int tens = text[0] - '0';

@@ -3,7 +3,7 @@
 namespace kurbo {
 namespace {
 
-// The years that a calendar shows between two days, less one when the last is not yet whole.
+// The difference of the calendar years, less one while the last of them is not complete.
 int wholeYears(Day from, Day to) {
     const int years = yearOf(to) - yearOf(from);
     return addMonths(from, years * 12) > to ? years - 1 : years;

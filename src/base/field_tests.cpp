@@ -50,8 +50,4 @@ bool IsSingleByte(const QString& text) {
     return !text.isEmpty() && bytes && bytes->size() == text.size();
 }
 
-int CountOf(const QString& text, const QString& part) {
-    return part.isEmpty() ? 0 : static_cast<int>(text.count(part));
-}
-
 } // namespace kurbo

@@ -22,7 +22,4 @@ enum class IntegerMode { Any = 0, NotNegative = 1, Positive = 2, NotPositive = 3
 // Characters of one byte in the code page only, that is ASCII and half-width katakana.
 [[nodiscard]] bool IsSingleByte(const QString& text);
 
-// How often `part` occurs in the text; 0 for an empty part.
-[[nodiscard]] int CountOf(const QString& text, const QString& part);
-
 } // namespace kurbo

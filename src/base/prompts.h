@@ -24,10 +24,10 @@ struct FileQuestion {
     enum class Kind { Open, OpenMany, Save };
     Kind kind = Kind::Open;
     // "text|pattern|text|pattern"; empty for all files.
-    QString filter;
+    QString filter{};
     // Of a save: what a name without an extension gets, without the dot.
-    QString defaultExtension;
-    QString suggestedName;
+    QString defaultExtension{};
+    QString suggestedName{};
 };
 
 // Whatever the program tells or asks a person goes through here: boxes on the screen, standard error in the command
@@ -47,6 +47,10 @@ class Prompts {
     void inform(const QString& text);
     // Question of a risky kind: Yes and No, No being the preset.
     [[nodiscard]] bool confirm(const QString& text);
+    // Ok and Cancel; true for Ok. `preset` is Cancel where nothing leads back.
+    [[nodiscard]] bool agrees(const QString& question, Answer preset = Answer::Ok);
+    // The same of what is about to be done: "<what>", a blank line and "よろしいですか？".
+    [[nodiscard]] bool sure(const QString& what, Answer preset = Answer::Ok);
 
     // The file dialogs; nothing when they are cancelled.
     [[nodiscard]] std::optional<QString> openFile(const QString& filter);

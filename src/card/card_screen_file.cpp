@@ -4,8 +4,8 @@
 #include "card/card_screen.h"
 #include "card/edit/card_checks.h"
 #include "card/edit/card_times.h"
+#include "screen/files/card_file.h"
 #include "screen/files/foreign_file.h"
-#include "screen/files/sheet_file.h"
 #include "store/section_switch.h"
 
 #include <QFileInfo>
@@ -46,22 +46,22 @@ QList<CodeName> withNames(QList<CodeName> list, const QList<CodeName>& names) {
 
 bool CardScreen::saveKrb(const QString& start, const QString& end) {
     if (!hasName(client_.context, chosen_) || !checkedPeriod(client_.context, start, end)) return false;
-    const auto file = client_.context.prompts.saveFile(sheetFilter(), QStringLiteral("krb"));
+    const auto file = client_.context.prompts.saveFile(cardFileFilter(), QStringLiteral("krb"));
     return file && guarded(client_.context, u"frmKurbo", u"SaveKurbo", false, [&] {
-               saveSheet(*file, cardMember(), sheet.grid, {chosen_.section, chosen_.staff, start, end});
+               saveCardFile(*file, cardMember(), sheet.grid, {chosen_.section, chosen_.staff, start, end});
                return true;
            });
 }
 
 bool CardScreen::loadKrb() {
     if (!mayDiscard()) return false;
-    const auto file = client_.context.prompts.openFile(sheetFilter());
+    const auto file = client_.context.prompts.openFile(cardFileFilter());
     return file && guarded(client_.context, u"frmKurbo", u"LoadKurbo", false, [&] {
                // From now on, also after a failure, the screen only shows until a card is drawn from the store.
                sheet.drawn();
                sheet.blnFileMode = true;
                file_ = {};
-               const QStringList selection = loadSheet(*file, cardMember(), cardColumns, sheet.grid, checkDates);
+               const QStringList selection = loadCardFile(*file, cardMember(), cardColumns, sheet.grid, checkDates);
                sheet.days = entriesOf(sheet.grid);
                chosen_.section = selection[0];
                chosen_.staff = selection[1];

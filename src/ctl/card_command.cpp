@@ -22,7 +22,7 @@ Exit runCard(const Options& options) {
     const Format format = formatNamed(options.value(QStringLiteral("format")));
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     const auto asked = askedCard(console.context(), connection, options);
     if (!asked) return console.refused();
     printCard(asked->card, asked->who.staff.code, asked->span, format);
@@ -30,10 +30,11 @@ Exit runCard(const Options& options) {
 }
 
 constexpr std::array cardOptions{
-    OptionText{u"staff", u"CODE", u"the person", true},
-    OptionText{u"month", u"yyyy/mm", u"the month in which the period ends; this, or --from and --to"},
-    OptionText{u"from", u"yyyy/mm/dd", u"first day"},
-    OptionText{u"to", u"yyyy/mm/dd", u"last day"},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"the person", .needed = true},
+    OptionText{
+        .name = u"month", .value = u"yyyy/mm", .text = u"the month in which the period ends; this, or --from and --to"},
+    OptionText{.name = u"from", .value = u"yyyy/mm/dd", .text = u"first day"},
+    OptionText{.name = u"to", .value = u"yyyy/mm/dd", .text = u"last day"},
 };
 
 } // namespace
@@ -41,7 +42,7 @@ constexpr std::array cardOptions{
 const Command cardCommand{
     .name = u"card",
     .run = runCard,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Prints the time card of a person, worked out from the stored punches.",
     .more = u"",
     .options = cardOptions,

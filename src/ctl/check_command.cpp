@@ -7,7 +7,7 @@ namespace kurbo {
 namespace {
 
 Exit runCheck(const Options& options) {
-    const QStringList wrong = checkDatabase(options.place(0));
+    const QStringList wrong = checkDatabase(options.argument(0));
     if (wrong.isEmpty()) {
         say(QStringLiteral("OK"));
         return Exit::Done;
@@ -21,7 +21,7 @@ Exit runCheck(const Options& options) {
 const Command checkCommand{
     .name = u"check",
     .run = runCheck,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Prints OK, or what is wrong with the file.",
     .more = u"",
     .options = {},

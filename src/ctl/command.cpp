@@ -8,10 +8,11 @@ namespace kurbo {
 namespace {
 
 constexpr std::array common{
-    OptionText{u"format", u"table|tsv|csv|json", u"how card, totals and sql print; table without it"},
-    OptionText{u"today", u"yyyy/mm/dd", u"the day that counts as today"},
-    OptionText{u"at", u"\"yyyy/mm/dd hh:nn:ss\"", u"the moment that counts as now"},
-    OptionText{u"app-folder", u"DIR", u"the folder of Error.log"},
+    OptionText{
+        .name = u"format", .value = u"table|tsv|csv|json", .text = u"how card, totals and sql print; table without it"},
+    OptionText{.name = u"today", .value = u"yyyy/mm/dd", .text = u"the day that counts as today"},
+    OptionText{.name = u"at", .value = u"\"yyyy/mm/dd hh:nn:ss\"", .text = u"the moment that counts as now"},
+    OptionText{.name = u"app-folder", .value = u"DIR", .text = u"the folder of Error.log"},
 };
 
 QString text(const char16_t* literal) {
@@ -41,12 +42,12 @@ QString optionTable(std::span<const OptionText> options) {
 
 } // namespace
 
-qsizetype Command::placeCount() const {
-    return text(places).split(u' ', Qt::SkipEmptyParts).size();
+qsizetype Command::argumentCount() const {
+    return text(arguments).split(u' ', Qt::SkipEmptyParts).size();
 }
 
-bool Command::takesMorePlaces() const {
-    return text(places).endsWith(QStringLiteral("..."));
+bool Command::takesMoreArguments() const {
+    return text(arguments).endsWith(QStringLiteral("..."));
 }
 
 std::span<const OptionText> commonOptions() {
@@ -54,7 +55,7 @@ std::span<const OptionText> commonOptions() {
 }
 
 QString usageOf(const Command& command) {
-    QString usage = QStringLiteral("kurboctl ") + text(command.name) + u' ' + text(command.places);
+    QString usage = QStringLiteral("kurboctl ") + text(command.name) + u' ' + text(command.arguments);
     for (const OptionText& option : command.options)
         usage += option.needed ? u' ' + withValue(option) : QStringLiteral(" [") + withValue(option) + u']';
     return usage;

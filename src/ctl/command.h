@@ -14,8 +14,8 @@ class Options;
 struct OptionText {
     const char16_t* name;
     // What stands behind it, in the words of the help; empty for a switch.
-    const char16_t* value;
-    const char16_t* text;
+    const char16_t* value = u"";
+    const char16_t* text = u"";
     // The command doesn't run without it.
     bool needed = false;
 };
@@ -25,7 +25,7 @@ struct Command {
     const char16_t* name;
     Exit (*run)(const Options& options);
     // The words that are no options, parted by blanks; the last may be repeated when it ends in "...".
-    const char16_t* places;
+    const char16_t* arguments;
     // One line, and what else there is to say, in lines.
     const char16_t* summary;
     const char16_t* more;
@@ -33,14 +33,14 @@ struct Command {
     // Behind "kurboctl", with the name.
     const char16_t* example;
 
-    [[nodiscard]] qsizetype placeCount() const;
-    [[nodiscard]] bool takesMorePlaces() const;
+    [[nodiscard]] qsizetype argumentCount() const;
+    [[nodiscard]] bool takesMoreArguments() const;
 };
 
 // Those that every command takes.
 [[nodiscard]] std::span<const OptionText> commonOptions();
 
-// "kurboctl NAME PLACES --needed VALUE [--option VALUE]"
+// "kurboctl NAME ARGUMENTS --needed VALUE [--option VALUE]"
 [[nodiscard]] QString usageOf(const Command& command);
 // The help of one command.
 [[nodiscard]] QString helpOf(const Command& command);

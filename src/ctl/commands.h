@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ctl/options.h"
+#include "store/file/optimize_db.h"
 
 namespace kurbo {
 
@@ -21,5 +22,7 @@ extern const Command holidaysCommand;
 
 // Complains when there is something under the name of a file to be made.
 void refuseExisting(const QString& path);
+// The word by which the result of a compaction is printed.
+[[nodiscard]] QString wordOf(OptimizeResult result);
 
 } // namespace kurbo

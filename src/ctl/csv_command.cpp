@@ -25,7 +25,7 @@ CsvSpan spanOf(const Options& options) {
     return span;
 }
 
-// The lines would name the section that was asked for.
+// Otherwise the lines of a person from elsewhere would carry the section that was asked for.
 void refuseOutsider(Connection& connection, const CsvSpan& span) {
     const CodeName home = askedPerson(connection, span.staff).section;
     if (compareText(home.code, span.section) != 0)
@@ -36,10 +36,10 @@ void refuseOutsider(Connection& connection, const CsvSpan& span) {
 Exit runExport(const Options& options) {
     const CsvSpan span = spanOf(options);
     const QString out = options.needed(QStringLiteral("out"));
-    if (isSameFile(out, options.place(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
+    if (isSameFile(out, options.argument(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     (void)askedSection(connection, span.section);
     if (options.has(QStringLiteral("staff"))) refuseOutsider(connection, span);
     const QList<MonthRecord> months = savedMonths(connection, span);
@@ -52,12 +52,12 @@ Exit runExport(const Options& options) {
 
 Exit runImport(const Options& options) {
     const Console console(options);
-    const auto loaded = loadCsv(console.context(), options.placesFrom(1));
+    const auto loaded = loadCsv(console.context(), options.argumentsFrom(1));
     if (!loaded) return console.refused();
     QList<MonthRecord> months;
     for (const LoadedMonth& month : *loaded) months.append(month.record);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     const bool overwrite = options.has(QStringLiteral("overwrite"));
     const CsvAdded added = addToDatabase(console.context(), connection, months,
                                          overwrite ? OnExisting::Overwrite : OnExisting::Skip, [] { return false; });
@@ -67,15 +67,15 @@ Exit runImport(const Options& options) {
 }
 
 constexpr std::array exportOptions{
-    OptionText{u"section", u"CODE", u"the section", true},
-    OptionText{u"staff", u"CODE", u"one of its people alone"},
-    OptionText{u"from", u"yyyy/mm", u"first month", true},
-    OptionText{u"to", u"yyyy/mm", u"last month", true},
-    OptionText{u"out", u"X.csv", u"the CSV file, replaced when it is there", true},
+    OptionText{.name = u"section", .value = u"CODE", .text = u"the section", .needed = true},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"one of its people alone"},
+    OptionText{.name = u"from", .value = u"yyyy/mm", .text = u"first month", .needed = true},
+    OptionText{.name = u"to", .value = u"yyyy/mm", .text = u"last month", .needed = true},
+    OptionText{.name = u"out", .value = u"X.csv", .text = u"the CSV file, replaced when it is there", .needed = true},
 };
 
 constexpr std::array importOptions{
-    OptionText{u"overwrite", u"", u"replaces months that are there already; without it they are skipped"},
+    OptionText{.name = u"overwrite", .text = u"replaces months that are there already; without it they are skipped"},
 };
 
 } // namespace
@@ -83,7 +83,7 @@ constexpr std::array importOptions{
 const Command exportCommand{
     .name = u"export",
     .run = runExport,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Writes the saved months of a section to a CSV file.",
     .more = u"The file is in code page 932.",
     .options = exportOptions,
@@ -93,7 +93,7 @@ const Command exportCommand{
 const Command importCommand{
     .name = u"import",
     .run = runImport,
-    .places = u"FILE X.csv...",
+    .arguments = u"FILE X.csv...",
     .summary = u"Reads saved months out of CSV files into the database.",
     .more = u"It takes up to 100 files with up to 200 months together: all or nothing.",
     .options = importOptions,

@@ -43,19 +43,22 @@ void sayPeople(const DemoOptions& demo) {
 
 Exit runDemo(const Options& options) {
     const DemoOptions demo = demoOf(options);
-    refuseExisting(options.place(0));
-    fill(options.place(0), demo);
+    refuseExisting(options.argument(0));
+    fill(options.argument(0), demo);
     sayPeople(demo);
     return Exit::Done;
 }
 
 constexpr std::array demoOptions{
-    OptionText{u"people", u"N", u"number of people, 1 to 3600; 12 without it"},
-    OptionText{u"sections", u"N", u"number of sections, 1 to 200; 3 without it"},
-    OptionText{u"months", u"N", u"whole months of cards before the current one, 0 to 240; 4 without it"},
-    OptionText{u"seed", u"N", u"another number makes another company"},
-    OptionText{u"until", u"yyyy/mm/dd", u"the day before which the cards end; today without it"},
-    OptionText{u"flexible", u"", u"a company with flexible working time"},
+    OptionText{.name = u"people", .value = u"N", .text = u"number of people, 1 to 3600; 12 without it"},
+    OptionText{.name = u"sections", .value = u"N", .text = u"number of sections, 1 to 200; 3 without it"},
+    OptionText{.name = u"months",
+               .value = u"N",
+               .text = u"whole months of cards before the current one, 0 to 240; 4 without it"},
+    OptionText{.name = u"seed", .value = u"N", .text = u"another number makes another company"},
+    OptionText{
+        .name = u"until", .value = u"yyyy/mm/dd", .text = u"the day before which the cards end; today without it"},
+    OptionText{.name = u"flexible", .text = u"a company with flexible working time"},
 };
 
 } // namespace
@@ -63,7 +66,7 @@ constexpr std::array demoOptions{
 const Command demoCommand{
     .name = u"demo",
     .run = runDemo,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Makes a database with a believable company.",
     .more = u"Prints section, code, name, password and role of its people, parted by tabs.\n"
             u"The same options make the same company. A file that is there already is refused.",

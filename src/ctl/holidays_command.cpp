@@ -9,14 +9,14 @@ namespace {
 
 Exit runHolidays(const Options& options) {
     const int year = options.number(QStringLiteral("year"), firstHolidayYear, firstHolidayYear, lastHolidayYear);
-    if (!options.has(QStringLiteral("overwrite"))) refuseExisting(options.place(0));
-    replaceFile(chosenFile(options.place(0)), holidayFileOf(year));
+    if (!options.has(QStringLiteral("overwrite"))) refuseExisting(options.argument(0));
+    replaceFile(chosenFile(options.argument(0)), holidayFileOf(year));
     return Exit::Done;
 }
 
 constexpr std::array holidaysOptions{
-    OptionText{u"year", u"YYYY", u"2022 to 2099", true},
-    OptionText{u"overwrite", u"", u"replaces a file that is there"},
+    OptionText{.name = u"year", .value = u"YYYY", .text = u"2022 to 2099", .needed = true},
+    OptionText{.name = u"overwrite", .text = u"replaces a file that is there"},
 };
 
 } // namespace
@@ -24,7 +24,7 @@ constexpr std::array holidaysOptions{
 const Command holidaysCommand{
     .name = u"holidays",
     .run = runHolidays,
-    .places = u"Holiday.txt",
+    .arguments = u"Holiday.txt",
     .summary = u"Writes the public holidays of a year, as the calendar window reads them.",
     .more = u"A file that is there already is refused without --overwrite.",
     .options = holidaysOptions,

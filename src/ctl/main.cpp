@@ -61,12 +61,12 @@ Exit runNamed(const QStringList& arguments) {
     return Exit::WrongUse;
 }
 
-// What the toolkit misses about the session matters only on a display.
+// Warnings of the toolkit about a missing desktop are of no use here.
 void passOver(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg) complain(text);
 }
 
-// Letters are drawn without a display; the other commands start without all that.
+// Only the report draws letters, without a display; the other commands start faster without the graphics.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
     if (argc < 2 || QByteArrayView(argv[1]) != "report") return std::make_unique<QCoreApplication>(argc, argv);
     qInstallMessageHandler(passOver);

@@ -34,9 +34,9 @@ MoveOrder orderOf(const Options& options) {
 
 // Nobody is asked here, so what people still need moves only when told so.
 void refuseRunning(const Options& options, const MoveOrder& order, Day today) {
-    if (options.has(QStringLiteral("running")) || !QFileInfo::exists(options.place(0))) return;
+    if (options.has(QStringLiteral("running")) || !QFileInfo::exists(options.argument(0))) return;
     Connection connection;
-    connection.openAlone(options.place(0), databasePassword());
+    connection.openAlone(options.argument(0), databasePassword());
     const QString text = runningDaysText(connection, order, today);
     if (!text.isEmpty()) throw Complaint(lines(text, QStringLiteral("移動するには --running を指定して下さい。")));
 }
@@ -44,29 +44,33 @@ void refuseRunning(const Options& options, const MoveOrder& order, Day today) {
 Exit runMove(const Options& options) {
     const MoveOrder order = orderOf(options);
     const Console console(options);
-    const QString database = options.place(0);
+    const QString database = options.argument(0);
     checkMove(console.context(), database, order);
     refuseRunning(options, order, console.context().clock.today());
     // A killed move has left it, and nobody holds it.
     LockFile::removeStale(realPath(database));
     Connection none;
-    const QString word = carryOut(console.context(), none, database, order);
-    if (word == u"OK") {
+    const OptimizeResult result = carryOut(console.context(), none, database, order);
+    if (result == OptimizeResult::OK) {
         say(QStringLiteral("データ移動が完了しました。"));
         return Exit::Done;
     }
-    if (word == u"Error") return Exit::Fault;
-    complain(word);
+    if (result == OptimizeResult::Error) return Exit::Fault;
+    complain(wordOf(result));
     return Exit::Refused;
 }
 
 constexpr std::array moveOptions{
-    OptionText{u"dest", u"DEST.mdb", u"the database that gets the days; an older one keeps a name with .old", true},
-    OptionText{u"from", u"yyyy/mm/dd", u"first day", true},
-    OptionText{u"to", u"yyyy/mm/dd", u"last day", true},
-    OptionText{u"month-from", u"yyyy/mm", u"first of the saved months that move as well"},
-    OptionText{u"month-to", u"yyyy/mm", u"last of them"},
-    OptionText{u"running", u"", u"also days of a closing period that still runs; nobody can punch on them then"},
+    OptionText{.name = u"dest",
+               .value = u"DEST.mdb",
+               .text = u"the database that gets the days; an older one keeps a name with .old",
+               .needed = true},
+    OptionText{.name = u"from", .value = u"yyyy/mm/dd", .text = u"first day", .needed = true},
+    OptionText{.name = u"to", .value = u"yyyy/mm/dd", .text = u"last day", .needed = true},
+    OptionText{.name = u"month-from", .value = u"yyyy/mm", .text = u"first of the saved months that move as well"},
+    OptionText{.name = u"month-to", .value = u"yyyy/mm", .text = u"last of them"},
+    OptionText{.name = u"running",
+               .text = u"also days of a closing period that still runs; nobody can punch on them then"},
 };
 
 } // namespace
@@ -74,7 +78,7 @@ constexpr std::array moveOptions{
 const Command moveCommand{
     .name = u"move",
     .run = runMove,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Moves old days, with their cards and outings, to a database of their own.",
     .more = u"At least 31 days lie between the first and the last. Without the two months the saved months stay.\n"
             u"It needs the database for itself, can't be undone, and leaves every day in one of both files, whatever\n"

@@ -9,8 +9,8 @@ namespace kurbo {
 namespace {
 
 Exit runNew(const Options& options) {
-    refuseExisting(options.place(0));
-    createDatabase(options.place(0));
+    refuseExisting(options.argument(0));
+    createDatabase(options.argument(0));
     return Exit::Done;
 }
 
@@ -19,7 +19,7 @@ Exit runNew(const Options& options) {
 const Command newCommand{
     .name = u"new",
     .run = runNew,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Makes an empty database.",
     .more = u"It has the reserved records and the administrator's password ADMIN.\n"
             u"A file that is there already is refused.",

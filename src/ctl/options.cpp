@@ -9,9 +9,9 @@ Options::Options(const Command& command, const QStringList& arguments) {
     add(commonOptions());
     add(command.options);
     if (!parser_.parse(QStringList(QStringLiteral("kurboctl")) + arguments)) throw WrongUse{parser_.errorText()};
-    const qsizetype places = command.placeCount();
-    if (parser_.positionalArguments().size() < places) throw WrongUse{QStringLiteral("an argument is missing")};
-    if (!command.takesMorePlaces() && !placesFrom(places).isEmpty())
+    const qsizetype expected = command.argumentCount();
+    if (parser_.positionalArguments().size() < expected) throw WrongUse{QStringLiteral("an argument is missing")};
+    if (!command.takesMoreArguments() && !argumentsFrom(expected).isEmpty())
         throw WrongUse{QStringLiteral("too many arguments: ") + parser_.positionalArguments().last()};
     for (const OptionText& option : command.options)
         if (option.needed) (void)needed(QString::fromUtf16(option.name));

@@ -21,8 +21,8 @@ class Options final {
     // Throws WrongUse when they aren't those of the command.
     Options(const Command& command, const QStringList& arguments);
 
-    [[nodiscard]] QString place(qsizetype index) const { return parser_.positionalArguments().at(index); }
-    [[nodiscard]] QStringList placesFrom(qsizetype index) const { return parser_.positionalArguments().mid(index); }
+    [[nodiscard]] QString argument(qsizetype index) const { return parser_.positionalArguments().at(index); }
+    [[nodiscard]] QStringList argumentsFrom(qsizetype index) const { return parser_.positionalArguments().mid(index); }
     [[nodiscard]] bool has(const QString& name) const { return parser_.isSet(name); }
     [[nodiscard]] QString value(const QString& name) const { return parser_.value(name); }
     // The value of an option that has to be there. Throws WrongUse.

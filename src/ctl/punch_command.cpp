@@ -16,8 +16,12 @@ struct Word {
     Punch punch;
 };
 
-constexpr std::array words{Word{u"enter", Punch::Enter}, Word{u"leave", Punch::Leave}, Word{u"out", Punch::Out},
-                           Word{u"in", Punch::In}};
+constexpr std::array words{
+    Word{.word = u"enter", .punch = Punch::Enter},
+    Word{.word = u"leave", .punch = Punch::Leave},
+    Word{.word = u"out", .punch = Punch::Out},
+    Word{.word = u"in", .punch = Punch::In},
+};
 
 Punch punchNamed(const QString& name) {
     const auto found = std::ranges::find_if(words, [&](const Word& word) { return name == QStringView(word.word); });
@@ -55,7 +59,7 @@ QString sectionOf(Connection& connection, const QString& staff) {
 Exit logInAndPunch(const Console& console, const Options& options, const QString& password, Punch kind) {
     const QString staff = options.value(QStringLiteral("staff"));
     Client client(console.context());
-    client.DbPath = options.place(0);
+    client.DbPath = options.argument(0);
     client.openHome();
     Login login(client);
     const Credentials credentials{sectionOf(client.HomeConnection, staff), staff, password};
@@ -66,7 +70,7 @@ Exit logInAndPunch(const Console& console, const Options& options, const QString
 }
 
 Exit runPunch(const Options& options) {
-    const Punch kind = punchNamed(options.place(1));
+    const Punch kind = punchNamed(options.argument(1));
     const QString password = passwordOf(options);
     const Console console(options, continuedAnswer(options));
     try {
@@ -78,9 +82,13 @@ Exit runPunch(const Options& options) {
 }
 
 constexpr std::array punchOptions{
-    OptionText{u"staff", u"CODE", u"the person", true},
-    OptionText{u"password", u"PW|-", u"the password, or - to read it from the first line of standard input"},
-    OptionText{u"continued", u"yes|no", u"answers the question whether a day that is still open goes on"},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"the person", .needed = true},
+    OptionText{.name = u"password",
+               .value = u"PW|-",
+               .text = u"the password, or - to read it from the first line of standard input"},
+    OptionText{.name = u"continued",
+               .value = u"yes|no",
+               .text = u"answers the question whether a day that is still open goes on"},
 };
 
 } // namespace
@@ -88,7 +96,7 @@ constexpr std::array punchOptions{
 const Command punchCommand{
     .name = u"punch",
     .run = runPunch,
-    .places = u"FILE enter|leave|out|in",
+    .arguments = u"FILE enter|leave|out|in",
     .summary = u"Punches for a person as the window does, with the same messages.",
     .more = u"Without --password the environment variable KURBO_PASSWORD holds the password. One that stands on the\n"
             u"command line is seen by whoever may list the processes.\n"

@@ -66,13 +66,13 @@ const Kind& kindNamed(const QString& name) {
 }
 
 Exit runReport(const Options& options) {
-    const Kind& kind = kindNamed(options.place(1));
+    const Kind& kind = kindNamed(options.argument(1));
     const QString out = options.needed(QStringLiteral("out"));
     if (out.isEmpty()) throw WrongUse{QStringLiteral("--out takes the name of a file")};
-    if (isSameFile(out, options.place(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
+    if (isSameFile(out, options.argument(0))) throw WrongUse{QStringLiteral("--out is the database itself")};
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     const auto [document, whole] = kind.make(console.context(), connection, options);
     connection.close();
     if (!document || !writePdf(*document, out, console.context().progress)) return console.refused();
@@ -81,13 +81,13 @@ Exit runReport(const Options& options) {
 }
 
 constexpr std::array reportOptions{
-    OptionText{u"out", u"X.pdf", u"the PDF file, replaced when it is there", true},
-    OptionText{u"staff", u"CODE", u"the person"},
-    OptionText{u"section", u"CODE", u"the section, of totals"},
-    OptionText{u"month", u"yyyy/mm", u"the month in which the period ends, of card and goout"},
-    OptionText{u"from", u"yyyy/mm/dd", u"first day, or first month of totals"},
-    OptionText{u"to", u"yyyy/mm/dd", u"last day, or last month of totals"},
-    OptionText{u"by", u"staff|month", u"the order of the rows, of totals; staff without it"},
+    OptionText{.name = u"out", .value = u"X.pdf", .text = u"the PDF file, replaced when it is there", .needed = true},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"the person"},
+    OptionText{.name = u"section", .value = u"CODE", .text = u"the section, of totals"},
+    OptionText{.name = u"month", .value = u"yyyy/mm", .text = u"the month in which the period ends, of card and goout"},
+    OptionText{.name = u"from", .value = u"yyyy/mm/dd", .text = u"first day, or first month of totals"},
+    OptionText{.name = u"to", .value = u"yyyy/mm/dd", .text = u"last day, or last month of totals"},
+    OptionText{.name = u"by", .value = u"staff|month", .text = u"the order of the rows, of totals; staff without it"},
 };
 
 } // namespace
@@ -95,7 +95,7 @@ constexpr std::array reportOptions{
 const Command reportCommand{
     .name = u"report",
     .run = runReport,
-    .places = u"FILE card|totals|goout",
+    .arguments = u"FILE card|totals|goout",
     .summary = u"Writes a report as a PDF file.",
     .more = u"card and goout (a person's outings) take the options of card, totals those of totals.",
     .options = reportOptions,

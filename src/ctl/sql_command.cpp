@@ -39,7 +39,7 @@ Exit runSql(const Options& options) {
     const QStringList statements = splitStatements(standardInput());
     const auto reads = [](const QString& statement) { return translated(statement).reads; };
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     // A question alone also works where nothing can be written.
     if (std::ranges::all_of(statements, reads)) {
         const Reading reading(connection);
@@ -57,7 +57,7 @@ Exit runSql(const Options& options) {
 const Command sqlCommand{
     .name = u"sql",
     .run = runSql,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Runs the statements of standard input and prints the rows of those that read.",
     .more = u"They are in the dialect of the system and in UTF-8, each ended by a semicolon, and are one transaction.",
     .options = {},

@@ -10,7 +10,7 @@
 namespace kurbo {
 namespace {
 
-// Without the signs of the alignment.
+// "^" is the grid's sign for a centred column.
 QStringList plainHeadings(bool byStaff) {
     return totalHeadings(byStaff).remove(u'^').split(u'|');
 }
@@ -27,7 +27,7 @@ Exit runTotals(const Options& options) {
     const TotalsQuestion question = askedTotals(options);
     const Console console(options);
     Connection connection;
-    connection.open(options.place(0), databasePassword());
+    connection.open(options.argument(0), databasePassword());
     (void)askedPeople(connection, question);
     const auto totals = calculateTotals(console.context(), connection, question);
     if (!totals) return console.refused();
@@ -36,11 +36,11 @@ Exit runTotals(const Options& options) {
 }
 
 constexpr std::array totalsOptions{
-    OptionText{u"from", u"yyyy/mm", u"first month", true},
-    OptionText{u"to", u"yyyy/mm", u"last month", true},
-    OptionText{u"section", u"CODE", u"the people shown in a section; this or --staff"},
-    OptionText{u"staff", u"CODE", u"one person"},
-    OptionText{u"by", u"staff|month", u"the order of the rows; staff without it"},
+    OptionText{.name = u"from", .value = u"yyyy/mm", .text = u"first month", .needed = true},
+    OptionText{.name = u"to", .value = u"yyyy/mm", .text = u"last month", .needed = true},
+    OptionText{.name = u"section", .value = u"CODE", .text = u"the people shown in a section; this or --staff"},
+    OptionText{.name = u"staff", .value = u"CODE", .text = u"one person"},
+    OptionText{.name = u"by", .value = u"staff|month", .text = u"the order of the rows; staff without it"},
 };
 
 } // namespace
@@ -48,7 +48,7 @@ constexpr std::array totalsOptions{
 const Command totalsCommand{
     .name = u"totals",
     .run = runTotals,
-    .places = u"FILE",
+    .arguments = u"FILE",
     .summary = u"Prints the months of a section's people, or of one person.",
     .more = u"Saved months stand as they were saved, the others are calculated. When the rules of somebody are at "
             u"fault, the\n"

@@ -18,7 +18,7 @@ int overlap(const Stay& stay, const WorkBand& band, int date) {
     return std::max(end - start, 0);
 }
 
-int overlapOn(const Stay& stay, const BandList& bands, int date) {
+int overlapOn(const Stay& stay, const WorkBands& bands, int date) {
     int seconds = 0;
     for (const WorkBand& band : bands)
         if (band.inUse()) seconds += overlap(stay, band, date);
@@ -26,7 +26,7 @@ int overlapOn(const Stay& stay, const BandList& bands, int date) {
 }
 
 // On the day itself and on the next, in minutes.
-int minutesIn(const Stay& stay, const BandList& bands) {
+int minutesIn(const Stay& stay, const WorkBands& bands) {
     return (overlapOn(stay, bands, 0) + overlapOn(stay, bands, 1)) / 60;
 }
 
@@ -84,7 +84,7 @@ void addHoliday(MonthFigures& month, const Style& style, const Stay& stay, bool 
     if (work + late > 0) ++month.workDays;
 }
 
-// A half day is missed within the weekday's hours.
+// Who misses a half day misses its part of the weekday's hours.
 void addAbsence(MonthFigures& month, const Style& style, const Style& weekday) {
     ++month.absentDays;
     month.of(Figure::Absent) += workMinutes(business(weekday), style);
@@ -135,10 +135,15 @@ MonthFigures finalFigures(MonthFigures month, bool flexible, Adjust adjust) {
     if (flexible)
         for (int& minutes : month.minutes) minutes -= minutes % roundUnit;
     const Limits& limits = limitsOf(adjust);
-    for (std::size_t i = 0; i < limits.size(); ++i) {
-        int& minutes = month.minutes[i + static_cast<std::size_t>(Figure::LegalOver)];
-        minutes = std::min(minutes, limits[i].value_or(minutes));
-    }
+    for (const auto& [figure, limit] : {std::pair{Figure::LegalOver, limits.legalOver},
+                                        {Figure::Over, limits.over},
+                                        {Figure::Late, limits.late},
+                                        {Figure::Early, limits.early},
+                                        {Figure::Holiday, limits.holiday},
+                                        {Figure::HolidayLate, limits.holidayLate},
+                                        {Figure::LegalHoliday, limits.legalHoliday},
+                                        {Figure::LegalLate, limits.legalLate}})
+        month.of(figure) = std::min(month.of(figure), limit.value_or(month.of(figure)));
     return month;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/demo_rules.h"
+#include "demo/demo_styles.h"
 
 #include <array>
 

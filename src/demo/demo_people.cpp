@@ -9,25 +9,25 @@ using namespace std::chrono;
 namespace kurbo {
 namespace {
 
-struct Place {
+struct Address {
     QStringView zipCode;
     QStringView prefecture;
-    QStringView address;
+    QStringView street;
 };
 
-constexpr std::array places{
-    Place{u"101-0021", u"東京都", u"千代田区外神田"},
-    Place{u"141-0022", u"東京都", u"品川区東五反田"},
-    Place{u"171-0022", u"東京都", u"豊島区南池袋"},
-    Place{u"180-0004", u"東京都", u"武蔵野市吉祥寺本町"},
-    Place{u"192-0081", u"東京都", u"八王子市横山町"},
-    Place{u"220-0004", u"神奈川県", u"横浜市西区北幸"},
-    Place{u"210-0006", u"神奈川県", u"川崎市川崎区砂子"},
-    Place{u"252-0231", u"神奈川県", u"相模原市中央区相模原"},
-    Place{u"330-0854", u"埼玉県", u"さいたま市大宮区桜木町"},
-    Place{u"332-0017", u"埼玉県", u"川口市栄町"},
-    Place{u"273-0005", u"千葉県", u"船橋市本町"},
-    Place{u"272-0021", u"千葉県", u"市川市八幡"},
+constexpr std::array addresses{
+    Address{.zipCode = u"101-0021", .prefecture = u"東京都", .street = u"千代田区外神田"},
+    Address{.zipCode = u"141-0022", .prefecture = u"東京都", .street = u"品川区東五反田"},
+    Address{.zipCode = u"171-0022", .prefecture = u"東京都", .street = u"豊島区南池袋"},
+    Address{.zipCode = u"180-0004", .prefecture = u"東京都", .street = u"武蔵野市吉祥寺本町"},
+    Address{.zipCode = u"192-0081", .prefecture = u"東京都", .street = u"八王子市横山町"},
+    Address{.zipCode = u"220-0004", .prefecture = u"神奈川県", .street = u"横浜市西区北幸"},
+    Address{.zipCode = u"210-0006", .prefecture = u"神奈川県", .street = u"川崎市川崎区砂子"},
+    Address{.zipCode = u"252-0231", .prefecture = u"神奈川県", .street = u"相模原市中央区相模原"},
+    Address{.zipCode = u"330-0854", .prefecture = u"埼玉県", .street = u"さいたま市大宮区桜木町"},
+    Address{.zipCode = u"332-0017", .prefecture = u"埼玉県", .street = u"川口市栄町"},
+    Address{.zipCode = u"273-0005", .prefecture = u"千葉県", .street = u"船橋市本町"},
+    Address{.zipCode = u"272-0021", .prefecture = u"千葉県", .street = u"市川市八幡"},
 };
 
 // The third of three departments works in shifts; in a smaller company the last one does.
@@ -132,7 +132,7 @@ void writeSections(Connection& connection, const std::vector<DemoSection>& secti
 }
 
 void writePerson(Connection& connection, const Person& person, const QString& section, int order, Dice& dice) {
-    const Place& place = places[static_cast<std::size_t>(dice.below(static_cast<int>(places.size())))];
+    const Address& home = addresses[static_cast<std::size_t>(dice.below(static_cast<int>(addresses.size())))];
     const QString number =
         QStringLiteral("%1-%2-%3").arg(dice.between(1, 5)).arg(dice.between(1, 20)).arg(dice.between(1, 15));
     const Value rooms = dice.oneIn(2)
@@ -142,8 +142,8 @@ void writePerson(Connection& connection, const Person& person, const QString& se
         QStringLiteral("INSERT INTO C03_Staff (F_StaffCode, F_StaffName, F_Kana, F_Section, F_ZipCode, F_Pref, "
                        "F_Address1, F_Address2, F_Tel, F_HPhone, F_EMail, F_Birth, F_Sex, F_Join, F_Retire, F_Order, "
                        "F_Display) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-        {person.code, person.name, person.kana, section, place.zipCode.toString(), place.prefecture.toString(),
-         place.address.toString() + number, rooms, QStringLiteral("03-0000-%1").arg(person.code),
+        {person.code, person.name, person.kana, section, home.zipCode.toString(), home.prefecture.toString(),
+         home.street.toString() + number, rooms, QStringLiteral("03-0000-%1").arg(person.code),
          QStringLiteral("090-0000-%1").arg(person.code), QStringLiteral("s%1@kurbo.example").arg(person.code),
          person.birth, person.woman ? 1 : 0, person.join, person.retire ? Value(*person.retire) : Value(), order,
          Value::yesNo(!person.retire)});

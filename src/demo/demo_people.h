@@ -1,7 +1,7 @@
 #pragma once
 
 #include "demo/demo_names.h"
-#include "demo/demo_rules.h"
+#include "demo/demo_styles.h"
 #include "demo/dice.h"
 #include "store/connection.h"
 

@@ -15,9 +15,9 @@ struct NewRow {
         values.append(value);
     }
     void insertInto(Connection& connection, const QString& table) const {
-        const QStringList places(values.size(), QStringLiteral("?"));
+        const QStringList placeholders(values.size(), QStringLiteral("?"));
         connection.execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                               .arg(table, fields.join(QStringLiteral(", ")), places.join(QStringLiteral(", "))),
+                               .arg(table, fields.join(QStringLiteral(", ")), placeholders.join(QStringLiteral(", "))),
                            values);
     }
 };
@@ -57,7 +57,7 @@ QString clockOf(int minutes) {
     return QStringLiteral("%1:%2").arg(minutes / 60 % 24, 2, 10, QChar(u'0')).arg(minutes % 60, 2, 10, QChar(u'0'));
 }
 
-void setBands(NewRow& row, const QString& word, const BandList& bands) {
+void setBands(NewRow& row, const QString& word, const WorkBands& bands) {
     for (std::size_t i = 0; i < bands.size() && bands[i].inUse(); ++i) {
         row.set(QStringLiteral("F_Start%1%2").arg(word).arg(i), clockOf(bands[i].start));
         row.set(QStringLiteral("F_End%1%2").arg(word).arg(i), clockOf(bands[i].end));
@@ -89,16 +89,19 @@ void writeStyles(Connection& connection, bool flexible, Shift shift, int code) {
 }
 
 void writeLimits(Connection& connection, Adjust adjust, const QString& name) {
-    static const QStringList fields{QStringLiteral("F_LegalOver"),    QStringLiteral("F_Over"),
-                                    QStringLiteral("F_Late"),         QStringLiteral("F_Early"),
-                                    QStringLiteral("F_Holiday"),      QStringLiteral("F_HolidayLate"),
-                                    QStringLiteral("F_LegalHoliday"), QStringLiteral("F_LegalLate")};
     const Limits& limits = limitsOf(adjust);
     NewRow row;
     row.set(QStringLiteral("F_AdjustCode"), static_cast<int>(adjust));
     row.set(QStringLiteral("F_AdjustName"), name);
-    for (std::size_t i = 0; i < limits.size(); ++i)
-        if (limits[i]) row.set(fields[static_cast<qsizetype>(i)], *limits[i]);
+    for (const auto& [field, limit] : {std::pair{u"F_LegalOver", limits.legalOver},
+                                       {u"F_Over", limits.over},
+                                       {u"F_Late", limits.late},
+                                       {u"F_Early", limits.early},
+                                       {u"F_Holiday", limits.holiday},
+                                       {u"F_HolidayLate", limits.holidayLate},
+                                       {u"F_LegalHoliday", limits.legalHoliday},
+                                       {u"F_LegalLate", limits.legalLate}})
+        if (limit) row.set(QString::fromUtf16(field), *limit);
     row.insertInto(connection, QStringLiteral("M07_AdjustHours"));
 }
 

@@ -4,7 +4,7 @@
 
 namespace kurbo {
 
-// The company's rules: work style, band sets 1 (day) and 2 (night), limits and access rights.
+// The company's settings: work style, band sets 1 (day) and 2 (night), limits and access rights.
 void writeSettings(Connection& connection, bool flexible, const std::vector<DemoSection>& sections);
 
 } // namespace kurbo

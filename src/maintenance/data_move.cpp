@@ -5,7 +5,6 @@
 #include "maintenance/move_bar.h"
 #include "store/file/database_copy.h"
 #include "store/file/database_file.h"
-#include "store/file/optimize_db.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -49,13 +48,14 @@ class ClosedMeanwhile final {
                            QString::fromUtf16(advice)));
 }
 
-// Throws where the compaction's word has a message.
-void explain(const QString& word, const QString& database) {
-    // The lock file of a client that is there tells of a user; one that a crash has left tells of nobody.
-    if (word == u"Opened" || (word == u"ExistLdb" && LockFile::isHeld(database))) throw inUse();
-    if (word == u"NoFile" || word == u"NoPath")
+// Throws where the compaction's result has a message.
+void explain(OptimizeResult result, const QString& database) {
+    // A lock file that nobody holds was left by a crash.
+    if (result == OptimizeResult::Opened || (result == OptimizeResult::ExistLdb && LockFile::isHeld(database)))
+        throw inUse();
+    if (result == OptimizeResult::NoFile || result == OptimizeResult::NoPath)
         throw unreachable(database, u" が見つかりません。", u"データベースファイルの保存場所を確認して下さい。");
-    if (word == u"NoDrive")
+    if (result == OptimizeResult::NoDrive)
         throw unreachable(database, u" が置かれたドライブの準備ができていません。",
                           u"データベースファイルが置かれたドライブの状態を確認して下さい。");
 }
@@ -91,7 +91,7 @@ class Destination final {
         DeleteApprovedRange(change, order.withMonths ? *order.startMonth : *order.startDay,
                             order.withMonths ? *order.endMonth : *order.endDay, true);
         change.commit();
-        // The compaction has looked at the values a moment ago; the pages are new.
+        // The compaction has just checked the values, so that here only the structure of the file is looked at.
         copy.engine("PRAGMA ignore_check_constraints=ON");
         requireWhole(copy);
     }
@@ -145,26 +145,22 @@ QString questionOf(const MoveOrder& order, const QString& running) {
                                  slashDate(*order.endMonth).left(monthLength)));
     text = lines(text, QStringLiteral("移動先：") + order.destination.trimmed());
     if (!running.isEmpty()) text = lines(text, QString(), running);
-    return lines(text, QString(), QStringLiteral("よろしいですか？"));
-}
-
-bool confirmed(Prompts& prompts, const QString& question) {
-    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) == Answer::Ok;
+    return text;
 }
 
 } // namespace
 
-QString carryOut(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
+OptimizeResult carryOut(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
     MoveBar bar(context.progress, QFileInfo(database).size());
     const auto notice = [&bar] { bar.creep(); };
     bar.reach(10, 40);
     Destination destination(order.destination.trimmed());
     const ClosedMeanwhile closed(shared);
     LockFile lock;
-    const QString word = OptimizeDB(context, database, databasePassword(), lock, notice);
-    if (word != u"OK") {
-        explain(word, database);
-        return word;
+    const OptimizeResult result = OptimizeDB(context, database, databasePassword(), lock, notice);
+    if (result != OptimizeResult::OK) {
+        explain(result, database);
+        return result;
     }
     Connection source;
     source.openAlone(database, databasePassword());
@@ -178,14 +174,16 @@ QString carryOut(const Context& context, Connection& shared, const QString& data
     bar.reach(80, 100);
     removeMoved(source, order, notice);
     bar.reach(100, 100);
-    return word;
+    return result;
 }
 
 bool moveData(const Context& context, Connection& shared, const QString& database, const MoveOrder& order) {
     return guarded(context, u"frmMaintainance", u"cmdExec_Click", false, [&] {
         checkMove(context, database, order);
         const QString question = questionOf(order, runningDaysText(shared, order, context.clock.today()));
-        if (!confirmed(context.prompts, question) || carryOut(context, shared, database, order) != u"OK") return false;
+        if (!context.prompts.sure(question, Answer::Cancel) ||
+            carryOut(context, shared, database, order) != OptimizeResult::OK)
+            return false;
         context.prompts.inform(QStringLiteral("データ移動が完了しました。"));
         return true;
     });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "maintenance/move_order.h"
+#include "store/file/optimize_db.h"
 
 namespace kurbo {
 
@@ -11,10 +12,10 @@ namespace kurbo {
 // beside its place, checked and put there in one step before the database is touched; then the days leave the database
 // and its card rows are renumbered in one transaction. So a failure at any time leaves every day in one of both files.
 //
-// Gives "OK", or another word of OptimizeDB where that alone stops the move and there is no message (an "Error" has
+// Gives OK, or another result of the compaction where that alone stops the move and there is no message (an Error has
 // been reported). Throws a Complaint or a Fault otherwise.
-[[nodiscard]] QString carryOut(const Context& context, Connection& shared, const QString& database,
-                               const MoveOrder& order);
+[[nodiscard]] OptimizeResult carryOut(const Context& context, Connection& shared, const QString& database,
+                                      const MoveOrder& order);
 
 // The whole command: the checks, the question, the move and the notice at its end. True when the days have moved; every
 // failure has been told.

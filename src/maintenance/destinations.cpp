@@ -50,12 +50,12 @@ void fill(GridModel& grid, const QList<QStringList>& found, const QString& names
 } // namespace
 
 bool ShowDestination(const Context& context, Connection& connection, const QString& user, GridModel& grid) {
-    const QString names =
+    const auto names =
         VfgComboList(context, connection, QStringLiteral("SELECT F_StaffCode, F_StaffName FROM C03_Staff;"),
                      QStringLiteral("F_StaffName"), QStringLiteral("F_StaffCode"), false);
-    if (names == u"ERROR") return false;
+    if (!names) return false;
     return guarded(context, module, u"ShowDestination", false, [&] {
-        fill(grid, unusedDestinations(connection, user), names, isAdminCode(user));
+        fill(grid, unusedDestinations(connection, user), *names, isAdminCode(user));
         return true;
     });
 }
@@ -86,9 +86,7 @@ std::optional<RowSpan> DestinationList::chosenRows(RowSpan selected) const {
 
 bool DestinationList::remove(RowSpan rows) {
     Prompts& prompts = client_.context.prompts;
-    const QString question = lines(QStringLiteral("選択した外出先を削除します。削除した外出先は復活できません。"),
-                                   QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return false;
+    if (!prompts.sure(QStringLiteral("選択した外出先を削除します。削除した外出先は復活できません。"))) return false;
     const bool gone = DeleteDestination(client_.context, client_.HomeConnection, grid, rows);
     if (gone)
         (void)show();

@@ -196,7 +196,9 @@ void loadDay(Connection& connection, const DayTable& table, clsWorkTime& rules, 
         complain(QStringLiteral("平日勤務時間設定に不備があります。"), timeAdvice());
 }
 
-QString styleStatement() {
+} // namespace
+
+QString companyStyleStatement() {
     return QStringLiteral(
                "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, "
                "F_PmFlex, "
@@ -205,11 +207,9 @@ QString styleStatement() {
            switchFields() + QStringLiteral(" FROM M01_CorpInfo;");
 }
 
-} // namespace
-
 void readCompanyStyle(Connection& connection, clsWorkTime& rules) {
     const QString fault = QStringLiteral("勤務形態設定に不備があります。");
-    const RecordSet set(connection, styleStatement());
+    const RecordSet set(connection, companyStyleStatement());
     if (set.isEmpty()) complain(fault, styleAdvice());
     readStyle(Row(set, fault, styleAdvice()), rules);
     readRounding(Row(set, QStringLiteral("時間計算方法設定に不備があります。"), styleAdvice()), rules);

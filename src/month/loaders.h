@@ -18,6 +18,9 @@ namespace kurbo {
 [[nodiscard]] bool GetWorkTime(const Context& context, Connection& connection, clsWorkTime& rules,
                                const QString& staff);
 
+// The statement that reads the company's work style: one row, all of its fields.
+[[nodiscard]] QString companyStyleStatement();
+
 // The three without a report; they throw.
 void readCompanyStyle(Connection& connection, clsWorkTime& rules);
 void readStaffInfo(Connection& connection, clsWorkTime& rules, const QString& staff);

@@ -162,7 +162,7 @@ PaperItem GridPages::placed(const Column& column, int left, int top) const {
 
 void GridPages::addHeadings(PaperPage& page, const Band& band, int top) const {
     for (std::size_t row = 0; row < headings_.size(); ++row)
-        for (std::size_t place = 0; place < band.size(); ++place) addHeading(page, band, row, place, top);
+        for (std::size_t index = 0; index < band.size(); ++index) addHeading(page, band, row, index, top);
 }
 
 bool GridPages::areOne(std::size_t row, std::size_t column, std::size_t otherRow, std::size_t otherColumn) const {
@@ -171,14 +171,14 @@ bool GridPages::areOne(std::size_t row, std::size_t column, std::size_t otherRow
 }
 
 // Merged cells are drawn once, as large as they are together, by their first one.
-void GridPages::addHeading(PaperPage& page, const Band& band, std::size_t row, std::size_t place, int top) const {
-    const std::size_t column = band[place];
-    if (place > 0 && areOne(row, column, row, band[place - 1])) return;
+void GridPages::addHeading(PaperPage& page, const Band& band, std::size_t row, std::size_t index, int top) const {
+    const std::size_t column = band[index];
+    if (index > 0 && areOne(row, column, row, band[index - 1])) return;
     if (row > 0 && areOne(row, column, row - 1, column)) return;
     int left = paperMargin;
-    for (std::size_t before = 0; before < place; ++before) left += fit(columns_[band[before]].width);
+    for (std::size_t before = 0; before < index; ++before) left += fit(columns_[band[before]].width);
     PaperItem item = placed(columns_[column], left, top + static_cast<int>(row) * fit(lineHeight));
-    for (std::size_t next = place + 1; next < band.size() && areOne(row, column, row, band[next]); ++next)
+    for (std::size_t next = index + 1; next < band.size() && areOne(row, column, row, band[next]); ++next)
         item.width += fit(columns_[band[next]].width);
     for (std::size_t below = row + 1; below < headings_.size() && areOne(row, column, below, column); ++below)
         item.height += fit(lineHeight);

@@ -43,7 +43,7 @@ class GridPages final : public PaperDocument {
     [[nodiscard]] int linesOnPage() const;
     [[nodiscard]] PaperItem placed(const Column& column, int left, int top) const;
     void addHeadings(PaperPage& page, const Band& band, int top) const;
-    void addHeading(PaperPage& page, const Band& band, std::size_t row, std::size_t place, int top) const;
+    void addHeading(PaperPage& page, const Band& band, std::size_t row, std::size_t index, int top) const;
     [[nodiscard]] bool areOne(std::size_t row, std::size_t column, std::size_t otherRow, std::size_t otherColumn) const;
     void addLine(PaperPage& page, const Band& band, const Line& line, int top) const;
 

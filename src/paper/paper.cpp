@@ -6,7 +6,7 @@ namespace kurbo {
 namespace {
 
 constexpr int footerHeight = 260;
-constexpr GridColour quiet{90, 90, 90};
+constexpr GridColour quiet{.red = 90, .green = 90, .blue = 90};
 
 } // namespace
 

@@ -13,7 +13,7 @@ namespace {
 
 using Twins = QHash<char16_t, char16_t>;
 
-// What the code page knows by another name.
+// Characters that the code page holds as another one, which looks the same.
 struct Twin {
     char16_t name;
     char16_t letter;

@@ -39,8 +39,8 @@ int ReportRecords::fieldNamed(QStringView name) const {
 }
 
 QString ReportRecords::text(int record, QStringView field) const {
-    const int place = fieldNamed(field);
-    return place >= 0 && record >= 0 && record < count() ? text(record, place) : QString();
+    const int index = fieldNamed(field);
+    return index >= 0 && record >= 0 && record < count() ? text(record, index) : QString();
 }
 
 } // namespace kurbo

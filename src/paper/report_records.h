@@ -26,7 +26,7 @@ class ReportRecords final {
     [[nodiscard]] int count() const { return static_cast<int>(records_.size()); }
     // Empty for a field that there isn't, and behind the last record.
     [[nodiscard]] QString text(int record, QStringView field) const;
-    // By the field's place.
+    // By the field's index.
     [[nodiscard]] const QString& text(int record, int field) const { return records_.at(record).at(field); }
     // -1 for a field that there isn't.
     [[nodiscard]] int fieldNamed(QStringView name) const;

@@ -23,9 +23,9 @@ bool continues(const Context& context, const QString& date) {
         lines(date + QStringLiteral("の退社打刻がありません。"), date + QStringLiteral("からの継続勤務ですか？")));
 }
 
-PunchResult refuse(const Context& context, const StatusCode& status) {
-    context.prompts.exclaim(status.is(u"AE") ? QStringLiteral("既に出社打刻済です。打刻できません。")
-                                             : QStringLiteral("既に退社打刻済です。打刻できません。"));
+PunchResult refuse(const Context& context, const PunchState& state) {
+    context.prompts.exclaim(state.today == DayRow::Entered ? QStringLiteral("既に出社打刻済です。打刻できません。")
+                                                           : QStringLiteral("既に退社打刻済です。打刻できません。"));
     return PunchResult::Refused;
 }
 
@@ -67,40 +67,44 @@ struct Press {
     [[nodiscard]] PunchResult run(Punch kind) const {
         if (!hasCalendar(context, connection, dayOf(when))) return PunchResult::Stopped;
         const bool onCard = kind == Punch::Enter || kind == Punch::Leave;
-        const StatusCode status =
+        const auto state =
             onCard ? TimeCardStatus(context, connection, staff, when) : GetKurboID(context, connection, staff, when);
-        if (status.failed()) return PunchResult::Stopped;
-        if (kind == Punch::Enter) return enter(status);
-        return kind == Punch::Leave ? leave(status) : outOrIn(status, kind);
+        if (!state) return PunchResult::Stopped;
+        if (kind == Punch::Enter) return enter(*state);
+        return kind == Punch::Leave ? leave(*state) : outOrIn(*state, kind);
     }
 
-    [[nodiscard]] PunchResult enter(const StatusCode& status) const {
-        if (status.is(u"AE") || status.is(u"AL")) return refuse(context, status);
-        const bool newRow = status.is(u"NE") || status.is(u"ND") || status.is(u"NR");
-        return ended(RecordEnter(context, connection, staff, when, newRow, false));
+    [[nodiscard]] PunchResult enter(const PunchState& state) const {
+        if (state.today == DayRow::Entered || state.today == DayRow::Left) return refuse(context, state);
+        return ended(RecordEnter(context, connection, staff, when, state.today == DayRow::None, false));
     }
 
-    [[nodiscard]] PunchResult leave(const StatusCode& status) const {
-        if (status.is(u"AL")) return refuse(context, status);
-        const bool newRow = status.is(u"NE") || status.is(u"NR") || status.is(u"ND");
-        const QString day = newRow ? QString() : dateId(dayOf(when));
-        if (status.is(u"AE")) return ended(leaveOn(day));
-        const bool open = status.is(u"RD") || status.is(u"ND");
-        if (open && continues(context, status.date())) return ended(leaveOn(status.dateId()));
+    [[nodiscard]] PunchResult leave(const PunchState& state) const {
+        if (state.today == DayRow::Left) return refuse(context, state);
+        const QString day = state.today == DayRow::None ? QString() : dateId(dayOf(when));
+        if (state.today == DayRow::Entered) return ended(leaveOn(day));
+        if (goesOn(state)) return ended(leaveOn(state.open->dateId));
         if (!leaveOn(day)) return PunchResult::Stopped;
-        open ? warnNoLeave(context, status.date()) : warnNoEnter(context);
+        warnOfMissing(state);
         return PunchResult::Done;
     }
 
-    [[nodiscard]] PunchResult outOrIn(const StatusCode& status, Punch kind) const {
-        if (status.is(u"ID")) return ended(outing(kind, status.cardId()));
-        const bool open = status.is(u"ND");
-        if (open && continues(context, status.date())) return ended(outing(kind, status.cardId()));
+    [[nodiscard]] PunchResult outOrIn(const PunchState& state, Punch kind) const {
+        if (state.today != DayRow::None) return ended(outing(kind, state.cardId));
+        if (goesOn(state)) return ended(outing(kind, state.open->id));
         if (!RecordEnter(context, connection, staff, when, true, true)) return PunchResult::Stopped;
-        const StatusCode made = GetKurboID(context, connection, staff, when);
-        if (made.failed() || !outing(kind, made.cardId())) return PunchResult::Stopped;
-        open ? warnNoLeave(context, status.date()) : warnNoEnter(context);
+        const auto made = GetKurboID(context, connection, staff, when);
+        if (!made || !outing(kind, made->cardId)) return PunchResult::Stopped;
+        warnOfMissing(state);
         return PunchResult::Done;
+    }
+
+    [[nodiscard]] bool goesOn(const PunchState& state) const {
+        return state.open && continues(context, state.open->slashDate());
+    }
+
+    void warnOfMissing(const PunchState& state) const {
+        state.open ? warnNoLeave(context, state.open->slashDate()) : warnNoEnter(context);
     }
 
     [[nodiscard]] bool leaveOn(const QString& day) const { return RecordLeave(context, connection, staff, when, day); }

@@ -19,9 +19,6 @@ struct Row {
         const bool wholeDay = std::ranges::any_of(leaves, [](const QString& kind) { return kind == u"0"; });
         return wholeDay || left;
     }
-    [[nodiscard]] QString slashDate() const {
-        return dateId.left(4) + u'/' + dateId.mid(4, 2) + u'/' + dateId.right(2);
-    }
 };
 
 // The first row of the day asked about, and the last one before that day.
@@ -46,36 +43,32 @@ Ends endsOf(Connection& connection, const QString& staff, const QString& id) {
     return ends;
 }
 
-QString status(const Ends& ends) {
-    if (!ends.today && !ends.before) return QStringLiteral("NR");
-    const bool open = ends.before && !ends.before->finished();
-    if (!ends.today) return open ? QStringLiteral("ND") + ends.before->slashDate() : QStringLiteral("NE");
-    if (ends.today->left) return QStringLiteral("AL");
-    if (ends.today->entered) return QStringLiteral("AE");
-    return open ? QStringLiteral("RD") + ends.before->slashDate() : QStringLiteral("EE");
+DayRow dayRowOf(const std::optional<Row>& today) {
+    if (!today) return DayRow::None;
+    if (today->left) return DayRow::Left;
+    return today->entered ? DayRow::Entered : DayRow::NotEntered;
 }
 
-QString cardStatus(const Ends& ends) {
-    if (ends.today) return QStringLiteral("ID") + QString::number(ends.today->id);
-    if (!ends.before) return QStringLiteral("NR");
-    if (ends.before->left) return QStringLiteral("NE");
-    return QStringLiteral("ND") + ends.before->slashDate() + QString::number(ends.before->id);
-}
-
-StatusCode asked(const Context& context, Connection& connection, QStringView procedure, const QString& staff,
-                 Moment when, QString (*answer)(const Ends&)) {
-    return {guarded(context, u"frmLogin", procedure, QStringLiteral("ERROR"),
-                    [&] { return answer(endsOf(connection, staff, dateId(dayOf(when)))); })};
+std::optional<PunchState> asked(const Context& context, Connection& connection, QStringView procedure,
+                                const QString& staff, Moment when, bool (*isClosed)(const Row&)) {
+    return guarded(context, u"frmLogin", procedure, std::optional<PunchState>(), [&] {
+        const Ends ends = endsOf(connection, staff, dateId(dayOf(when)));
+        PunchState state{.today = dayRowOf(ends.today), .cardId = ends.today ? ends.today->id : 0, .open = {}};
+        if (ends.before && !isClosed(*ends.before)) state.open = OpenRow{ends.before->id, ends.before->dateId};
+        return state;
+    });
 }
 
 } // namespace
 
-StatusCode TimeCardStatus(const Context& context, Connection& connection, const QString& staff, Moment when) {
-    return asked(context, connection, u"TimeCardStatus", staff, when, status);
+std::optional<PunchState> TimeCardStatus(const Context& context, Connection& connection, const QString& staff,
+                                         Moment when) {
+    return asked(context, connection, u"TimeCardStatus", staff, when, [](const Row& row) { return row.finished(); });
 }
 
-StatusCode GetKurboID(const Context& context, Connection& connection, const QString& staff, Moment when) {
-    return asked(context, connection, u"GetKurboID", staff, when, cardStatus);
+std::optional<PunchState> GetKurboID(const Context& context, Connection& connection, const QString& staff,
+                                     Moment when) {
+    return asked(context, connection, u"GetKurboID", staff, when, [](const Row& row) { return row.left; });
 }
 
 } // namespace kurbo

@@ -15,28 +15,33 @@ namespace {
 // True when the database of "Parm.dat" is good; otherwise the person has been told why frmParm comes.
 bool databaseFound(Client& client) {
     Prompts& prompts = client.context.prompts;
-    const QString result = ReadParm(client.context, client.context.paths.ParmPath, client.DbPath);
-    if (result == u"OK") {
+    switch (ReadParm(client.context, client.context.paths.ParmPath, client.DbPath)) {
+    case ParmResult::OK:
         if (IsDbOK(client.DbPath)) return true;
         prompts.exclaim(lines(QStringLiteral("データベースファイル"), client.DbPath,
                               QStringLiteral("の形式が異なります。データベースの保存場所，ファイル名"),
                               QStringLiteral("に誤りが無いか確認して下さい。")));
         client.DbUsable = false;
-    } else if (result == u"Install") {
+        return false;
+    case ParmResult::Install:
         prompts.ask({QStringLiteral("Welcom! ") + productName(),
                      QStringLiteral("データベースファイルファイルを指定して下さい。"), Icon::Information});
-    } else if (result == u"NoDB") {
+        return false;
+    case ParmResult::NoDB:
         prompts.exclaim(lines(QStringLiteral("データベースファイル"), client.DbPath,
                               QStringLiteral("が見つかりません。データベースの保存場所，ファイル名"),
                               QStringLiteral("に誤りが無いか確認して下さい。"),
                               QStringLiteral("また、これらが保存されているマシンの電源が入っている"),
                               QStringLiteral("事，ネットワーク接続に異常が無い事を確認して下さい。")));
-    } else if (result == u"NoParm") {
+        return false;
+    case ParmResult::NoParm:
         prompts.exclaim(QStringLiteral("データベースファイルの保存場所を設定して下さい。"));
-    } else {
-        giveUp();
+        return false;
+    case ParmResult::InputPastEnd:
+    case ParmResult::Error:
+        break;
     }
-    return false;
+    giveUp();
 }
 
 void start(Client& client, StartScreens& screens) {

@@ -18,23 +18,23 @@ bool isNumbered(const Fault& fault, FileError number) {
     return fault.number() == static_cast<std::int64_t>(number);
 }
 
-QString resultOf(const QString& path, QString& dbPath) {
+ParmResult resultOf(const QString& path, QString& dbPath) {
     const QByteArray bytes = readFile(path);
-    if (bytes.isEmpty()) return QStringLiteral("InputPastEnd");
+    if (bytes.isEmpty()) return ParmResult::InputPastEnd;
     dbPath = firstItem(fromCodePage(bytes));
-    if (dbPath.isEmpty()) return QStringLiteral("Install");
-    return CheckPath(dbPath) ? QStringLiteral("OK") : QStringLiteral("NoDB");
+    if (dbPath.isEmpty()) return ParmResult::Install;
+    return CheckPath(dbPath) ? ParmResult::OK : ParmResult::NoDB;
 }
 
 } // namespace
 
-QString ReadParm(const Context& context, const QString& path, QString& dbPath) {
-    return guarded(context, u"basKurbo", u"ReadParm", QStringLiteral("Error"), [&] {
+ParmResult ReadParm(const Context& context, const QString& path, QString& dbPath) {
+    return guarded(context, u"basKurbo", u"ReadParm", ParmResult::Error, [&] {
         try {
             return resultOf(path, dbPath);
         } catch (const Fault& fault) {
             if (!isNumbered(fault, FileError::NotFound)) throw;
-            return QStringLiteral("NoParm");
+            return ParmResult::NoParm;
         }
     });
 }

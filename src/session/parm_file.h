@@ -9,9 +9,17 @@ namespace kurbo {
 // The file "Parm.dat" holds one item, the path of the home database, between double quotes and ended by CR LF, in the
 // code page.
 
-// Reads the path. Gives "OK" (read, and the database is there), "NoDB" (it is not there), "Install" (the path is
-// empty), "NoParm" (no such file), "InputPastEnd" (the file is empty), or "Error" after the report.
-[[nodiscard]] QString ReadParm(const Context& context, const QString& path, QString& dbPath);
+enum class ParmResult {
+    OK,           // read, and the database is there
+    NoDB,         // read, and the database is not there
+    Install,      // the path is empty
+    NoParm,       // no such file
+    InputPastEnd, // the file is empty
+    Error,        // after the report
+};
+
+// Reads the path into `dbPath`.
+[[nodiscard]] ParmResult ReadParm(const Context& context, const QString& path, QString& dbPath);
 // Replaces the file in one step; false after the report.
 [[nodiscard]] bool WriteParm(const Context& context, const QString& path, const QString& dbPath);
 

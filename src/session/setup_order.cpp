@@ -14,26 +14,34 @@ struct Test {
     const char16_t* statement;
 };
 
-constexpr Test corp{u"IsCorpOK", u"SELECT F_Corp FROM C01_Corp;"};
-constexpr Test section{u"IsSectionOK", u"SELECT F_SectionCode FROM C02_Section WHERE (F_SectionName <> '新しい部課');"};
-constexpr Test staff{u"IsStaffOK", u"SELECT F_StaffCode FROM C03_Staff WHERE (F_StaffName <> '新しい社員') "
-                                   u"AND (F_StaffName <> 'ADMIN');"};
-constexpr Test workStyle{u"IsWorkStyleOK", u"SELECT F_WorkStyle FROM M01_CorpInfo;"};
-constexpr Test workTime{u"IsWorkTimeOK",
-                        u"SELECT F_WeekdayCode FROM M03_WeekdayStyle WHERE (F_WeekdayName <> '新しい勤務時間');"};
-constexpr Test adjust{u"IsAdjustOK",
-                      u"SELECT F_AdjustCode FROM M07_AdjustHours WHERE (F_AdjustName <> '新しい時間調整');"};
-constexpr Test access{u"IsAccessOK",
-                      u"SELECT F_AccessCode FROM M08_Access WHERE (F_AccessName <> '新しいアクセス権');"};
+constexpr Test corp{.name = u"IsCorpOK", .statement = u"SELECT F_Corp FROM C01_Corp;"};
+constexpr Test section{
+    .name = u"IsSectionOK",
+    .statement = u"SELECT F_SectionCode FROM C02_Section WHERE (F_SectionName <> '新しい部課');",
+};
+constexpr Test staff{
+    .name = u"IsStaffOK",
+    .statement = u"SELECT F_StaffCode FROM C03_Staff WHERE (F_StaffName <> '新しい社員') "
+                 u"AND (F_StaffName <> 'ADMIN');",
+};
+constexpr Test workStyle{.name = u"IsWorkStyleOK", .statement = u"SELECT F_WorkStyle FROM M01_CorpInfo;"};
+constexpr Test workTime{
+    .name = u"IsWorkTimeOK",
+    .statement = u"SELECT F_WeekdayCode FROM M03_WeekdayStyle WHERE (F_WeekdayName <> '新しい勤務時間');",
+};
+constexpr Test adjust{
+    .name = u"IsAdjustOK",
+    .statement = u"SELECT F_AdjustCode FROM M07_AdjustHours WHERE (F_AdjustName <> '新しい時間調整');",
+};
+constexpr Test access{
+    .name = u"IsAccessOK",
+    .statement = u"SELECT F_AccessCode FROM M08_Access WHERE (F_AccessName <> '新しいアクセス権');",
+};
 
 // Nothing after a failure, which is reported.
 std::optional<bool> passes(const Context& context, Connection& connection, const Test& test) {
     return guarded(context, u"frmLogin", test.name, std::optional<bool>(),
                    [&] { return connection.hasRow(QString::fromUtf16(test.statement)); });
-}
-
-bool isOK(const Context& context, Connection& connection, const Test& test) {
-    return passes(context, connection, test).value_or(false);
 }
 
 struct Step {
@@ -44,53 +52,41 @@ struct Step {
 };
 
 constexpr std::array steps{
-    Step{Setting::Section, corp, u"会社情報が登録されていません。",
-         u"会社情報を登録してから、部課情報を登録して下さい。"},
-    Step{Setting::Staff, section, u"部課情報が登録されていません。",
-         u"部課情報を登録してから、社員情報を登録して下さい。"},
-    Step{Setting::WorkStyle, staff, u"社員情報が登録されていません。",
-         u"社員情報を登録してから、勤務形態を設定して下さい。"},
-    Step{Setting::WorkTime, workStyle, u"勤務形態が設定されていません。",
-         u"勤務形態を設定してから、勤務時間を設定して下さい。"},
-    Step{Setting::Access, workTime, u"勤務時間が設定されていません。",
-         u"勤務時間を設定してから、アクセス権を設定して下さい。"},
-    Step{Setting::Access, adjust, u"時間調整が設定されていません。",
-         u"時間調整を設定してから、アクセス権を設定して下さい。"},
-    Step{Setting::User, access, u"アクセス権が設定されていません。",
-         u"アクセス権を設定してから、社員設定を行って下さい。"},
-    Step{Setting::Calendar, workStyle, u"勤務形態が設定されていません。",
-         u"勤務形態を設定してから、カレンダーを設定して下さい。"},
+    Step{.setting = Setting::Section,
+         .test = corp,
+         .problem = u"会社情報が登録されていません。",
+         .advice = u"会社情報を登録してから、部課情報を登録して下さい。"},
+    Step{.setting = Setting::Staff,
+         .test = section,
+         .problem = u"部課情報が登録されていません。",
+         .advice = u"部課情報を登録してから、社員情報を登録して下さい。"},
+    Step{.setting = Setting::WorkStyle,
+         .test = staff,
+         .problem = u"社員情報が登録されていません。",
+         .advice = u"社員情報を登録してから、勤務形態を設定して下さい。"},
+    Step{.setting = Setting::WorkTime,
+         .test = workStyle,
+         .problem = u"勤務形態が設定されていません。",
+         .advice = u"勤務形態を設定してから、勤務時間を設定して下さい。"},
+    Step{.setting = Setting::Access,
+         .test = workTime,
+         .problem = u"勤務時間が設定されていません。",
+         .advice = u"勤務時間を設定してから、アクセス権を設定して下さい。"},
+    Step{.setting = Setting::Access,
+         .test = adjust,
+         .problem = u"時間調整が設定されていません。",
+         .advice = u"時間調整を設定してから、アクセス権を設定して下さい。"},
+    Step{.setting = Setting::User,
+         .test = access,
+         .problem = u"アクセス権が設定されていません。",
+         .advice = u"アクセス権を設定してから、社員設定を行って下さい。"},
+    Step{.setting = Setting::Calendar,
+         .test = workStyle,
+         .problem = u"勤務形態が設定されていません。",
+         .advice = u"勤務形態を設定してから、カレンダーを設定して下さい。"},
 };
 
 } // namespace
-
-bool IsCorpOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, corp);
-}
-
-bool IsSectionOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, section);
-}
-
-bool IsStaffOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, staff);
-}
-
-bool IsWorkStyleOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, workStyle);
-}
-
-bool IsWorkTimeOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, workTime);
-}
-
-bool IsAdjustOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, adjust);
-}
-
-bool IsAccessOK(const Context& context, Connection& connection) {
-    return isOK(context, connection, access);
-}
 
 bool settingAllowed(const Context& context, Connection& connection, Setting setting) {
     // The first setting opens in any case; on a new site the order is told.

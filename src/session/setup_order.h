@@ -5,15 +5,6 @@
 
 namespace kurbo {
 
-// The set-up tests: each is true when its setting has been made. False also after a reported failure.
-[[nodiscard]] bool IsCorpOK(const Context& context, Connection& connection);
-[[nodiscard]] bool IsSectionOK(const Context& context, Connection& connection);
-[[nodiscard]] bool IsStaffOK(const Context& context, Connection& connection);
-[[nodiscard]] bool IsWorkStyleOK(const Context& context, Connection& connection);
-[[nodiscard]] bool IsWorkTimeOK(const Context& context, Connection& connection);
-[[nodiscard]] bool IsAdjustOK(const Context& context, Connection& connection);
-[[nodiscard]] bool IsAccessOK(const Context& context, Connection& connection);
-
 // The administrator's settings screens, in the order in which a new site fills them.
 enum class Setting { Corp, Section, Staff, WorkStyle, WorkTime, Access, User, Calendar };
 

@@ -9,16 +9,21 @@ namespace kurbo {
 namespace {
 
 struct Notice {
-    const char16_t* result;
+    OptimizeResult result;
     const char16_t* problem;
     const char16_t* advice;
 };
 
 constexpr std::array notices{
-    Notice{u"NoFile", u" が見つかりません。", u"データベースファイルの保存場所を確認して下さい。"},
-    Notice{u"NoDrive", u" が置かれたドライブの準備ができていません。",
-           u"データベースファイルが置かれたドライブの状態を確認して下さい。"},
-    Notice{u"NoPath", u" のパスが見つかりません。", u"データベースファイルの保存場所を確認して下さい。"},
+    Notice{.result = OptimizeResult::NoFile,
+           .problem = u" が見つかりません。",
+           .advice = u"データベースファイルの保存場所を確認して下さい。"},
+    Notice{.result = OptimizeResult::NoDrive,
+           .problem = u" が置かれたドライブの準備ができていません。",
+           .advice = u"データベースファイルが置かれたドライブの状態を確認して下さい。"},
+    Notice{.result = OptimizeResult::NoPath,
+           .problem = u" のパスが見つかりません。",
+           .advice = u"データベースファイルの保存場所を確認して下さい。"},
 };
 
 } // namespace
@@ -26,11 +31,11 @@ constexpr std::array notices{
 void shutDown(Client& client) {
     const Context& context = client.context;
     client.closeConnections();
-    const QString result = OptimizeDB(context, client.DbPath, databasePassword());
-    if (result == u"OK")
+    const OptimizeResult result = OptimizeDB(context, client.DbPath, databasePassword());
+    if (result == OptimizeResult::OK)
         guarded(context, u"frmLogin", u"Form_Unload", [&] { copyDatabase(client.DbPath, context.paths.BackupPath); });
     for (const auto& notice : notices)
-        if (result == QStringView(notice.result))
+        if (result == notice.result)
             context.prompts.exclaim(
                 lines(QStringLiteral("データベースファイル ") + client.DbPath + QString::fromUtf16(notice.problem),
                       QString::fromUtf16(notice.advice)));

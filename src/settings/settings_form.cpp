@@ -53,7 +53,7 @@ bool SettingsForm::reload(QStringView procedure, const Command& show) {
     });
 }
 
-// What is left is to close the window, and the help.
+// Only closing and the help stay enabled.
 void SettingsForm::endWork() {
     centralWidget()->setEnabled(false);
     const QStringList open{QStringLiteral("mnuClose"), QStringLiteral("mnuTopic"), QStringLiteral("mnuVersion")};

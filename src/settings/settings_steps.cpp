@@ -11,14 +11,14 @@ namespace {
 }
 
 [[nodiscard]] bool mayRemove(const Context& context, QStringView form, const Removal& removal) {
-    const QString refusal = guarded(context, form, u"mnuDelete_Click", QString(), [&removal] {
+    const QString question = guarded(context, form, u"mnuDelete_Click", QString(), [&removal] {
         if (!removal.reserved.isEmpty()) throw Complaint(removal.reserved + QStringLiteral("は削除できません。"));
         if (removal.isUsed())
             throw Complaint(
                 QStringLiteral("表示されている%1は使用されているため削除できません。").arg(removal.subject));
         return QStringLiteral("表示されている%1を削除します。").arg(removal.subject);
     });
-    return !refusal.isEmpty() && isSure(context.prompts, refusal);
+    return !question.isEmpty() && context.prompts.sure(question);
 }
 
 } // namespace
@@ -27,14 +27,8 @@ bool mayDiscard(Prompts& prompts, bool changed, const QString& subject) {
     return !changed || prompts.confirm(subject + QStringLiteral("は変更されています。変更を破棄しますか？"));
 }
 
-bool isSure(Prompts& prompts, const QString& text) {
-    const QString question = lines(text, QString(), QStringLiteral("よろしいですか？"));
-    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) == Answer::Ok;
-}
-
 bool updateSettings(const Context& context, QStringView form, const SettingsStep& check, const SettingsStep& write) {
-    if (!done(context, form, check) || !isSure(context.prompts, QStringLiteral("追加・変更を更新します。")))
-        return false;
+    if (!done(context, form, check) || !context.prompts.sure(QStringLiteral("追加・変更を更新します。"))) return false;
     if (done(context, form, write)) return true;
     context.prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
     return false;

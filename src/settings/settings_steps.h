@@ -36,9 +36,6 @@ class FieldComplaint final : public Complaint {
 // Asks whether the changes of `subject` are given up; true when there are none.
 [[nodiscard]] bool mayDiscard(Prompts& prompts, bool changed, const QString& subject);
 
-// "<text>", a blank line and "よろしいですか？"; true for OK.
-[[nodiscard]] bool isSure(Prompts& prompts, const QString& text);
-
 // Checks, asks and writes. True once it is written; whatever kept it from that has been told.
 [[nodiscard]] bool updateSettings(const Context& context, QStringView form, const SettingsStep& check,
                                   const SettingsStep& write);

@@ -25,15 +25,15 @@ using std::chrono::steady_clock;
 
 constexpr milliseconds betweenNotices{100};
 
-void bind(sqlite3_stmt* statement, int place, const Value& value) {
+void bind(sqlite3_stmt* statement, int index, const Value& value) {
     const auto bindText = [&](const char* bytes, qsizetype size) {
-        sqlite3_bind_text64(statement, place, bytes, static_cast<sqlite3_uint64>(size), SQLITE_TRANSIENT, SQLITE_UTF8);
+        sqlite3_bind_text64(statement, index, bytes, static_cast<sqlite3_uint64>(size), SQLITE_TRANSIENT, SQLITE_UTF8);
     };
     const auto& data = value.data();
     if (const auto* number = std::get_if<std::int64_t>(&data)) {
-        sqlite3_bind_int64(statement, place, *number);
+        sqlite3_bind_int64(statement, index, *number);
     } else if (const auto* real = std::get_if<double>(&data)) {
-        sqlite3_bind_double(statement, place, *real);
+        sqlite3_bind_double(statement, index, *real);
     } else if (const auto* text = std::get_if<QString>(&data)) {
         const QByteArray bytes = text->toUtf8();
         bindText(bytes.constData(), bytes.size());
@@ -41,7 +41,7 @@ void bind(sqlite3_stmt* statement, int place, const Value& value) {
         const std::string stored = isoText(*moment);
         bindText(stored.data(), static_cast<qsizetype>(stored.size()));
     } else {
-        sqlite3_bind_null(statement, place);
+        sqlite3_bind_null(statement, index);
     }
 }
 
@@ -78,7 +78,7 @@ void Connection::openAlone(const QString& path, const QString& password) {
 }
 
 void Connection::openFile(const QString& path, const QString& password, bool alone) {
-    // The notice of a wait may lead back here.
+    // What runs during a wait may try to open this very connection.
     if (openingNow_) throw storeFault(StoreError::Busy);
     const QScopedValueRollback now(openingNow_, true);
     close();
@@ -86,7 +86,7 @@ void Connection::openFile(const QString& path, const QString& password, bool alo
     path_ = path;
     alone_ = alone;
     try {
-        if (!alone) (void)lock_.join(path, patience(), notice_);
+        if (!alone) (void)lock_.join(path, deadline(), notice_);
         openEngine();
         checkIdentity(password);
     } catch (...) {
@@ -181,7 +181,7 @@ int Connection::onBusy(void* self, int count) {
     auto& connection = *static_cast<Connection*>(self);
     const auto now = steady_clock::now();
     if (count == 0) {
-        connection.busyUntil_ = connection.patience();
+        connection.busyUntil_ = connection.deadline();
         connection.nextNotice_ = now + betweenNotices;
     }
     if (connection.outOfTurn_ || now >= connection.busyUntil_) return 0;
@@ -189,13 +189,13 @@ int Connection::onBusy(void* self, int count) {
         connection.notice_();
         connection.nextNotice_ = now + betweenNotices;
     }
-    // Short and uneven, so that waiting clients do not come back together.
+    // Pauses are short and of random length, so that waiting clients do not all try at one moment.
     const int longest = std::min(500 + count * 250, 5000);
     std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(250, longest)));
     return 1;
 }
 
-// A script of statements that differ in their values alone must not fill the memory.
+// A script of many statements that differ only in the values written into them must not fill the memory.
 void Connection::forgetIdle(std::unordered_map<QString, Shelf>& shelves) {
     std::erase_if(shelves, [](const auto& entry) {
         const Shelf& shelf = entry.second;
@@ -205,17 +205,17 @@ void Connection::forgetIdle(std::unordered_map<QString, Shelf>& shelves) {
     });
 }
 
-Prepared& Connection::prepare(Form form, const QString& statement) {
+Prepared& Connection::prepare(Variant variant, const QString& statement) {
     constexpr std::size_t mostKept = 300;
     if (!database_) throw storeFault(StoreError::NoFile, path_);
-    auto& shelves = shelves_[static_cast<std::size_t>(form)];
+    auto& shelves = shelves_[static_cast<std::size_t>(variant)];
     if (shelves.size() >= mostKept) forgetIdle(shelves);
     Shelf& shelf = shelves[statement];
     for (const auto& prepared : shelf)
         if (!prepared->busy) return *prepared;
-    const Translation translation = form == Form::FromLast ? translatedFromLast(statement)
-                                    : form == Form::WithId ? translatedWithRowId(statement)
-                                                           : translated(statement);
+    const Translation translation = variant == Variant::FromLast ? translatedFromLast(statement)
+                                    : variant == Variant::WithId ? translatedWithRowId(statement)
+                                                                 : translated(statement);
     auto prepared = std::make_unique<Prepared>();
     const int result = sqlite3_prepare_v3(database_, translation.sql.constData(), -1, SQLITE_PREPARE_PERSISTENT,
                                           &prepared->statement, nullptr);
@@ -234,19 +234,19 @@ Rows Connection::bound(Prepared& prepared, const Values& values) {
 }
 
 Rows Connection::rows(const QString& statement, const Values& values) {
-    return bound(prepare(Form::Plain, statement), values);
+    return bound(prepare(Variant::Plain, statement), values);
 }
 
 Rows Connection::rowsFromLast(const QString& statement, const Values& values) {
-    return bound(prepare(Form::FromLast, statement), values);
+    return bound(prepare(Variant::FromLast, statement), values);
 }
 
 Rows Connection::rowsWithId(const QString& statement, const Values& values) {
-    return bound(prepare(Form::WithId, statement), values);
+    return bound(prepare(Variant::WithId, statement), values);
 }
 
 QString Connection::tableOf(const QString& statement) {
-    return prepare(Form::Plain, statement).table;
+    return prepare(Variant::Plain, statement).table;
 }
 
 std::optional<Value> Connection::firstValue(const QString& statement, const Values& values) {
@@ -280,8 +280,9 @@ std::int64_t Connection::lastRowId() const {
 }
 
 void Connection::beginTurn() {
-    // The queue is a courtesy and the engine's lock decides: a client that stands still in its place stops nobody.
-    if (turns_++ == 0) outOfTurn_ = !lock_.waitTurn(patience(), notice_);
+    // The queue only keeps the order, and the engine's lock decides: where a client ahead hangs, this one goes on after
+    // the timeout.
+    if (turns_++ == 0) outOfTurn_ = !lock_.waitTurn(deadline(), notice_);
 }
 
 void Connection::endTurn() {

@@ -16,7 +16,7 @@ struct sqlite3;
 namespace kurbo {
 
 // One database file in use. All failures are thrown as a Fault. Statements are those of the dialect (dialect.h); a
-// value goes into a place marked "?" and never becomes part of the text.
+// value takes a placeholder "?" and never becomes part of the text.
 class Connection final {
   public:
     Connection();
@@ -52,7 +52,6 @@ class Connection final {
     std::int64_t execute(const QString& statement, const Values& values = {});
     // The number that the last added row got.
     [[nodiscard]] std::int64_t lastRowId() const;
-    [[nodiscard]] bool inTransaction() const { return transactions_ > 0; }
 
     // How long a busy file is waited for (60 seconds), and what runs about ten times a second meanwhile.
     void setTimeout(std::chrono::milliseconds timeout) { timeout_ = timeout; }
@@ -71,13 +70,13 @@ class Connection final {
     friend class Transaction;
     friend class Reading;
 
-    enum class Form { Plain, FromLast, WithId };
+    enum class Variant { Plain, FromLast, WithId };
     // The statements around all others, kept ready.
     enum class Frame { Begin, BeginWriting, Commit };
     // Statements of one wording; more than one where the same question is asked within its own loop.
     using Shelf = std::vector<std::unique_ptr<Prepared>>;
 
-    [[nodiscard]] Patience patience() const { return std::chrono::steady_clock::now() + timeout_; }
+    [[nodiscard]] Deadline deadline() const { return std::chrono::steady_clock::now() + timeout_; }
     void openFile(const QString& path, const QString& password, bool alone);
     void openEngine();
     void checkIdentity(const QString& password);
@@ -85,7 +84,7 @@ class Connection final {
     void endTurn();
     int run(Frame frame);
     void runOrFail(Frame frame);
-    Prepared& prepare(Form form, const QString& statement);
+    Prepared& prepare(Variant variant, const QString& statement);
     static void forgetIdle(std::unordered_map<QString, Shelf>& shelves);
     Rows bound(Prepared& prepared, const Values& values);
     static int onBusy(void* self, int count);
@@ -101,8 +100,8 @@ class Connection final {
     bool outOfTurn_ = false;
     int transactions_ = 0;
     std::chrono::milliseconds timeout_{std::chrono::seconds{60}};
-    Patience busyUntil_;
-    Patience nextNotice_;
+    Deadline busyUntil_;
+    Deadline nextNotice_;
     WaitNotice notice_;
     std::array<std::unordered_map<QString, Shelf>, 3> shelves_;
     std::array<sqlite3_stmt*, 3> frames_{};

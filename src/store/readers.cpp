@@ -27,8 +27,8 @@ QString gridList(Connection& connection, const QString& statement, const QString
 
 } // namespace
 
-QString GetDbPath(const Context& context, Connection& connection, const QString& section) {
-    return guarded(context, module, u"GetDbPath", QStringLiteral("ERROR"), [&] {
+std::optional<QString> GetDbPath(const Context& context, Connection& connection, const QString& section) {
+    return guarded(context, module, u"GetDbPath", std::optional<QString>(), [&] {
         const auto path =
             connection.firstValue(QStringLiteral("SELECT F_DB FROM C02_Section WHERE (F_SectionCode = ?);"), {section});
         if (!path) throw Complaint(QStringLiteral("選択した部課が登録されていません。"));
@@ -37,17 +37,13 @@ QString GetDbPath(const Context& context, Connection& connection, const QString&
     });
 }
 
-std::int64_t GenerateKurboID(const Context& context, Connection& connection) {
-    return guarded(context, module, u"GenerateKurboID", std::int64_t{-1}, [&] { return nextKurboId(connection); });
-}
-
 std::int64_t nextKurboId(Connection& connection) {
     const auto last = connection.lastValue(QStringLiteral("SELECT F_KurboID FROM T02_Kurbo ORDER BY F_KurboID;"));
     return last ? last->integer() + 1 : 1;
 }
 
-QString WhichHoliday(const Context& context, Connection& connection, Day date) {
-    return guarded(context, module, u"WhichHoliday", QStringLiteral("ERROR"), [&] {
+std::optional<QString> WhichHoliday(const Context& context, Connection& connection, Day date) {
+    return guarded(context, module, u"WhichHoliday", std::optional<QString>(), [&] {
         const auto name = connection.firstValue(
             QStringLiteral("SELECT F_Holiday FROM T01_Calendar WHERE (F_DateID = ?);"), {dateId(date)});
         if (!name)
@@ -77,11 +73,6 @@ bool hasCalendar(const Context& context, Connection& connection, Day day) {
     const int count = ExistCalendar(context, connection, day, day);
     if (count == 0) context.prompts.exclaim(noCalendarText());
     return count > 0;
-}
-
-std::optional<Moment> EndAllNight(const Context& context, Connection& connection, const QString& staff, Moment border) {
-    return guarded(context, module, u"EndAllNight", std::optional<Moment>(),
-                   [&] { return leaveBeyond(connection, staff, border); });
 }
 
 std::optional<Moment> leaveBeyond(Connection& connection, const QString& staff, Moment border) {
@@ -126,17 +117,17 @@ std::optional<Day> GetFirstMonth(const Context& context, Connection& connection)
     });
 }
 
-QString VfgComboList(const Context& context, Connection& connection, const QString& statement,
-                     const QString& valueField, const QString& codeField, bool blank) {
-    return guarded(context, module, u"VfgComboList", QStringLiteral("ERROR"), [&] {
+std::optional<QString> VfgComboList(const Context& context, Connection& connection, const QString& statement,
+                                    const QString& valueField, const QString& codeField, bool blank) {
+    return guarded(context, module, u"VfgComboList", std::optional<QString>(), [&] {
         const QString list = gridList(connection, statement, codeField, valueField);
         return blank && !list.isEmpty() ? list + u'|' : list;
     });
 }
 
-QString BuildGridList(const Context& context, Connection& connection, const QString& statement,
-                      const QString& codeField, const QString& nameField, bool blank) {
-    return guarded(context, module, u"BuildGridList", QStringLiteral("ERROR"), [&] {
+std::optional<QString> BuildGridList(const Context& context, Connection& connection, const QString& statement,
+                                     const QString& codeField, const QString& nameField, bool blank) {
+    return guarded(context, module, u"BuildGridList", std::optional<QString>(), [&] {
         const QString list = gridList(connection, statement, codeField, nameField);
         return blank ? u'|' + list : list;
     });

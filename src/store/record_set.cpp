@@ -50,18 +50,6 @@ bool RecordSet::moveNext() {
     return atRow();
 }
 
-bool RecordSet::movePrevious() {
-    at_ = qMax(at_ - 1, qsizetype{-1});
-    return atRow();
-}
-
-bool RecordSet::find(const QString& criterion, const Values& values) {
-    const Criterion wanted(criterion, values);
-    for (at_ = 0; atRow(); ++at_)
-        if (wanted.holds([this](const QString& field) { return value(field); })) return true;
-    return false;
-}
-
 bool RecordSet::filter(const QString& criterion, const Values& values) {
     const Criterion wanted(criterion, values);
     showAll();
@@ -126,16 +114,17 @@ void RecordSet::addTerm(QString& terms, const QString& separator, const QString&
 // Fields that were never given a value keep the table's own default.
 void RecordSet::insert(Record& record) {
     QString names;
-    QString places;
+    QString placeholders;
     Values values;
     for (qsizetype i = 0; i < fields_.size(); ++i) {
         if (record.current[i].isNull()) continue;
         addTerm(names, QStringLiteral(", "), fields_[i]);
-        addTerm(places, QStringLiteral(", "), QStringLiteral("?"));
+        addTerm(placeholders, QStringLiteral(", "), QStringLiteral("?"));
         values.append(record.current[i]);
     }
-    const QString row = names.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
-                                        : QStringLiteral(" (") + names + QStringLiteral(") VALUES (") + places + u')';
+    const QString row = names.isEmpty()
+                            ? QStringLiteral(" DEFAULT VALUES")
+                            : QStringLiteral(" (") + names + QStringLiteral(") VALUES (") + placeholders + u')';
     connection_.execute(QStringLiteral("INSERT INTO ") + table_ + row, values);
     record.id = connection_.lastRowId();
 }

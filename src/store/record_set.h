@@ -21,16 +21,13 @@ class RecordSet final {
     // Rows that the filter lets through.
     [[nodiscard]] qsizetype size() const { return visible_.size(); }
     [[nodiscard]] bool isEmpty() const { return visible_.isEmpty(); }
-    // False before the first and behind the last row.
+    // False behind the last row.
     [[nodiscard]] bool atRow() const { return at_ >= 0 && at_ < visible_.size(); }
 
     // Each gives atRow().
     bool moveFirst();
     bool moveLast();
     bool moveNext();
-    bool movePrevious();
-    // The first row that meets the criterion; behind the last when none does.
-    bool find(const QString& criterion, const Values& values = {});
     // Shows only the rows that meet the criterion, and stands on the first of them.
     bool filter(const QString& criterion, const Values& values = {});
     void clearFilter();

@@ -48,7 +48,7 @@ QString Rows::text(int column) const {
 }
 
 std::string_view Rows::bytes(int column) const {
-    // Asked for as a blob a text stays where it lies: as a text the engine copies it for a zero behind it.
+    // Read as a blob: as a text the engine would copy it, to end it with a zero.
     const auto* text = static_cast<const char*>(sqlite3_column_blob(prepared_->statement, column));
     return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(prepared_->statement, column)))
                 : std::string_view();

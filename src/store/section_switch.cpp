@@ -8,10 +8,6 @@
 namespace kurbo {
 namespace {
 
-QString homeFile() {
-    return QStringLiteral("カレントデータベース");
-}
-
 [[noreturn]] void refuseMissing(const QString& path) {
     throw Complaint(lines(QStringLiteral("選択した部課の情報を保存しているデータベースファイル"),
                           QStringLiteral("  ") + path,
@@ -23,7 +19,7 @@ QString homeFile() {
 
 // A path that leads back to the home file needs no connection of its own.
 Connection& connectionOf(Client& client, QString path) {
-    if (path == homeFile()) return client.HomeConnection;
+    if (path == currentDatabase()) return client.HomeConnection;
     if (!CheckPath(path)) refuseMissing(path);
     if (isSameFile(path, client.HomeConnection.path())) return client.HomeConnection;
     client.OtherConnection.close();
@@ -35,9 +31,9 @@ Connection& connectionOf(Client& client, QString path) {
 bool enter(Client& client, const QString& section, Day from, Day to) {
     const Context& context = client.context;
     client.CurrentConnection = &client.HomeConnection;
-    const QString path = GetDbPath(context, client.HomeConnection, section);
-    if (path == u"ERROR") return false;
-    client.CurrentConnection = &connectionOf(client, path);
+    const auto path = GetDbPath(context, client.HomeConnection, section);
+    if (!path) return false;
+    client.CurrentConnection = &connectionOf(client, *path);
     const int days = ExistCalendar(context, *client.CurrentConnection, from, to);
     if (days < 0) return false;
     if (days == 0) throw Complaint(noCalendarText());

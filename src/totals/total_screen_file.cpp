@@ -1,7 +1,7 @@
 // Card files and CSV files on the screen of the totals.
 
+#include "screen/files/card_file.h"
 #include "screen/files/foreign_file.h"
-#include "screen/files/sheet_file.h"
 #include "store/section_switch.h"
 #include "totals/csv/csv_exchange.h"
 #include "totals/csv/csv_file.h"
@@ -36,22 +36,22 @@ bool TotalScreen::saveKrb() {
         return false;
     }
     if (!asked()) return false;
-    const auto file = prompts.saveFile(sheetFilter(), QStringLiteral("krb"));
+    const auto file = prompts.saveFile(cardFileFilter(), QStringLiteral("krb"));
     return file && guarded(client_.context, u"frmTotal", u"SaveTotal", false, [&] {
-               saveSheet(*file, totalMember(), sheet.grid,
-                         {question_.section, question_.staff, slashMonth(question_.from), slashMonth(question_.to)});
+               saveCardFile(*file, totalMember(), sheet.grid,
+                            {question_.section, question_.staff, slashMonth(question_.from), slashMonth(question_.to)});
                return true;
            });
 }
 
 bool TotalScreen::loadKrb() {
     if (!mayDiscard()) return false;
-    const auto file = client_.context.prompts.openFile(sheetFilter());
+    const auto file = client_.context.prompts.openFile(cardFileFilter());
     return file && guarded(client_.context, u"frmTotal", u"LoadTotal", false, [&] {
                // From now on, also after a failure, the screen only shows until totals are drawn from the store.
                sheet.changed = hasSaved_ = false;
                sheet.blnFileMode = true;
-               const QStringList selection = loadSheet(*file, totalMember(), totalColumns, sheet.grid, checkMonths);
+               const QStringList selection = loadCardFile(*file, totalMember(), totalColumns, sheet.grid, checkMonths);
                readImage(sheet);
                TotalsQuestion question = question_;
                question.section = selection[0];

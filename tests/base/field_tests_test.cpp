@@ -41,9 +41,6 @@ TEST(FieldTests, KindsOfText) {
         EXPECT_EQ(IsSingleByte(text), singleByte) << text;
         EXPECT_EQ(isTimeText(text), time) << text;
     }
-    EXPECT_EQ(CountOf(u"1/2/日"_q, u"/"_q), 2);
-    EXPECT_EQ(CountOf(QString(), u"/"_q), 0);
-    EXPECT_EQ(CountOf(u"abc"_q, QString()), 0);
 }
 
 TEST(Prefectures, HaveTheNumbersOfTheStandard) {

@@ -36,12 +36,6 @@ TEST(Files, PathsAreTakenApart) {
     EXPECT_EQ(FolderOf(u"/b.mdb"_q), QString());
     EXPECT_EQ(FileNameOf(u"b.mdb"_q), u"b.mdb"_q);
     EXPECT_EQ(FolderOf(u"b.mdb"_q), u"b.mdb"_q);
-    EXPECT_EQ(WithoutExtension(u"b.tar.gz"_q), u"b"_q);
-    EXPECT_EQ(WithoutExtension(u"b"_q), u"b"_q);
-    EXPECT_EQ(SplitFileList(QStringList{u"/a"_q, u"1.csv"_q, u"2.csv"_q, QString()}.join(QChar())),
-              (QStringList{u"/a/1.csv"_q, u"/a/2.csv"_q}));
-    EXPECT_EQ(SplitFileList(u"/a/1.csv"_q), QStringList{u"/a/1.csv"_q});
-    EXPECT_EQ(SplitFileList(QString()), QStringList());
 }
 
 TEST(Files, AFailedReplaceKeepsTheOldFile) {

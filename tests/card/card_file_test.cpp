@@ -3,7 +3,7 @@
 #include "card/card_office.h"
 #include "card/card_screen.h"
 #include "screen/files/archive.h"
-#include "screen/files/sheet_file.h"
+#include "screen/files/card_file.h"
 
 #include <QDir>
 
@@ -68,7 +68,7 @@ TEST_F(CardFile, ShowsAgainWhatWasSavedAndForbidsTheRest) {
 TEST_F(CardFile, AFileOfNobodyKnownIsShownAndNoWayToOthersCards) {
     saved();
     GridModel grid;
-    const QStringList selection = loadSheet(file, u"Kurbo.tmp"_q, cardColumns, grid);
+    const QStringList selection = loadCardFile(file, u"Kurbo.tmp"_q, cardColumns, grid);
     logIn(u"1003"_q);
     connection.execute(u"UPDATE M02_StaffInfo SET F_Access = 1 WHERE (F_StaffCode = '1003')"_q);
     logIn(u"1003"_q);
@@ -79,7 +79,7 @@ TEST_F(CardFile, AFileOfNobodyKnownIsShownAndNoWayToOthersCards) {
     desk.prompts.expect(u"アクセス権がありません。"_q);
     EXPECT_FALSE(screen.chooseMonth(3));
     EXPECT_TRUE(screen.sheet.blnFileMode);
-    saveSheet(file, u"Kurbo.tmp"_q, grid, {u"S99"_q, u"9999"_q, selection[2], selection[3]});
+    saveCardFile(file, u"Kurbo.tmp"_q, grid, {u"S99"_q, u"9999"_q, selection[2], selection[3]});
     ASSERT_TRUE(load(file));
     EXPECT_EQ(shown(), u"S99 9999 2026/04/01 08:52"_q);
     connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName, F_Section, F_Display) "
@@ -96,9 +96,9 @@ TEST_F(CardFile, RefusesOtherFilesAndStaysInFileMode) {
     GridModel other;
     other.reset({.rows = 5, .columns = 27});
     const QString totals = desk.file(u"totals.krb"_q);
-    saveSheet(totals, u"Total.tmp"_q, other, {u"S01"_q, u""_q, u"2026/04"_q, u"2026/05"_q});
+    saveCardFile(totals, u"Total.tmp"_q, other, {u"S01"_q, u""_q, u"2026/04"_q, u"2026/05"_q});
     const QString narrow = desk.file(u"narrow.krb"_q);
-    saveSheet(narrow, u"Kurbo.tmp"_q, other, {u"S01"_q, u"1001"_q, april, endOfApril});
+    saveCardFile(narrow, u"Kurbo.tmp"_q, other, {u"S01"_q, u"1001"_q, april, endOfApril});
     const QString before = shown();
     for (const QString& wrong : {totals, narrow, path}) {
         desk.prompts.expect(u"ファイル形式が異なります。"_q);
@@ -108,7 +108,7 @@ TEST_F(CardFile, RefusesOtherFilesAndStaysInFileMode) {
     }
     desk.prompts.expectFile(totals).expect(u"ファイル形式が異なります。"_q);
     EXPECT_FALSE(screen.saveKrb(april, endOfApril)) << "a file of the other screen isn't spoilt";
-    EXPECT_EQ(loadSheet(totals, u"Total.tmp"_q, 27, other)[3], u"2026/05"_q);
+    EXPECT_EQ(loadCardFile(totals, u"Total.tmp"_q, 27, other)[3], u"2026/05"_q);
     EXPECT_TRUE(screen.display(april, endOfApril));
     EXPECT_TRUE(QDir(desk.folder.path()).entryList({u"*.tmp"_q}).isEmpty());
 }

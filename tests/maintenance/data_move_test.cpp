@@ -36,7 +36,7 @@ class AtSteps final : public Progress {
 
 class DataMove : public OldDays {
   protected:
-    QString run(const MoveOrder& given) {
+    OptimizeResult run(const MoveOrder& given) {
         bar = {};
         bar.act = act;
         return carryOut({desk.prompts, desk.clock, desk.paths, bar}, connection, path, given);
@@ -47,7 +47,7 @@ class DataMove : public OldDays {
         const bool open = connection.isOpen();
         QString said;
         try {
-            said = run(given);
+            (void)run(given);
         } catch (const Complaint& complaint) {
             said = complaint.description();
         } catch (const Fault& fault) {
@@ -89,7 +89,7 @@ TEST_F(DataMove, MovesEachRowOfTheRangeAndRenumbersTheOthers) {
         QFile::remove(destination + u".old"_q);
         replaceFile(destination, "replaced without a question");
         connection.open(path, databasePassword());
-        EXPECT_EQ(run(order(withMonths)), u"OK"_q);
+        EXPECT_EQ(run(order(withMonths)), OptimizeResult::OK);
         EXPECT_TRUE(bar.ended && bar.shown == u"処理中です・・・100");
         for (const int mark : {10, 40, 60, 80, 100}) EXPECT_TRUE(bar.steps.contains(mark)) << mark;
         EXPECT_EQ(asked(u"SELECT Min(F_KurboID) FROM T02_Kurbo"_q), u"1"_q) << "the connection is open again";
@@ -112,13 +112,13 @@ TEST_F(DataMove, AnEmptiedCardTableIsNotRenumbered) {
     MoveOrder given = order(false);
     given.startDay = makeDay(2026, 1, 1);
     given.endDay = today;
-    EXPECT_EQ(run(given), u"OK"_q);
+    EXPECT_EQ(run(given), OptimizeResult::OK);
     EXPECT_EQ(count(u"T02_Kurbo"_q) + count(u"T03_GoOut"_q), 0);
     EXPECT_EQ(contentsOf(destination).cards.first()[0], u"51"_q) << "the copy keeps its numbers";
 }
 
 TEST_F(DataMove, EveryWordOfTheCompactionHasItsEnd) {
-    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_EQ(run(order(false)), OptimizeResult::OK);
     {
         Connection other;
         other.open(path, databasePassword());
@@ -131,7 +131,7 @@ TEST_F(DataMove, EveryWordOfTheCompactionHasItsEnd) {
     sqlite3_close(tool);
     connection.close();
     replaceFile(desk.file(u"store.ldb"_q), {});
-    EXPECT_EQ(run(order(false)), u"ExistLdb"_q) << "left by a crash: without a word";
+    EXPECT_EQ(run(order(false)), OptimizeResult::ExistLdb) << "left by a crash: without a word";
     QFile::remove(desk.file(u"store.ldb"_q));
     ASSERT_TRUE(QFile::rename(path, desk.file(u"away.mdb"_q)));
     EXPECT_EQ(refusalOf([&] { (void)run(order(false)); }),
@@ -140,7 +140,7 @@ TEST_F(DataMove, EveryWordOfTheCompactionHasItsEnd) {
 }
 
 TEST_F(DataMove, ADestinationInUseIsLeftAlone) {
-    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_EQ(run(order(false)), OptimizeResult::OK);
     const Contents old = contentsOf(destination);
     Connection reader;
     reader.open(destination, databasePassword());
@@ -162,7 +162,7 @@ TEST_F(DataMove, LeavingsOfAnOldDestinationGo) {
               })),
               Died);
     ASSERT_TRUE(files().contains(u"old.mdb-journal"_q));
-    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_EQ(run(order(false)), OptimizeResult::OK);
     EXPECT_TRUE(contentsOf(destination) == moved(before, order(false)));
 }
 
@@ -187,7 +187,7 @@ TEST_F(DataMove, NoOtherClientGetsInBetween) {
         other.close();
         if (addedByTool(path, id + 1000)) cards.append(QString::number(id + 1000));
     };
-    EXPECT_EQ(run(order(false)), u"OK"_q);
+    EXPECT_EQ(run(order(false)), OptimizeResult::OK);
     EXPECT_GE(inside, 4) << "at every mark but the first";
     EXPECT_EQ(cards, QStringList({u"1010"_q, u"2010"_q})) << "before the database was taken";
     QStringList found;
@@ -224,7 +224,7 @@ TEST_F(DataMove, AtEachCallOfTheDiskEveryDayIsInOneOfBothFiles) {
     const auto write = [&](const Context& context) {
         return guarded(context, u"frmMaintainance", u"cmdExec_Click", false, [&] {
             Connection own;
-            return carryOut(context, own, path, given) == u"OK";
+            return carryOut(context, own, path, given) == OptimizeResult::OK;
         });
     };
     const auto isWritten = [&] {
@@ -245,12 +245,12 @@ TEST_F(DataMove, AKilledMoveThatIsRepeatedKeepsEachOlderFile) {
     replaceFile(destination, "the archive");
     EXPECT_EQ(endOf(startChild([&] {
                   act = [](int step) { return step == 80 ? ::kill(::getpid(), SIGKILL) : 0; };
-                  return run(order(true)) == u"OK" ? 0 : 1;
+                  return run(order(true)) == OptimizeResult::OK ? 0 : 1;
               })),
               Died);
     EXPECT_TRUE(contentsOf(path) == before);
     LockFile::removeStale(path);
-    EXPECT_EQ(run(order(true)), u"OK"_q);
+    EXPECT_EQ(run(order(true)), OptimizeResult::OK);
     EXPECT_EQ(readFile(destination + u".old"_q), "the archive");
     const QString copy = desk.file(u"copy.mdb"_q);
     replaceFile(copy, readFile(destination + u".old2"_q));

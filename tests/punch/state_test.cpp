@@ -5,11 +5,12 @@
 namespace kurbo::test {
 namespace {
 
-// One row a day, counted back from today: "enter leave leaves", "-" for none.
+// One row a day, counted back from today: "enter leave leaves", "-" for none; today's has the id 100, yesterday's 99.
 struct Case {
     QStringList rows; // today, yesterday, ...; an empty one is no row
-    QString timeCard;
-    QString kurboId;
+    DayRow today;
+    std::int64_t openToLeave; // ids of the open rows, 0 for none
+    std::int64_t openToGoOut;
 };
 
 class State : public SampleCompany {
@@ -33,28 +34,33 @@ TEST_F(State, IsReadFromTheRows) {
     const QString done = u"09:00 17:00 -"_q;
     const QString open = u"09:00 - -"_q;
     const QString blank = u"- - -"_q;
-    for (const auto& [rows, timeCard, kurboId] :
-         {Case{{}, u"NR"_q, u"NR"_q}, Case{{none, done}, u"NE"_q, u"NE"_q},
-          Case{{none, open}, u"ND2026/04/14"_q, u"ND2026/04/1499"_q},
-          Case{{none, none, open}, u"ND2026/04/13"_q, u"ND2026/04/1398"_q},
-          Case{{none, u"- - 0"_q}, u"NE"_q, u"ND2026/04/1499"_q},
-          Case{{none, u"09:00 - 0"_q}, u"NE"_q, u"ND2026/04/1499"_q},
-          Case{{none, u"09:00 - 1"_q}, u"ND2026/04/14"_q, u"ND2026/04/1499"_q},
-          Case{{none, u"09:00 12:00 2"_q}, u"NE"_q, u"NE"_q}, Case{{blank}, u"EE"_q, u"ID100"_q},
-          Case{{blank, done}, u"EE"_q, u"ID100"_q}, Case{{blank, open}, u"RD2026/04/14"_q, u"ID100"_q},
-          Case{{u"- - 0"_q, open}, u"RD2026/04/14"_q, u"ID100"_q}, Case{{open, open}, u"AE"_q, u"ID100"_q},
-          Case{{done, open}, u"AL"_q, u"ID100"_q}, Case{{u"- 17:00 -"_q}, u"AL"_q, u"ID100"_q}}) {
+    const auto openIn = [](const std::optional<PunchState>& state) {
+        return state && state->open ? state->open->id : 0;
+    };
+    for (const auto& [rows, row, openToLeave, openToGoOut] :
+         {Case{{}, DayRow::None, 0, 0}, Case{{none, done}, DayRow::None, 0, 0},
+          Case{{none, open}, DayRow::None, 99, 99}, Case{{none, none, open}, DayRow::None, 98, 98},
+          Case{{none, u"- - 0"_q}, DayRow::None, 0, 99}, Case{{none, u"09:00 - 0"_q}, DayRow::None, 0, 99},
+          Case{{none, u"09:00 - 1"_q}, DayRow::None, 99, 99}, Case{{none, u"09:00 12:00 2"_q}, DayRow::None, 0, 0},
+          Case{{blank}, DayRow::NotEntered, 0, 0}, Case{{blank, done}, DayRow::NotEntered, 0, 0},
+          Case{{blank, open}, DayRow::NotEntered, 99, 99}, Case{{u"- - 0"_q, open}, DayRow::NotEntered, 99, 99},
+          Case{{open, open}, DayRow::Entered, 99, 99}, Case{{done, open}, DayRow::Left, 99, 99},
+          Case{{u"- 17:00 -"_q}, DayRow::Left, 0, 0}}) {
         makeRows(rows);
-        EXPECT_EQ(TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now()).text, timeCard)
-            << rows.join(u"; "_q);
-        EXPECT_EQ(GetKurboID(desk.context, connection, u"1001"_q, desk.clock.now()).text, kurboId);
+        const auto state = TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now());
+        ASSERT_TRUE(state);
+        EXPECT_EQ(state->today, row) << rows.join(u"; "_q);
+        EXPECT_EQ(state->cardId, row == DayRow::None ? 0 : 100);
+        EXPECT_EQ(openIn(state), openToLeave) << rows.join(u"; "_q);
+        EXPECT_EQ(openIn(GetKurboID(desk.context, connection, u"1001"_q, desk.clock.now())), openToGoOut);
     }
 }
 
 TEST_F(State, DoesNotSeeLaterDaysOrOtherPeople) {
     addCard(1, today + std::chrono::days(1), u"09:00"_q, QString());
     addCard(2, today, u"09:00"_q, QString(), {}, u"1002"_q);
-    EXPECT_EQ(TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now()).text, u"NR"_q);
+    const auto state = TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now());
+    EXPECT_TRUE(state && state->today == DayRow::None && !state->open);
 }
 
 TEST_F(State, OtherLeavesFinishADayToo) {
@@ -62,24 +68,16 @@ TEST_F(State, OtherLeavesFinishADayToo) {
     for (const QString& field : {u"F_Special"_q, u"F_Compens"_q}) {
         connection.execute(u"UPDATE T02_Kurbo SET F_Special = Null, F_Compens = Null"_q);
         connection.execute(u"UPDATE T02_Kurbo SET "_q + field + u" = '0'"_q);
-        EXPECT_EQ(TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now()).text, u"NE"_q) << field;
+        const auto state = TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now());
+        EXPECT_TRUE(state && !state->open) << field;
     }
 }
 
-TEST_F(State, PartsOfTheText) {
-    const StatusCode code{u"ND2004/02/19123"_q};
-    EXPECT_TRUE(code.is(u"ND"));
-    EXPECT_EQ(code.date(), u"2004/02/19"_q);
-    EXPECT_EQ(code.dateId(), u"20040219"_q);
-    EXPECT_EQ(code.cardId(), 123);
-    EXPECT_EQ(StatusCode{u"ID45"_q}.cardId(), 45);
-}
-
-TEST_F(State, AFailureIsAnError) {
+TEST_F(State, AFailureIsReported) {
     connection.close();
     desk.prompts.expect(u"エラー番号："_q).expect(u"エラー番号："_q);
-    EXPECT_TRUE(TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now()).failed());
-    EXPECT_TRUE(GetKurboID(desk.context, connection, u"1001"_q, desk.clock.now()).failed());
+    EXPECT_FALSE(TimeCardStatus(desk.context, connection, u"1001"_q, desk.clock.now()));
+    EXPECT_FALSE(GetKurboID(desk.context, connection, u"1001"_q, desk.clock.now()));
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－GetKurboID"_q);
 }
 

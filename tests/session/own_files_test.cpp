@@ -15,7 +15,7 @@ namespace {
 class ParmFile : public ::testing::Test {
   protected:
     ParmFile() { replaceFile(database, "x"); }
-    QString read(const QByteArray& bytes) {
+    ParmResult read(const QByteArray& bytes) {
         replaceFile(desk.paths.ParmPath, bytes);
         return ReadParm(desk.context, desk.paths.ParmPath, dbPath);
     }
@@ -26,30 +26,30 @@ class ParmFile : public ::testing::Test {
 };
 
 TEST_F(ParmFile, IsReadAsItWasWritten) {
-    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), u"NoParm"_q);
+    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::NoParm);
     ASSERT_TRUE(WriteParm(desk.context, desk.paths.ParmPath, database));
     EXPECT_EQ(readFile(desk.paths.ParmPath), *toCodePage(u'"' + database + u"\"\r\n"_q));
-    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), u"OK"_q);
+    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::OK);
     EXPECT_EQ(dbPath, database);
     replaceFile(desk.paths.ParmPath, "");
-    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), u"InputPastEnd"_q);
+    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::InputPastEnd);
 }
 
 TEST_F(ParmFile, EveryOtherContent) {
-    EXPECT_EQ(read("\"\"\r\n"), u"Install"_q);
-    EXPECT_EQ(read("\r\n"), u"Install"_q);
-    EXPECT_EQ(read("\"/no/such.mdb\"\r\n"), u"NoDB"_q);
+    EXPECT_EQ(read("\"\"\r\n"), ParmResult::Install);
+    EXPECT_EQ(read("\r\n"), ParmResult::Install);
+    EXPECT_EQ(read("\"/no/such.mdb\"\r\n"), ParmResult::NoDB);
     EXPECT_EQ(dbPath, u"/no/such.mdb"_q);
-    EXPECT_EQ(read(toCodePageVisibly(database + u"\r\n"_q)), u"OK"_q) << "without quotes";
-    EXPECT_EQ(read("\"" + toCodePageVisibly(database)), u"OK"_q) << "without the closing quote";
-    EXPECT_EQ(read(toCodePageVisibly(u'"' + database + u"\"\r\nmore"_q)), u"OK"_q);
-    EXPECT_EQ(read("\xff\xfe\x00garbage"), u"NoDB"_q);
+    EXPECT_EQ(read(toCodePageVisibly(database + u"\r\n"_q)), ParmResult::OK) << "without quotes";
+    EXPECT_EQ(read("\"" + toCodePageVisibly(database)), ParmResult::OK) << "without the closing quote";
+    EXPECT_EQ(read(toCodePageVisibly(u'"' + database + u"\"\r\nmore"_q)), ParmResult::OK);
+    EXPECT_EQ(read("\xff\xfe\x00garbage"), ParmResult::NoDB);
 }
 
 TEST_F(ParmFile, WhatCantBeReadOrWrittenIsReported) {
     QDir(desk.folder.path()).mkdir(u"Parm.dat"_q);
     desk.prompts.expect(u"エラー番号："_q);
-    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), u"Error"_q);
+    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::Error);
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.File－ReadParm"_q);
     desk.prompts.expect(u"エラー番号："_q);
     EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, database));

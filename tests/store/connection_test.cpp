@@ -128,7 +128,6 @@ TEST_F(Connections, GuardsLeaveALaterOpeningAlone) {
         connection.open(path, databasePassword());
         EXPECT_THROW(transaction.commit(), Fault);
     }
-    EXPECT_FALSE(connection.inTransaction());
     EXPECT_EQ(connection.execute(addCorp, {u"甲"_q}), 1);
     const Reading outer(connection);
     const Reading inner(connection);

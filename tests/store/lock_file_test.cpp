@@ -16,7 +16,7 @@
 namespace kurbo::test {
 namespace {
 
-Patience in(int milliseconds) {
+Deadline in(int milliseconds) {
     return std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 class Optimize : public SampleCompany {
   protected:
-    QString run(const QString& name, const QString& password = databasePassword()) {
+    OptimizeResult run(const QString& name, const QString& password = databasePassword()) {
         return OptimizeDB(desk.context, name, password);
     }
     [[nodiscard]] QStringList files() const {
@@ -41,7 +41,7 @@ TEST_F(Optimize, MakesTheFileSmallerAndKeepsItWhole) {
     const qint64 before = QFileInfo(path).size();
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     replaceFile(desk.file(u"store.bak"_q), "left by a crash between copying and renaming");
-    EXPECT_EQ(run(path), u"OK"_q);
+    EXPECT_EQ(run(path), OptimizeResult::OK);
     EXPECT_LT(QFileInfo(path).size(), before / 2);
     EXPECT_EQ(files(), QStringList(u"store.mdb"_q));
     EXPECT_EQ(QFile::permissions(path) & QFile::ReadOther, QFile::Permissions());
@@ -51,31 +51,31 @@ TEST_F(Optimize, MakesTheFileSmallerAndKeepsItWhole) {
 }
 
 TEST_F(Optimize, EachRefusalHasItsWordAndTouchesNothing) {
-    EXPECT_EQ(run(path), u"ExistLdb"_q) << "this very test is connected";
+    EXPECT_EQ(run(path), OptimizeResult::ExistLdb) << "this very test is connected";
     connection.close();
     const QByteArray whole = readFile(path);
     replaceFile(desk.file(u"store.ldb"_q), {});
-    EXPECT_EQ(run(path), u"ExistLdb"_q) << "left by a crash";
+    EXPECT_EQ(run(path), OptimizeResult::ExistLdb) << "left by a crash";
     QFile::remove(desk.file(u"store.ldb"_q));
 
     sqlite3* tool = nullptr;
     sqlite3_open(path.toUtf8().constData(), &tool);
     sqlite3_exec(tool, "BEGIN; SELECT * FROM C01_Corp", nullptr, nullptr, nullptr);
-    EXPECT_EQ(run(path), u"Opened"_q);
+    EXPECT_EQ(run(path), OptimizeResult::Opened);
     sqlite3_close(tool);
 
-    EXPECT_EQ(run(desk.file(u"none.mdb"_q)), u"NoFile"_q);
-    EXPECT_EQ(run(desk.file(u"none/a.mdb"_q)), u"NoPath"_q);
-    EXPECT_EQ(run(desk.file(u"store.txt"_q)), u"NotMdb"_q);
+    EXPECT_EQ(run(desk.file(u"none.mdb"_q)), OptimizeResult::NoFile);
+    EXPECT_EQ(run(desk.file(u"none/a.mdb"_q)), OptimizeResult::NoPath);
+    EXPECT_EQ(run(desk.file(u"store.txt"_q)), OptimizeResult::NotMdb);
     replaceFile(desk.file(u"TEXT.MDB"_q), "no database");
-    EXPECT_EQ(run(desk.file(u"TEXT.MDB"_q)), u"NotMdb"_q);
+    EXPECT_EQ(run(desk.file(u"TEXT.MDB"_q)), OptimizeResult::NotMdb);
 
     desk.prompts.expect(u"パスワード"_q);
-    EXPECT_EQ(run(path, u"other"_q), u"Error"_q);
+    EXPECT_EQ(run(path, u"other"_q), OptimizeResult::Error);
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.Store－OptimizeDB"_q);
     desk.prompts.expect(u"壊れています"_q);
     replaceFile(desk.file(u"cut.mdb"_q), whole.left(whole.size() - 8192));
-    EXPECT_EQ(run(desk.file(u"cut.mdb"_q)), u"Error"_q);
+    EXPECT_EQ(run(desk.file(u"cut.mdb"_q)), OptimizeResult::Error);
     EXPECT_EQ(readFile(desk.file(u"cut.mdb"_q)), whole.left(whole.size() - 8192));
     EXPECT_EQ(readFile(path), whole);
     EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"TEXT.MDB"_q, u"cut.mdb"_q, u"store.mdb"_q}));
@@ -87,15 +87,15 @@ TEST_F(Optimize, FollowsALinkAndKeepsTheGroup) {
     ASSERT_TRUE(QFile::link(path, link));
     const bool root = ::geteuid() == 0;
     if (root && ::chown(path.toUtf8().constData(), 0, 100) != 0) ADD_FAILURE() << "no other group";
-    EXPECT_EQ(run(link), u"OK"_q);
+    EXPECT_EQ(run(link), OptimizeResult::OK);
     EXPECT_TRUE(QFileInfo(link).isSymLink());
     EXPECT_TRUE(!root || QFileInfo(path).groupId() == 100U);
     connection.open(link, databasePassword());
     EXPECT_TRUE(QFileInfo::exists(desk.file(u"store.ldb"_q))) << "one lock file, whatever the name";
-    EXPECT_EQ(run(path), u"ExistLdb"_q);
+    EXPECT_EQ(run(path), OptimizeResult::ExistLdb);
     connection.close();
     ASSERT_EQ(::link(path.toUtf8().constData(), desk.file(u"twin.mdb"_q).toUtf8().constData()), 0);
-    EXPECT_EQ(run(path), u"Opened"_q) << "a second name would keep the old contents";
+    EXPECT_EQ(run(path), OptimizeResult::Opened) << "a second name would keep the old contents";
     copyDatabase(path, link);
     EXPECT_TRUE(QFileInfo(link).isSymLink()) << "a file is not copied over itself";
 }
@@ -106,7 +106,7 @@ TEST_F(Optimize, APlaceThatCantBeWrittenKeepsTheFile) {
     {
         const AsNobody nobody;
         desk.prompts.expect(u"書き込みが許可されていません"_q);
-        EXPECT_EQ(run(path), u"Error"_q);
+        EXPECT_EQ(run(path), OptimizeResult::Error);
     }
     EXPECT_EQ(readFile(path), whole);
 }
@@ -119,7 +119,7 @@ TEST_F(Optimize, WhateverACrashLeavesIsForNobodyElse) {
         ++call;
         end = endOf(startChild([&] {
             failAtCall(DiskFailure::Killed, call);
-            if (run(path) != u"OK") return 1;
+            if (run(path) != OptimizeResult::OK) return 1;
             copyDatabase(path, desk.paths.BackupPath);
             return 0;
         }));

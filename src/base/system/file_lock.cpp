@@ -76,7 +76,7 @@ void unlock(int descriptor, std::int64_t byte) {
     ::fcntl(descriptor, F_OFD_SETLK, &range);
 }
 
-bool lockWithin(int descriptor, std::int64_t byte, LockKind kind, Patience until, const std::function<void()>& notice) {
+bool lockWithin(int descriptor, std::int64_t byte, LockKind kind, Deadline until, const std::function<void()>& notice) {
     if (tryLock(descriptor, byte, kind)) return true;
     const Ticker ticker;
     if (!ticker.armed()) return false;

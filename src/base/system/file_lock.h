@@ -31,10 +31,16 @@ enum class LockKind { Shared, Exclusive };
 [[nodiscard]] bool tryLock(int descriptor, std::int64_t byte, LockKind kind);
 void unlock(int descriptor, std::int64_t byte);
 
-using Patience = std::chrono::steady_clock::time_point;
+using Deadline = std::chrono::steady_clock::time_point;
 
 // Waits for the byte until `until`; `notice` runs about ten times a second meanwhile. False when the time is over.
-[[nodiscard]] bool lockWithin(int descriptor, std::int64_t byte, LockKind kind, Patience until,
+//
+// It takes the signal SIGRTMAX, as only a signal ends a blocked lock call early. From the moment it has to wait until
+// it returns, a timer sends one to the calling thread ten times a second; no other thread gets any. The handler, which
+// does nothing, stays for good, in place of whatever the program had there. For the caller that means: nobody else may
+// use SIGRTMAX, a thread that waits must not block it (the wait would not end in time), and a system call made by
+// `notice` may end with EINTR.
+[[nodiscard]] bool lockWithin(int descriptor, std::int64_t byte, LockKind kind, Deadline until,
                               const std::function<void()>& notice);
 
 } // namespace kurbo

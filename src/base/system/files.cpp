@@ -72,18 +72,6 @@ QString FolderOf(const QString& path) {
     return path.left(path.lastIndexOf(u'/'));
 }
 
-QString WithoutExtension(const QString& fileName) {
-    return fileName.left(fileName.indexOf(u'.'));
-}
-
-QStringList SplitFileList(const QString& chosen) {
-    QStringList names = chosen.split(QChar(u'\0'), Qt::SkipEmptyParts);
-    if (names.size() < 2) return names;
-    const QString folder = addSlash(names.takeFirst());
-    for (QString& name : names) name.prepend(folder);
-    return names;
-}
-
 QByteArray readFile(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
     const Descriptor file{::open(name.constData(), O_RDONLY | O_CLOEXEC)};

@@ -21,10 +21,6 @@ namespace kurbo {
 // What follows the last slash, and what stands before it; the whole text without one.
 [[nodiscard]] QString FileNameOf(const QString& path);
 [[nodiscard]] QString FolderOf(const QString& path);
-// What stands before the name's first dot; the whole name without one.
-[[nodiscard]] QString WithoutExtension(const QString& fileName);
-// The paths of a folder and names that NUL characters part. A single field is a path already.
-[[nodiscard]] QStringList SplitFileList(const QString& chosen);
 
 // All bytes of a file; throws a Fault.
 [[nodiscard]] QByteArray readFile(const QString& path);

@@ -20,7 +20,7 @@ constexpr int always = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
 Descriptor openPlain(const QString& path, int access) {
     Descriptor file{::open(QFile::encodeName(path).constData(), access | always)};
     struct stat found {};
-    // A file that has lost its name meanwhile is its caller's business.
+    // A file without any name, deleted since, passes: its caller finds that out.
     if (file.get() < 0 || (::fstat(file.get(), &found) == 0 && S_ISREG(found.st_mode) && found.st_nlink <= 1))
         return file;
     file.reset();

@@ -10,7 +10,7 @@
 namespace kurbo {
 namespace {
 
-// To the window, which sends the release to the same part.
+// Sent to the window and not to the control: then the release goes to the same control.
 void pressAgain(const QMouseEvent& press) {
     const QPointF place = press.globalPosition();
     const QWidget* const under = QApplication::widgetAt(place.toPoint());
@@ -55,12 +55,12 @@ void DataCombo::setBoundText(const QString& code) {
     if (currentIndex() < 0) setEditText(code);
 }
 
-// A turn of the wheel over the window must not choose somebody else.
+// The wheel, meant to scroll the window, must not choose another entry.
 void DataCombo::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }
 
-// Nobody has opened the list of what matches the typing, and so no click goes into closing it.
+// The list of what matches the typing opens by itself: the click that closes it also does what it was meant to.
 bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
     QAbstractItemView* const matches = completer()->popup();
     if (watched != matches || event->type() != QEvent::MouseButtonPress) return QComboBox::eventFilter(watched, event);

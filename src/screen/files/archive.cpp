@@ -30,7 +30,7 @@ using Source = std::unique_ptr<zip_source_t, Free>;
 // An archive within its limits, as it is read and before it is written.
 struct Member {
     QString name;
-    zip_uint64_t place = 0;
+    zip_uint64_t index = 0;
     qsizetype size = 0;
     QByteArray bytes;
 };
@@ -66,12 +66,12 @@ bool isSound(const zip_stat_t& stat) {
            (stat.comp_method == ZIP_CM_STORE || stat.comp_method == ZIP_CM_DEFLATE) && stat.size <= maxMemberBytes;
 }
 
-Member memberAt(zip_t* zip, zip_uint64_t place) {
+Member memberAt(zip_t* zip, zip_uint64_t index) {
     zip_stat_t stat;
     zip_stat_init(&stat);
-    if (zip_stat_index(zip, place, ZIP_FL_ENC_RAW, &stat) != 0 || !isSound(stat)) throw foreignFile();
+    if (zip_stat_index(zip, index, ZIP_FL_ENC_RAW, &stat) != 0 || !isSound(stat)) throw foreignFile();
     return {
-        .name = QString::fromLatin1(stat.name), .place = place, .size = static_cast<qsizetype>(stat.size), .bytes = {}};
+        .name = QString::fromLatin1(stat.name), .index = index, .size = static_cast<qsizetype>(stat.size), .bytes = {}};
 }
 
 // Throws unless the members are what an archive holds.
@@ -91,7 +91,7 @@ QList<Member> membersOf(zip_t* zip) {
     const zip_int64_t count = zip_get_num_entries(zip, 0);
     if (count > maxMembers) throw foreignFile();
     QList<Member> members;
-    for (zip_int64_t place = 0; place < count; ++place) members.append(memberAt(zip, static_cast<zip_uint64_t>(place)));
+    for (zip_int64_t index = 0; index < count; ++index) members.append(memberAt(zip, static_cast<zip_uint64_t>(index)));
     check(members);
     std::stable_partition(members.begin(), members.end(),
                           [](const Member& member) { return member.name != listedLast; });
@@ -105,7 +105,7 @@ QList<Member> membersOf(const QString& archive) {
 
 // Room for one byte more than declared: the last read then meets the end, where the library compares size and checksum.
 QByteArray bytesOf(zip_t* zip, const Member& member) {
-    const std::unique_ptr<zip_file_t, Free> file(zip_fopen_index(zip, member.place, 0));
+    const std::unique_ptr<zip_file_t, Free> file(zip_fopen_index(zip, member.index, 0));
     if (!file) throw foreignFile();
     QByteArray bytes(member.size + 1, Qt::Uninitialized);
     qsizetype done = 0;
@@ -141,7 +141,7 @@ QByteArray written(zip_source_t* source) {
     return bytes;
 }
 
-// Closing an archive takes a share of its source, so that one is kept to read from.
+// zip_close() releases its source; zip_source_keep() leaves one reference to read from.
 QByteArray zipped(const QList<Member>& members) {
     const Source target = sourceOf({});
     Zip zip(zip_open_from_source(target.get(), ZIP_CREATE | ZIP_TRUNCATE, nullptr));
@@ -162,7 +162,7 @@ QByteArray zipped(const QList<Member>& members) {
 void ArchiveAdd(const QString& archive, const QString& file) {
     QList<Member> members = loaded(archive);
     const QByteArray bytes = readForeignFile(file, maxMemberBytes);
-    const Member added{.name = QFileInfo(file).fileName(), .place = 0, .size = bytes.size(), .bytes = bytes};
+    const Member added{.name = QFileInfo(file).fileName(), .index = 0, .size = bytes.size(), .bytes = bytes};
     const auto same = std::ranges::find(members, added.name, &Member::name);
     if (same != members.end())
         *same = added;

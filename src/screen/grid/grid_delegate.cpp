@@ -73,13 +73,13 @@ void paintBox(QPainter& painter, const QStyleOptionViewItem& option, const QMode
 // "0" is a digit that must be there, "#" one that may; the toolkit's signs for them are "9" and "0".
 QString inputMask(const QString& mask) {
     QString own;
-    for (const QChar place : mask) own += place == u'#' ? u'0' : place == u'0' ? u'9' : place;
+    for (const QChar sign : mask) own += sign == u'#' ? u'0' : sign == u'0' ? u'9' : sign;
     return own.isEmpty() ? own : own + QStringLiteral(";_");
 }
 
 QString withoutSigns(QString text, const QString& mask) {
-    for (const QChar place : mask)
-        if (place != u'#' && place != u'0') text.remove(place);
+    for (const QChar sign : mask)
+        if (sign != u'#' && sign != u'0') text.remove(sign);
     return text;
 }
 
@@ -237,15 +237,20 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
 bool GridDelegate::keyPressed(QKeyEvent* event) {
     struct Way {
         int key;
-        int rows;
-        int columns;
-        bool inLists; // a list uses the key itself where this is false
+        int rows = 0;
+        int columns = 0;
+        bool inLists = false; // a list uses the key itself where this is false
     };
     constexpr int page = 10;
     constexpr std::array ways{
-        Way{Qt::Key_Return, 1, 0, true},      Way{Qt::Key_Enter, 1, 0, true},        Way{Qt::Key_Tab, 0, 1, true},
-        Way{Qt::Key_Backtab, 0, -1, true},    Way{Qt::Key_Up, -1, 0, false},         Way{Qt::Key_Down, 1, 0, false},
-        Way{Qt::Key_PageUp, -page, 0, false}, Way{Qt::Key_PageDown, page, 0, false},
+        Way{.key = Qt::Key_Return, .rows = 1, .inLists = true},
+        Way{.key = Qt::Key_Enter, .rows = 1, .inLists = true},
+        Way{.key = Qt::Key_Tab, .columns = 1, .inLists = true},
+        Way{.key = Qt::Key_Backtab, .columns = -1, .inLists = true},
+        Way{.key = Qt::Key_Up, .rows = -1},
+        Way{.key = Qt::Key_Down, .rows = 1},
+        Way{.key = Qt::Key_PageUp, .rows = -page},
+        Way{.key = Qt::Key_PageDown, .rows = page},
     };
     if (event->key() == Qt::Key_Escape) {
         cancel();

@@ -119,7 +119,7 @@ void Grid::mousePressEvent(QMouseEvent* event) {
     if (finishEdit()) QTableView::mousePressEvent(event);
 }
 
-// A list that dropped down before the button is up would go with it again.
+// A list that drops down while the button is pressed would be closed by its release.
 void Grid::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
     if (std::exchange(listWanted_, false)) openCells().openList();

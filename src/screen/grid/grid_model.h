@@ -93,7 +93,7 @@ class GridModel final : public QAbstractTableModel {
     [[nodiscard]] const GridList& ColComboList(int column) const;
     void ColFormat(int column, const QString& format);
     [[nodiscard]] QString ColFormat(int column) const;
-    // Places of an edited text: "0" a digit that must be there, "#" one that may be there, other signs themselves.
+    // The signs of an edited text: "0" a digit that must be there, "#" one that may be there, other signs themselves.
     void ColEditMask(int column, const QString& mask);
     [[nodiscard]] QString ColEditMask(int column) const;
     void ColDataType(int column, GridType type);

@@ -53,20 +53,20 @@ void frmHelp::connectCommands() {
     wireEscape(*this);
 }
 
-void frmHelp::showTopic(const QStringList& places) {
+void frmHelp::showTopic(const QStringList& anchors) {
     QFile file(path_);
     const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    const auto known = [&text](const QString& place) {
-        return text.contains(QStringLiteral("name=\"%1\"").arg(place));
+    const auto known = [&text](const QString& anchor) {
+        return text.contains(QStringLiteral("name=\"%1\"").arg(anchor));
     };
-    const auto found = std::ranges::find_if(places, known);
-    goTo(found == places.end() ? QString() : *found);
+    const auto found = std::ranges::find_if(anchors, known);
+    goTo(found == anchors.end() ? QString() : *found);
 }
 
-// The top, without a place.
-void frmHelp::goTo(const QString& place) {
+// The top, without an anchor.
+void frmHelp::goTo(const QString& anchor) {
     QUrl url = QUrl::fromLocalFile(path_);
-    if (!place.isEmpty()) url.setFragment(place);
+    if (!anchor.isEmpty()) url.setFragment(anchor);
     ui_->txtHelp->setSource(url, QTextDocument::HtmlResource);
 }
 

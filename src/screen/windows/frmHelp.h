@@ -21,12 +21,12 @@ class frmHelp final : public QMainWindow {
     frmHelp(const frmHelp&) = delete;
     frmHelp& operator=(const frmHelp&) = delete;
 
-    // Goes to the first of these places that the file has, or to its top. The window must be on the screen.
-    void showTopic(const QStringList& places);
+    // Goes to the first of these anchors that the file has, or to its top. The window must be on the screen.
+    void showTopic(const QStringList& anchors);
 
   private:
     void connectCommands();
-    void goTo(const QString& place);
+    void goTo(const QString& anchor);
     void find(QTextDocument::FindFlags direction);
 
     const std::unique_ptr<Ui::frmHelp> ui_;

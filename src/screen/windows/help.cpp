@@ -11,14 +11,14 @@ namespace kurbo {
 namespace {
 
 // From the active control to the window that holds it; the controls of an array share their name.
-QStringList placesOf(const QWidget& window) {
+QStringList anchorsOf(const QWidget& window) {
     const QString form = window.objectName();
-    QStringList places;
+    QStringList anchors;
     for (const QWidget* control = window.focusWidget(); control && control != &window;
          control = control->parentWidget())
         for (const QString& name : {control->objectName(), control->objectName().section(u'_', 0, 0)})
-            places.append(form + u'.' + name);
-    return places << form;
+            anchors.append(form + u'.' + name);
+    return anchors << form;
 }
 
 } // namespace
@@ -29,10 +29,10 @@ void openHelp(Prompts& prompts, const QString& path, QWidget& window) {
         prompts.exclaim(lines(QStringLiteral("ヘルプファイル"), path, QStringLiteral("が見つかりません。")));
         return;
     }
-    const QStringList places = placesOf(window);
+    const QStringList anchors = anchorsOf(window);
     auto* const help = new frmHelp(file, &window);
     help->show();
-    help->showTopic(places);
+    help->showTopic(anchors);
 }
 
 void wireHelp(QWidget& window, const Client& client) {

@@ -24,9 +24,9 @@ Day lastOf(int year) {
 
 void Calendar::load() {
     Connection& connection = client_.HomeConnection;
-    clsWorkTime rules;
-    readCompanyStyle(connection, rules);
-    sheet.kinds = GridList(holidayKinds(rules));
+    clsWorkTime style;
+    readCompanyStyle(connection, style);
+    sheet.kinds = GridList(holidayKinds(style));
     const int thisYear = yearOf(client_.context.clock.today());
     const auto first = firstCalendarDay(connection);
     if (!first) CreateCalendar(client_.context.progress, connection, firstOf(thisYear), lastOf(thisYear));
@@ -46,8 +46,7 @@ void Calendar::offerMissingDays(int year) {
         lines(QStringLiteral("%1年のカレンダーには、作成されていない日が%2日あります。").arg(year).arg(missing),
               QStringLiteral("データ移動で移した日も含まれます。作成した日は勤務日になります。"), QString(),
               QStringLiteral("作成してよろしいですか？"));
-    const Message asked{{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel};
-    if (client_.context.prompts.ask(asked) == Answer::Ok)
+    if (client_.context.prompts.agrees(question, Answer::Cancel))
         CreateCalendar(client_.context.progress, connection, firstOf(year), lastOf(year));
 }
 
@@ -62,9 +61,8 @@ bool Calendar::mayMake(int year, bool later) const {
         prompts.exclaim(QStringLiteral("これ以上前のカレンダーは作成できません。"));
         return false;
     }
-    const QString question = lines(QString::number(year) + QStringLiteral("年のカレンダーは作成されていません。"),
-                                   QString(), QStringLiteral("作成してよろしいですか？"));
-    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) == Answer::Ok;
+    return prompts.agrees(lines(QString::number(year) + QStringLiteral("年のカレンダーは作成されていません。"),
+                                QString(), QStringLiteral("作成してよろしいですか？")));
 }
 
 bool Calendar::moveYear(int years, bool changed) {

@@ -8,8 +8,8 @@ using namespace std::chrono;
 namespace kurbo {
 namespace {
 
-constexpr GridColour red{255, 0, 0};
-constexpr GridColour blue{0, 0, 255};
+constexpr GridColour red{.red = 255, .green = 0, .blue = 0};
+constexpr GridColour blue{.red = 0, .green = 0, .blue = 255};
 
 void describeColumns(GridModel& grid, const QString& kinds) {
     const auto width = [&grid](CalendarColumn column, int twips) { grid.ColWidth(static_cast<int>(column), twips); };
@@ -32,11 +32,11 @@ std::optional<GridColour> colourOf(Day day) {
 
 } // namespace
 
-QString holidayKinds(const clsWorkTime& rules) {
+QString holidayKinds(const clsWorkTime& style) {
     QString list = QStringLiteral("|#0;全日");
-    if (rules.plngAmHolidayWork > 0) list += QStringLiteral("|#1;午前");
-    if (rules.plngPmHolidayWork > 0) list += QStringLiteral("|#2;午後");
-    if (rules.pbleEnableLegalHoliday) list += QStringLiteral("|#3;法定休日");
+    if (style.plngAmHolidayWork > 0) list += QStringLiteral("|#1;午前");
+    if (style.plngPmHolidayWork > 0) list += QStringLiteral("|#2;午後");
+    if (style.pbleEnableLegalHoliday) list += QStringLiteral("|#3;法定休日");
     return list;
 }
 

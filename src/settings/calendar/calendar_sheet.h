@@ -30,8 +30,8 @@ struct CalendarSheet {
     }
 };
 
-// The grid's list of the kinds of holiday under these rules; no entry stands for a working day.
-[[nodiscard]] QString holidayKinds(const clsWorkTime& rules);
+// The grid's list of the kinds of holiday in this work style; no entry stands for a working day.
+[[nodiscard]] QString holidayKinds(const clsWorkTime& style);
 
 // One day as it is stored; empty texts for Null.
 struct CalendarRow {

@@ -50,7 +50,7 @@ void frmCalendar::readAll() {
     ui_->vfgCalendar->setFocus();
 }
 
-// Nothing stands behind the other commands while no year could be read.
+// Without a year that could be read there is nothing to print or to set.
 void frmCalendar::showState() {
     SettingsForm::showState();
     ui_->txtYear->setText(isAlive() ? QString::number(calendar_.sheet.year) : QString());

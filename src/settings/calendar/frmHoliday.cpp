@@ -44,7 +44,7 @@ void frmHoliday::showYear() {
 void frmHoliday::write() {
     guarded(client_.context, objectName(), u"cmdWrite_Click", [this] {
         checkRules(rules_);
-        if (!isSure(client_.context.prompts, QStringLiteral("指定された休日をカレンダーに設定します。"))) return;
+        if (!client_.context.prompts.sure(QStringLiteral("指定された休日をカレンダーに設定します。"))) return;
         writeRules(rules_, calendar_);
         close();
     });

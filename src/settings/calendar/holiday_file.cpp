@@ -120,7 +120,7 @@ std::optional<HolidayFile> chooseHolidays(const Context& context, int year) {
     const auto file = ReadHolidayFile(path);
     if (!file) return {};
     const auto own = yearOfHeading(file->heading);
-    if (!own || *own == year) return isSure(context.prompts, file->heading) ? file : std::nullopt;
+    if (!own || *own == year) return context.prompts.sure(file->heading) ? file : std::nullopt;
     const QString differs =
         QStringLiteral("祝日ファイル「Holiday.txt」は%1年のもので、カレンダーの%2年とは異なります。")
             .arg(*own)
@@ -130,9 +130,7 @@ std::optional<HolidayFile> chooseHolidays(const Context& context, int year) {
                       lines(differs, QStringLiteral("%1年の祝日ファイルを作成して、その祝日を追加しますか？").arg(year),
                             QStringLiteral("(今のファイルは「.old」を付けた名前で残します。)"))))
         return madeFor(context, year);
-    const QString question = lines(file->heading, differs, QString(), QStringLiteral("よろしいですか？"));
-    const Message asked{{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel};
-    return context.prompts.ask(asked) == Answer::Ok ? file : std::nullopt;
+    return context.prompts.sure(lines(file->heading, differs), Answer::Cancel) ? file : std::nullopt;
 }
 
 } // namespace kurbo

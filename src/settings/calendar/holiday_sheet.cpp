@@ -62,14 +62,22 @@ struct Entry {
 };
 
 constexpr std::array entries{
-    Entry{HolidayColumn::Method, 900, u"休日の指定方法を選択します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
-    Entry{HolidayColumn::Weekday, 900, u"休日を設定する曜日を選択します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
-    Entry{HolidayColumn::From, 900,
-          u"休日を設定する期間の開始日(mm/dd)を入力します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
-    Entry{HolidayColumn::To, 900,
-          u"休日を設定する期間の終了日(mm/dd)を入力します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
-    Entry{HolidayColumn::Name, 2800, u"休日名称を入力します(例：夏季休暇)"},
-    Entry{HolidayColumn::Kind, 900, u"休日種別を選択します(全日休日, 午前休日, 午後休日, 法定休日)"},
+    Entry{.column = HolidayColumn::Method,
+          .twips = 900,
+          .tip = u"休日の指定方法を選択します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
+    Entry{.column = HolidayColumn::Weekday,
+          .twips = 900,
+          .tip = u"休日を設定する曜日を選択します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
+    Entry{.column = HolidayColumn::From,
+          .twips = 900,
+          .tip = u"休日を設定する期間の開始日(mm/dd)を入力します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
+    Entry{.column = HolidayColumn::To,
+          .twips = 900,
+          .tip = u"休日を設定する期間の終了日(mm/dd)を入力します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
+    Entry{.column = HolidayColumn::Name, .twips = 2800, .tip = u"休日名称を入力します(例：夏季休暇)"},
+    Entry{.column = HolidayColumn::Kind,
+          .twips = 900,
+          .tip = u"休日種別を選択します(全日休日, 午前休日, 午後休日, 法定休日)"},
 };
 
 } // namespace

@@ -24,16 +24,16 @@ struct Heading {
 };
 
 constexpr std::array headings{
-    Heading{u"出勤閲覧", u"タイムカード", u"閲覧"},
-    Heading{u"予定更新", u"予定", u"更新"},
-    Heading{u"出退更新", u"出退社時刻", u"更新"},
-    Heading{u"有休更新", u"有給休暇", u"更新", &clsWorkTime::pbleEnablePaid},
-    Heading{u"特休更新", u"特別休暇", u"更新", &clsWorkTime::pbleEnableSpecial},
-    Heading{u"代休更新", u"代休", u"更新", &clsWorkTime::pbleEnableCompens},
-    Heading{u"外出閲覧", u"外出明細", u"閲覧"},
-    Heading{u"外出更新", u"外出明細", u"更新"},
-    Heading{u"月次更新", u"月次集計データ", u"更新"},
-    Heading{u"削除", u"タイムカード", u"削除"},
+    Heading{.caption = u"出勤閲覧", .data = u"タイムカード", .verb = u"閲覧"},
+    Heading{.caption = u"予定更新", .data = u"予定", .verb = u"更新"},
+    Heading{.caption = u"出退更新", .data = u"出退社時刻", .verb = u"更新"},
+    Heading{.caption = u"有休更新", .data = u"有給休暇", .verb = u"更新", .shown = &clsWorkTime::pbleEnablePaid},
+    Heading{.caption = u"特休更新", .data = u"特別休暇", .verb = u"更新", .shown = &clsWorkTime::pbleEnableSpecial},
+    Heading{.caption = u"代休更新", .data = u"代休", .verb = u"更新", .shown = &clsWorkTime::pbleEnableCompens},
+    Heading{.caption = u"外出閲覧", .data = u"外出明細", .verb = u"閲覧"},
+    Heading{.caption = u"外出更新", .data = u"外出明細", .verb = u"更新"},
+    Heading{.caption = u"月次更新", .data = u"月次集計データ", .verb = u"更新"},
+    Heading{.caption = u"削除", .data = u"タイムカード", .verb = u"削除"},
 };
 static_assert(firstRight + 2 * headings.size() == lastRight);
 
@@ -51,7 +51,7 @@ void writeSecondHeading(GridModel& grid) {
     grid.fillRow(1, cells << QStringLiteral("承認") << QString());
 }
 
-void describeColumns(GridModel& grid, const clsWorkTime& rules) {
+void describeColumns(GridModel& grid, const clsWorkTime& style) {
     constexpr int sectionWidth = 1500;
     constexpr int rightWidth = 500;
     for (const auto column : {AccessColumn::Code, AccessColumn::Name, AccessColumn::Order})
@@ -63,7 +63,7 @@ void describeColumns(GridModel& grid, const clsWorkTime& rules) {
         grid.ColWidth(column, rightWidth);
         grid.ColDataType(column, GridType::YesNo);
         const auto heading = static_cast<std::size_t>(column - firstRight) / 2;
-        if (column != lastRight && headings[heading].shown) grid.ColHidden(column, !(rules.*headings[heading].shown));
+        if (column != lastRight && headings[heading].shown) grid.ColHidden(column, !(style.*headings[heading].shown));
     }
 }
 
@@ -137,9 +137,9 @@ void insertRow(Connection& connection, const Values& key, const AccessSheet& she
         fields.append(fieldAt(column));
         values.append(Value::yesNo(!sheet.grid.ColHidden(column) && sheet.grid.CellChecked(row, column)));
     }
-    const QString places = QStringList(fields.size(), QStringLiteral("?")).join(QStringLiteral(", "));
+    const QString placeholders = QStringList(fields.size(), QStringLiteral("?")).join(QStringLiteral(", "));
     connection.execute(
-        QStringLiteral("INSERT INTO M08_Access (%1) VALUES (%2)").arg(fields.join(QStringLiteral(", ")), places),
+        QStringLiteral("INSERT INTO M08_Access (%1) VALUES (%2)").arg(fields.join(QStringLiteral(", ")), placeholders),
         values);
 }
 
@@ -197,7 +197,7 @@ QString accessSections(Connection& connection) {
     return list;
 }
 
-void ShowAccess(Connection& connection, int code, const clsWorkTime& rules, AccessSheet& sheet) {
+void ShowAccess(Connection& connection, int code, const clsWorkTime& style, AccessSheet& sheet) {
     const QList<AccessRow> stored = storedRows(connection, code);
     const QString sections = accessSections(connection);
     GridModel& grid = sheet.grid;
@@ -207,7 +207,7 @@ void ShowAccess(Connection& connection, int code, const clsWorkTime& rules, Acce
     grid.FormatString(formatString());
     grid.MergeHeadings(true);
     writeSecondHeading(grid);
-    describeColumns(grid, rules);
+    describeColumns(grid, style);
     grid.ColComboList(sectionColumn, sections);
     for (int i = 0; i < stored.size(); ++i) {
         grid.TextMatrix(firstAccessRow + i, sectionColumn, stored[i].section);

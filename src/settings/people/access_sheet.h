@@ -47,7 +47,7 @@ class AccessRules final : public GridRules {
 // The list of the section column.
 [[nodiscard]] QString accessSections(Connection& connection);
 // Fills the grid with a right's rows and 20 empty ones. Columns of leaves that the company doesn't use are hidden.
-void ShowAccess(Connection& connection, int code, const clsWorkTime& rules, AccessSheet& sheet);
+void ShowAccess(Connection& connection, int code, const clsWorkTime& style, AccessSheet& sheet);
 
 // Throws the complaint of the first rule that fails. The code is 0 for a new right.
 void checkAccess(Connection& connection, int code, const QString& name, const AccessSheet& sheet);

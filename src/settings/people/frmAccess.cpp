@@ -89,11 +89,13 @@ void frmAccess::updateRight() {
 void frmAccess::deleteRight() {
     Connection& home = client_.HomeConnection;
     const QString reserved = code() == 0 ? QStringLiteral("「%1」").arg(newAccessName()) : QString();
-    const Removal removal{reserved,
-                          QStringLiteral("アクセス権"),
-                          QStringLiteral("アクセス権の削除に失敗しました。"),
-                          [&] { return IsUsedAccess(home, code()); },
-                          {u"DeleteAccess", [&] { DeleteAccess(home, code()); }}};
+    const Removal removal{
+        .reserved = reserved,
+        .subject = QStringLiteral("アクセス権"),
+        .failure = QStringLiteral("アクセス権の削除に失敗しました。"),
+        .isUsed = [&] { return IsUsedAccess(home, code()); },
+        .remove = {u"DeleteAccess", [&] { DeleteAccess(home, code()); }},
+    };
     if (removeSetting(client_.context, objectName(), removal)) reload(u"ShowAccess", [this] { showRight(noCode); });
 }
 

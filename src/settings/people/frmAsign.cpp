@@ -169,8 +169,7 @@ void frmAsign::deleteStaff() {
     const QString question =
         lines(QStringLiteral("選択したユーザーの設定を削除します。"),
               QStringLiteral("削除したユーザーはログインできなくなります。"), QStringLiteral("よろしいですか？"));
-    if (client_.context.prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok)
-        return;
+    if (!client_.context.prompts.agrees(question)) return;
     const bool gone = guarded(client_.context, objectName(), u"DeleteStaff", false, [this] {
         DeleteStaff(client_.HomeConnection, staff_);
         return true;

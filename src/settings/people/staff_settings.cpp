@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/field_tests.h"
 #include "base/numbers.h"
+#include "settings/listing.h"
 #include "store/record_set.h"
 
 namespace kurbo {
@@ -30,46 +31,94 @@ bool isSeconds(const QString& text) {
     return IsIntegerText(text, IntegerMode::NotNegative) && *numberOf(text) <= mostSeconds;
 }
 
-struct FieldRule {
+struct FieldFacts {
     const char16_t* field;
-    const char16_t* name;    // in front of "が不正です。"
-    const char16_t* rule;    // behind it
-    const char16_t* missing; // null where nothing has to stand
+    const char16_t* name;              // in front of "が不正です。"
+    const char16_t* demand;            // behind it
+    const char16_t* missing = nullptr; // null where nothing has to stand
     bool (*takes)(const QString& text);
     const char16_t* label; // in the listing
 };
 
-constexpr std::array<FieldRule, StaffSettings::fields> fieldRules{{
-    {u"F_Password", u"パスワード", u"パスワードは半角英数字10文字以内で入力します。",
-     u"パスワードが入力されていません。", isPassword, u"         ﾊﾟｽﾜｰﾄﾞ："},
-    {u"F_CloseDay", u"タイムカード締日", u"タイムカード締日は1～27, 31(末締は31)の範囲で入力します。",
-     u"締日が入力されていません。", isCloseDay, u"     ﾀｲﾑｶｰﾄﾞ締日："},
-    {u"F_PaidTotal", u"有給休暇残数", u"数値を入力して下さい。", u"有給休暇残数が入力されていません。", isNumeric,
-     u"    有給休暇残数："},
-    {u"F_EnterDelay", u"出社時刻調整時間", u"出社時刻調整時間は0～999(秒)の範囲で入力します。", nullptr, isSeconds,
-     u"    出社時刻調整："},
-    {u"F_LeaveGain", u"退社時刻調整時間", u"退社時刻調整時間は0～999(秒)の範囲で入力します。", nullptr, isSeconds,
-     u"    退社時刻調整："},
+// In the order of the fields.
+constexpr std::array<FieldFacts, StaffSettings::fields> fieldFacts{{
+    {.field = u"F_Password",
+     .name = u"パスワード",
+     .demand = u"パスワードは半角英数字10文字以内で入力します。",
+     .missing = u"パスワードが入力されていません。",
+     .takes = isPassword,
+     .label = u"ﾊﾟｽﾜｰﾄﾞ"},
+    {.field = u"F_CloseDay",
+     .name = u"タイムカード締日",
+     .demand = u"タイムカード締日は1～27, 31(末締は31)の範囲で入力します。",
+     .missing = u"締日が入力されていません。",
+     .takes = isCloseDay,
+     .label = u"ﾀｲﾑｶｰﾄﾞ締日"},
+    {.field = u"F_PaidTotal",
+     .name = u"有給休暇残数",
+     .demand = u"数値を入力して下さい。",
+     .missing = u"有給休暇残数が入力されていません。",
+     .takes = isNumeric,
+     .label = u"有給休暇残数"},
+    {.field = u"F_EnterDelay",
+     .name = u"出社時刻調整時間",
+     .demand = u"出社時刻調整時間は0～999(秒)の範囲で入力します。",
+     .takes = isSeconds,
+     .label = u"出社時刻調整"},
+    {.field = u"F_LeaveGain",
+     .name = u"退社時刻調整時間",
+     .demand = u"退社時刻調整時間は0～999(秒)の範囲で入力します。",
+     .takes = isSeconds,
+     .label = u"退社時刻調整"},
 }};
 
-struct ChoiceRule {
+struct ChoiceFacts {
     const char16_t* field;
     const char16_t* table;
     const char16_t* code;
     const char16_t* name;
-    const char16_t* word; // in its messages
-    const char16_t* label;
+    const char16_t* word;  // in its messages
+    const char16_t* label; // in the listing
 };
 
-constexpr std::array<ChoiceRule, StaffSettings::choices> choiceRules{{
-    {u"F_Weekday", u"M03_WeekdayStyle", u"F_WeekdayCode", u"F_WeekdayName", u"平日勤務形態", u"        平日勤務："},
-    {u"F_Holiday", u"M04_HolidayStyle", u"F_HolidayCode", u"F_HolidayName", u"休日勤務形態", u"        休日勤務："},
-    {u"F_AmHoliday", u"M05_AmHolidayStyle", u"F_AmHolidayCode", u"F_AmHolidayName", u"午前休日勤務形態",
-     u"    午前休日勤務："},
-    {u"F_PmHoliday", u"M06_PmHolidayStyle", u"F_PmHolidayCode", u"F_PmHolidayName", u"午後休日勤務形態",
-     u"    午後休日勤務："},
-    {u"F_AdjustHours", u"M07_AdjustHours", u"F_AdjustCode", u"F_AdjustName", u"時間調整方法", u"    時間調整方法："},
-    {u"F_Access", u"M08_Access", u"F_AccessCode", u"F_AccessName", u"アクセス権", u"          ｱｸｾｽ権："},
+// In the order of the choices.
+constexpr std::array<ChoiceFacts, StaffSettings::choices> choiceFacts{{
+    {.field = u"F_Weekday",
+     .table = u"M03_WeekdayStyle",
+     .code = u"F_WeekdayCode",
+     .name = u"F_WeekdayName",
+     .word = u"平日勤務形態",
+     .label = u"平日勤務"},
+    {.field = u"F_Holiday",
+     .table = u"M04_HolidayStyle",
+     .code = u"F_HolidayCode",
+     .name = u"F_HolidayName",
+     .word = u"休日勤務形態",
+     .label = u"休日勤務"},
+    {.field = u"F_AmHoliday",
+     .table = u"M05_AmHolidayStyle",
+     .code = u"F_AmHolidayCode",
+     .name = u"F_AmHolidayName",
+     .word = u"午前休日勤務形態",
+     .label = u"午前休日勤務"},
+    {.field = u"F_PmHoliday",
+     .table = u"M06_PmHolidayStyle",
+     .code = u"F_PmHolidayCode",
+     .name = u"F_PmHolidayName",
+     .word = u"午後休日勤務形態",
+     .label = u"午後休日勤務"},
+    {.field = u"F_AdjustHours",
+     .table = u"M07_AdjustHours",
+     .code = u"F_AdjustCode",
+     .name = u"F_AdjustName",
+     .word = u"時間調整方法",
+     .label = u"時間調整方法"},
+    {.field = u"F_Access",
+     .table = u"M08_Access",
+     .code = u"F_AccessCode",
+     .name = u"F_AccessName",
+     .word = u"アクセス権",
+     .label = u"ｱｸｾｽ権"},
 }};
 
 QString word(const char16_t* text) {
@@ -90,11 +139,11 @@ Value fieldValue(Field field, const QString& text) {
     return wholeOf<int>(number);
 }
 
-void requireChoice(Connection& connection, const ChoiceRule& rule, int code) {
+void requireChoice(Connection& connection, const ChoiceFacts& facts, int code) {
     const QString statement =
-        QStringLiteral("SELECT %1 FROM %2 WHERE (%1 = ?);").arg(word(rule.code), word(rule.table));
+        QStringLiteral("SELECT %1 FROM %2 WHERE (%1 = ?);").arg(word(facts.code), word(facts.table));
     if (!connection.hasRow(statement, {code}))
-        throw Complaint(word(rule.word) +
+        throw Complaint(word(facts.word) +
                         QStringLiteral("は他のユーザーによって削除されています。選択し直して下さい。"));
 }
 
@@ -103,14 +152,14 @@ void requireStaff(Connection& connection, const QString& staff) {
         throw Complaint(QStringLiteral("選択した社員は他のユーザーによって削除されています。"));
 }
 
-void setFields(Connection& connection, RecordSet& row, const StaffSettings& settings, const clsWorkTime& rules) {
-    for (std::size_t i = 0; i < fieldRules.size(); ++i)
-        row.set(word(fieldRules[i].field), fieldValue(static_cast<Field>(i), settings.texts[i].trimmed()));
-    for (std::size_t i = 0; i < choiceRules.size(); ++i) {
-        if (!isUsed(static_cast<Choice>(i), rules)) continue;
+void setFields(Connection& connection, RecordSet& row, const StaffSettings& settings, const clsWorkTime& style) {
+    for (std::size_t i = 0; i < fieldFacts.size(); ++i)
+        row.set(word(fieldFacts[i].field), fieldValue(static_cast<Field>(i), settings.texts[i].trimmed()));
+    for (std::size_t i = 0; i < choiceFacts.size(); ++i) {
+        if (!isUsed(static_cast<Choice>(i), style)) continue;
         const int code = settings.codes[i].toInt();
-        requireChoice(connection, choiceRules[i], code);
-        row.set(word(choiceRules[i].field), code);
+        requireChoice(connection, choiceFacts[i], code);
+        row.set(word(choiceFacts[i].field), code);
     }
 }
 
@@ -149,9 +198,9 @@ QString steppedSeconds(const QString& text, bool up) {
 
 } // namespace
 
-bool isUsed(StaffSettings::Choice choice, const clsWorkTime& rules) {
-    if (choice == StaffSettings::AmHoliday) return rules.plngAmHolidayWork > 0;
-    return choice != StaffSettings::PmHoliday || rules.plngPmHolidayWork > 0;
+bool isUsed(StaffSettings::Choice choice, const clsWorkTime& style) {
+    if (choice == StaffSettings::AmHoliday) return style.plngAmHolidayWork > 0;
+    return choice != StaffSettings::PmHoliday || style.plngPmHolidayWork > 0;
 }
 
 QList<CodeName> settingStaff(Connection& connection, const QString& section) {
@@ -164,15 +213,15 @@ QList<CodeName> settingStaff(Connection& connection, const QString& section) {
 }
 
 QList<CodeName> settingChoices(Connection& connection, StaffSettings::Choice choice) {
-    const ChoiceRule& rule = choiceRules[choice];
+    const ChoiceFacts& facts = choiceFacts[choice];
     Rows rows = connection.rows(QStringLiteral("SELECT DISTINCT %1, %2 FROM %3 WHERE (%1 > 0) ORDER BY %1;")
-                                    .arg(word(rule.code), word(rule.name), word(rule.table)));
+                                    .arg(word(facts.code), word(facts.name), word(facts.table)));
     QList<CodeName> entries;
     while (rows.next()) entries.append({rows.text(0), rows.text(1)});
     return entries;
 }
 
-StaffSettings ShowStaff(Connection& connection, const QString& staff, const clsWorkTime& rules) {
+StaffSettings ShowStaff(Connection& connection, const QString& staff, const clsWorkTime& style) {
     const RecordSet row(connection,
                         QStringLiteral("SELECT F_Password, F_CloseDay, F_PaidTotal, F_EnterDelay, F_LeaveGain, "
                                        "F_Weekday, F_Holiday, F_AmHoliday, F_PmHoliday, F_AdjustHours, F_Access "
@@ -180,33 +229,33 @@ StaffSettings ShowStaff(Connection& connection, const QString& staff, const clsW
                         {staff});
     StaffSettings settings;
     if (!row.atRow()) return settings;
-    for (std::size_t i = 0; i < fieldRules.size(); ++i)
-        settings.texts[i] = fieldText(static_cast<Field>(i), row.value(word(fieldRules[i].field)));
-    for (std::size_t i = 0; i < choiceRules.size(); ++i)
-        if (isUsed(static_cast<Choice>(i), rules)) settings.codes[i] = row.value(word(choiceRules[i].field)).text();
+    for (std::size_t i = 0; i < fieldFacts.size(); ++i)
+        settings.texts[i] = fieldText(static_cast<Field>(i), row.value(word(fieldFacts[i].field)));
+    for (std::size_t i = 0; i < choiceFacts.size(); ++i)
+        if (isUsed(static_cast<Choice>(i), style)) settings.codes[i] = row.value(word(choiceFacts[i].field)).text();
     return settings;
 }
 
 QString staffFieldRefusal(StaffSettings::Field field, const QString& text) {
-    const FieldRule& rule = fieldRules[field];
-    return rule.takes(text) ? QString() : QStringLiteral("不正な入力です。") + word(rule.rule);
+    const FieldFacts& facts = fieldFacts[field];
+    return facts.takes(text) ? QString() : QStringLiteral("不正な入力です。") + word(facts.demand);
 }
 
-void checkStaffSettings(const StaffSettings& settings, const clsWorkTime& rules) {
-    for (std::size_t i = 0; i < fieldRules.size(); ++i) {
-        const FieldRule& rule = fieldRules[i];
+void checkStaffSettings(const StaffSettings& settings, const clsWorkTime& style) {
+    for (std::size_t i = 0; i < fieldFacts.size(); ++i) {
+        const FieldFacts& facts = fieldFacts[i];
         const QString text = settings.texts[i].trimmed();
-        if (text.isEmpty() && rule.missing) throw Complaint(word(rule.missing));
-        if (!text.isEmpty() && !rule.takes(text))
-            throw Complaint(word(rule.name) + QStringLiteral("が不正です。") + word(rule.rule));
+        if (text.isEmpty() && facts.missing) throw Complaint(word(facts.missing));
+        if (!text.isEmpty() && !facts.takes(text))
+            throw Complaint(word(facts.name) + QStringLiteral("が不正です。") + word(facts.demand));
     }
-    for (std::size_t i = 0; i < choiceRules.size(); ++i)
-        if (isUsed(static_cast<Choice>(i), rules) && settings.codes[i].isEmpty())
-            throw Complaint(word(choiceRules[i].word) + QStringLiteral("が入力されていません。"));
+    for (std::size_t i = 0; i < choiceFacts.size(); ++i)
+        if (isUsed(static_cast<Choice>(i), style) && settings.codes[i].isEmpty())
+            throw Complaint(word(choiceFacts[i].word) + QStringLiteral("が入力されていません。"));
 }
 
 void UpdateStaff(Connection& connection, const QString& staff, const StaffSettings& settings,
-                 const clsWorkTime& rules) {
+                 const clsWorkTime& style) {
     Transaction transaction(connection);
     requireStaff(connection, staff);
     RecordSet row(connection, QStringLiteral("SELECT * FROM M02_StaffInfo WHERE (F_StaffCode = ?);"), {staff});
@@ -214,7 +263,7 @@ void UpdateStaff(Connection& connection, const QString& staff, const StaffSettin
         row.addNew();
         row.set(QStringLiteral("F_StaffCode"), staff);
     }
-    setFields(connection, row, settings, rules);
+    setFields(connection, row, settings, style);
     row.updateBatch();
     transaction.commit();
 }
@@ -230,13 +279,16 @@ QString stepped(StaffSettings::Field field, const QString& text, bool up) {
 }
 
 QStringList staffListing(const CodeName& section, const CodeName& staff, const StaffSettings& settings) {
+    constexpr int labelWidth = 16;
     QStringList listing{QStringLiteral("  部課：%1 (%2)").arg(section.code, section.name),
                         QStringLiteral("  氏名：%1 (%2)").arg(staff.code, staff.name)};
-    for (std::size_t i = 0; i < fieldRules.size(); ++i) {
+    for (std::size_t i = 0; i < fieldFacts.size(); ++i) {
         const QString& text = settings.texts[i];
-        listing.append(word(fieldRules[i].label) + (i == Field::Password ? QString(text.size(), u'*') : text));
+        listing.append(listingLabel(word(fieldFacts[i].label), labelWidth) +
+                       (i == Field::Password ? QString(text.size(), u'*') : text));
     }
-    for (std::size_t i = 0; i < choiceRules.size(); ++i) listing.append(word(choiceRules[i].label) + settings.codes[i]);
+    for (std::size_t i = 0; i < choiceFacts.size(); ++i)
+        listing.append(listingLabel(word(choiceFacts[i].label), labelWidth) + settings.codes[i]);
     return listing;
 }
 

@@ -22,21 +22,21 @@ struct StaffSettings {
 };
 
 // Whether the company uses what is chosen: there may be no half holidays.
-[[nodiscard]] bool isUsed(StaffSettings::Choice choice, const clsWorkTime& rules);
+[[nodiscard]] bool isUsed(StaffSettings::Choice choice, const clsWorkTime& style);
 // The displayed people of a section, or all of them without one.
 [[nodiscard]] QList<CodeName> settingStaff(Connection& connection, const QString& section);
 // What can be chosen.
 [[nodiscard]] QList<CodeName> settingChoices(Connection& connection, StaffSettings::Choice choice);
 
 // Blank for a person without a row.
-[[nodiscard]] StaffSettings ShowStaff(Connection& connection, const QString& staff, const clsWorkTime& rules);
+[[nodiscard]] StaffSettings ShowStaff(Connection& connection, const QString& staff, const clsWorkTime& style);
 // Why a typed text, trimmed and not empty, can't be taken; empty when it can.
 [[nodiscard]] QString staffFieldRefusal(StaffSettings::Field field, const QString& text);
 // Throws the complaint of the first rule that fails.
-void checkStaffSettings(const StaffSettings& settings, const clsWorkTime& rules);
+void checkStaffSettings(const StaffSettings& settings, const clsWorkTime& style);
 // Stores checked settings; a half holiday that the company doesn't have keeps its old code. Complains when the person
 // or a choice has been deleted meanwhile.
-void UpdateStaff(Connection& connection, const QString& staff, const StaffSettings& settings, const clsWorkTime& rules);
+void UpdateStaff(Connection& connection, const QString& staff, const StaffSettings& settings, const clsWorkTime& style);
 void DeleteStaff(Connection& connection, const QString& staff);
 
 // A field's text after its up or down button.

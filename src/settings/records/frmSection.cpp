@@ -12,7 +12,12 @@ frmSection::frmSection(Client& client, QWidget* parent)
     ui_->setupUi(this);
     ui_->cboDB->setEntries({{currentDatabase(), currentDatabase()}});
     dressList(QStringLiteral("部課情報登録"), QStringLiteral("部課情報"),
-              {ui_->dtsSection, ui_->picSection, ui_->cmdUp, ui_->cmdDown, ui_->cmdUpdate, ui_->cmdPrint});
+              {.list = ui_->dtsSection,
+               .record = ui_->picSection,
+               .up = ui_->cmdUp,
+               .down = ui_->cmdDown,
+               .update = ui_->cmdUpdate,
+               .print = ui_->cmdPrint});
     connect(ui_->cmdDB, &QAbstractButton::clicked, this, &frmSection::browse);
     placeInMiddle(this);
 }

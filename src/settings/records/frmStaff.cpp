@@ -12,7 +12,12 @@ frmStaff::frmStaff(Client& client, QWidget* parent)
     : RecordListForm(client, parent, staffList()), ui_(std::make_unique<Ui::frmStaff>()) {
     ui_->setupUi(this);
     dressList(QStringLiteral("社員情報登録"), QStringLiteral("社員情報"),
-              {ui_->dtsStaff, ui_->picStaff, ui_->cmdUp, ui_->cmdDown, ui_->cmdUpdate, ui_->cmdPrint});
+              {.list = ui_->dtsStaff,
+               .record = ui_->picStaff,
+               .up = ui_->cmdUp,
+               .down = ui_->cmdDown,
+               .update = ui_->cmdUpdate,
+               .print = ui_->cmdPrint});
     checkFieldsOnLeaving();
     statusBar()->setSizeGripEnabled(false);
     placeInMiddle(this);

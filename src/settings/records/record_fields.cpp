@@ -4,6 +4,7 @@
 #include "base/field_tests.h"
 #include "base/system/code_page.h"
 #include "screen/fields/prefectures.h"
+#include "settings/listing.h"
 #include "settings/settings_steps.h"
 
 #include <algorithm>
@@ -36,6 +37,30 @@ bool isGood(const RecordField& field, const QString& typed, const QStringList& c
     return true;
 }
 
+// What would be right in a field that is left with a bad text.
+QString demandOf(const RecordField& field) {
+    if (field.demand) return text(field.demand);
+    const QString subject = text(field.subject);
+    switch (field.kind) {
+    case FieldKind::Text:
+    case FieldKind::Name:
+        return subject +
+               QStringLiteral("は全角%1文字(半角%2文字)以内で入力します。").arg(field.limit / 2).arg(field.limit);
+    case FieldKind::SingleByte:
+    case FieldKind::Code:
+        return subject + QStringLiteral("は半角%1文字以内で入力します。").arg(field.limit);
+    case FieldKind::Date:
+        return subject + QStringLiteral("はyyyy/mm/ddの形式で入力します。");
+    default:
+        return subject + QStringLiteral("はリストから選択して下さい。");
+    }
+}
+
+QString demandOnUpdate(const RecordField& field) {
+    if (field.demandOnUpdate) return text(field.demandOnUpdate);
+    return field.kind == FieldKind::Date ? QStringLiteral("日付をyyyy/mm/dd形式で入力します。") : demandOf(field);
+}
+
 bool isChosen(const RecordField& field) {
     return field.kind == FieldKind::Prefecture || field.kind == FieldKind::List;
 }
@@ -61,16 +86,15 @@ void checkCode(const RecordField& field, const QString& code, const ReservedReco
     if (code.toUpper() == text(reserved.otherCode).toUpper()) refuseCode(field, text(reserved.otherCode));
 }
 
-void checkField(const RecordField& field, const QString& typed, const RecordRules& rules) {
+void checkField(const RecordField& field, const QString& typed, const FieldChecks& checks) {
     if (typed.isEmpty() && field.required)
         throw FieldComplaint(text(field.subject) + QStringLiteral("が入力されていません。"), {text(field.control)});
     if (typed.isEmpty()) return;
-    if (field.kind == FieldKind::Name) checkName(field, typed, *rules.reserved);
-    if (!isGood(field, typed, rules.choices))
-        throw FieldComplaint(text(field.subject) + QStringLiteral("が不正です。") +
-                                 text(field.ruleOnUpdate ? field.ruleOnUpdate : field.rule),
+    if (field.kind == FieldKind::Name) checkName(field, typed, *checks.reserved);
+    if (!isGood(field, typed, checks.choices))
+        throw FieldComplaint(text(field.subject) + QStringLiteral("が不正です。") + demandOnUpdate(field),
                              {text(field.control)});
-    if (field.kind == FieldKind::Code) checkCode(field, typed, *rules.reserved);
+    if (field.kind == FieldKind::Code) checkCode(field, typed, *checks.reserved);
 }
 
 // Prefectures have been stored by their names, too.
@@ -114,7 +138,7 @@ Value valueOf(const RecordField& field, const QString& typed) {
 }
 
 QString wordOf(const RecordField& field, const QString& typed) {
-    if (field.kind == FieldKind::Option) return text(typed == u"1" ? field.rule : field.subject);
+    if (field.kind == FieldKind::Option) return text(typed == u"1" ? field.oneWord : field.zeroWord);
     if (field.kind == FieldKind::Flag) return typed.isEmpty() ? QStringLiteral("しない") : QStringLiteral("する");
     return typed;
 }
@@ -135,15 +159,15 @@ QString refusalOnLeaving(const RecordField& field, const QString& typed, const Q
     const QString wrong = QStringLiteral("不正な入力です。");
     if (typed.isEmpty()) return {};
     if (!isGood(field, typed, choices))
-        return isChosen(field) ? QStringLiteral("リストから選択して下さい｡ ") : wrong + text(field.rule);
+        return isChosen(field) ? QStringLiteral("リストから選択して下さい｡ ") : wrong + demandOf(field);
     if (field.kind == FieldKind::Code && isNewCode(typed))
         return wrong + QStringLiteral("「%1」はシステム予約コードです。").arg(newCode());
     return {};
 }
 
-void checkFields(RecordFields fields, const RecordTexts& texts, const RecordRules& rules) {
+void checkFields(RecordFields fields, const RecordTexts& texts, const FieldChecks& checks) {
     for (std::size_t i = 0; i < fields.size(); ++i)
-        checkField(fields[i], texts[static_cast<qsizetype>(i)].trimmed(), rules);
+        checkField(fields[i], texts[static_cast<qsizetype>(i)].trimmed(), checks);
 }
 
 RecordTexts readFields(RecordFields fields, const RecordSet& row) {
@@ -168,10 +192,14 @@ int fieldAt(RecordFields fields, QStringView name) {
 }
 
 QStringList fieldLines(RecordFields fields, const RecordTexts& texts, const QHash<QString, QString>& notes) {
+    constexpr int indent = 2;
+    int widest = 0;
+    for (const RecordField& field : fields) widest = std::max(widest, byteLength(text(field.label)));
     QStringList listing;
     for (qsizetype i = 0; i < texts.size(); ++i) {
         const RecordField& field = fields[static_cast<std::size_t>(i)];
-        listing.append(text(field.line) + wordOf(field, texts[i]) + notes.value(text(field.name)));
+        listing.append(listingLabel(text(field.label), indent + widest) + wordOf(field, texts[i]) +
+                       notes.value(text(field.name)));
     }
     return listing;
 }

@@ -14,17 +14,20 @@ enum class FieldKind { Text, SingleByte, Name, Code, Date, Prefecture, List, Opt
 
 // One field of a record, with all that the store, the screen, the listing and the messages call it.
 struct RecordField {
-    const char16_t* name;
-    const char16_t* control;
-    const char16_t* line; // the label in the listing
-    FieldKind kind;
-    int limit; // Text and Name: bytes; SingleByte and Code: characters; Prefecture: the first code of its list
-    bool japanese;
-    bool required;
-    const char16_t* subject;                // of messages; of an option the word for 0
-    const char16_t* rule;                   // what would be right; of an option the word for 1
-    const char16_t* ruleOnUpdate = nullptr; // where the check before an update says it in other words
-    const char16_t* preset = nullptr;       // what most new records have there
+    const char16_t* name = u"";
+    const char16_t* control = u"";
+    const char16_t* label = u""; // in the listing
+    FieldKind kind = FieldKind::Text;
+    int limit = 0; // Text and Name: bytes; SingleByte and Code: characters; Prefecture: the first code of its list
+    bool japanese = false; // the keyboard's input method is on
+    bool required = false;
+    const char16_t* subject = u""; // of messages
+    // What would be right, and the same in the check before an update, where the words aren't those of the kind.
+    const char16_t* demand = nullptr;
+    const char16_t* demandOnUpdate = nullptr;
+    const char16_t* preset = nullptr; // what most new records have there
+    const char16_t* zeroWord = u"";   // of an option
+    const char16_t* oneWord = u"";
 };
 using RecordFields = std::span<const RecordField>;
 
@@ -43,7 +46,7 @@ struct ReservedRecord {
 [[nodiscard]] QStringList codesOf(const QList<CodeName>& entries);
 
 // What the texts are held against: the codes of the fields that take a list's entry, and the reserved record.
-struct RecordRules {
+struct FieldChecks {
     QStringList choices;
     const ReservedRecord* reserved = nullptr;
 };
@@ -51,7 +54,7 @@ struct RecordRules {
 // Why a field can't be left with the text; empty when it can. An empty text always can.
 [[nodiscard]] QString refusalOnLeaving(const RecordField& field, const QString& text, const QStringList& choices);
 // Throws the complaint of the first field that is wrong.
-void checkFields(RecordFields fields, const RecordTexts& texts, const RecordRules& rules);
+void checkFields(RecordFields fields, const RecordTexts& texts, const FieldChecks& checks);
 
 // The row at hand, or blanks.
 [[nodiscard]] RecordTexts readFields(RecordFields fields, const RecordSet& row);

@@ -52,7 +52,7 @@ void RecordForm::setChoices(const QList<CodeName>& choices) {
         if (field.kind == FieldKind::List) qobject_cast<DataCombo*>(controlOf(field))->setEntries(choices);
 }
 
-// Of options the one that stands for 1.
+// An option has two buttons; it is read by that of 1.
 QWidget* RecordForm::controlOf(const RecordField& field) const {
     const QString name = QString::fromUtf16(field.control);
     return findChild<QWidget*>(field.kind == FieldKind::Option ? name + QStringLiteral("_1") : name);

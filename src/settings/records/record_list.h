@@ -13,7 +13,7 @@ struct RecordList {
     RecordFields fields;
     ReservedRecord reserved;
     bool needsReserved; // the screen is of no use without the reserved record
-    // Statements. A "?" is the place of a code.
+    // Statements. The placeholder "?" is a code.
     const char16_t* list; // code, name and order of all records, in their order
     const char16_t* show;
     const char16_t* update; // the whole row

@@ -95,11 +95,13 @@ void RecordListForm::removeRecord() {
     if (code_.isEmpty()) return;
     Connection& connection = client_.HomeConnection;
     const QString noun = text(records_.noun);
-    const Removal removal{code_ == newCode() ? text(records_.reserved.name) : QString(),
-                          noun,
-                          noun + QStringLiteral("の削除に失敗しました。"),
-                          [&] { return isUsedRecord(connection, records_, code_); },
-                          {records_.removeName, [&] { kurbo::removeRecord(connection, records_, code_); }}};
+    const Removal removal{
+        .reserved = code_ == newCode() ? text(records_.reserved.name) : QString(),
+        .subject = noun,
+        .failure = noun + QStringLiteral("の削除に失敗しました。"),
+        .isUsed = [&] { return isUsedRecord(connection, records_, code_); },
+        .remove = {records_.removeName, [&] { kurbo::removeRecord(connection, records_, code_); }},
+    };
     if (removeSetting(client_.context, objectName(), removal)) (void)refresh(newCode());
 }
 

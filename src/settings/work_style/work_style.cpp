@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/field_tests.h"
 #include "base/numbers.h"
+#include "month/loaders.h"
 #include "month/quantities.h"
 #include "settings/settings_steps.h"
 #include "store/record_set.h"
@@ -20,15 +21,6 @@ constexpr auto displayFields = [] {
 }();
 static_assert(displayFields.size() == WorkStyle::displays);
 
-QString statement() {
-    return QStringLiteral(
-               "SELECT F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlex, F_AmFlexStandard, F_PmHolidayWork, "
-               "F_PmFlex, "
-               "F_PmFlexStandard, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, "
-               "F_Diff, ") +
-           switchFields() + QStringLiteral(" FROM M01_CorpInfo;");
-}
-
 bool isBlank(const QString& time) {
     return time == u"__:__";
 }
@@ -42,8 +34,9 @@ struct HalfDayFields {
 
 HalfDayFields fieldsOf(QStringView half) {
     const QString prefix = QStringLiteral("F_") + half.toString();
-    return {prefix + QStringLiteral("HolidayWork"), prefix + QStringLiteral("Flex"),
-            prefix + QStringLiteral("FlexStandard")};
+    return {.work = prefix + QStringLiteral("HolidayWork"),
+            .flex = prefix + QStringLiteral("Flex"),
+            .standard = prefix + QStringLiteral("FlexStandard")};
 }
 
 void take(const RecordSet& row, const QString& field, int& number) {
@@ -117,7 +110,7 @@ void writeRounding(RecordSet& row, const WorkStyle& style) {
 } // namespace
 
 WorkStyle readWorkStyle(Connection& connection, const WorkStyle& before) {
-    const RecordSet row(connection, statement());
+    const RecordSet row(connection, companyStyleStatement());
     WorkStyle style = before;
     if (!row.atRow()) {
         style.display.fill(true);

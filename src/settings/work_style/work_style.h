@@ -17,7 +17,7 @@ struct WorkStyle {
         QString standard = QStringLiteral("__:__");
     };
     static constexpr int displays = 16;
-    // The places in `display` of which one is in use, with and without flex working.
+    // The entries of `display` of which one is in use, with and without flex working.
     static constexpr std::size_t diff = 0;
     static constexpr std::size_t legalOver = 1;
 

@@ -78,7 +78,7 @@ bool DayChart::event(QEvent* event) {
     return true;
 }
 
-// All bands at the point, also those that others cover.
+// All bands at the point, also covered ones.
 QString DayChart::tipAt(const QPoint& point) const {
     QStringList tips;
     for (const ChartBox& box : boxes_)

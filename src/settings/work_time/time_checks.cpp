@@ -77,7 +77,7 @@ void checkSlots(const TimeSheet& sheet) {
     }
 }
 
-// The limits themselves are asked as they are typed.
+// The limits themselves have been checked while they were typed.
 void checkPairedWithWeekday(const TimeSheet& weekday) {
     for (int row = weekday.page.firstRow; row < weekday.rowEnd(); ++row) {
         const QString text = weekday.start(row, 0);

@@ -12,25 +12,27 @@ constexpr GridColour cyan{.red = 128, .green = 255, .blue = 255};
 
 using Gate = TimeGate;
 
-constexpr TimeRow same(const char16_t* field, int slots, GridColour colour, Gate gate, TimeWords words) {
-    return {.field = field, .slots = slots, .colour = colour, .shown = gate, .stored = gate, .words = words};
-}
-
 // The rows of the three kinds of day that have the same ones, by their slots.
 constexpr std::array<TimeRow, 7> dayRows(std::array<int, 7> slots) {
     std::array rows{
-        same(u"Work", 0, yellow, Gate::Always, {.label = u"就業時間", .tip = u"就業時間", .legend = u"就業時間"}),
-        same(u"Flex", 0, green, Gate::Flex,
-             {.label = u"ﾌﾚｷｼﾌﾞﾙﾀｲﾑ", .tip = u"フレキシブルタイム", .legend = u"ﾌﾚｷｼﾌﾞﾙ"}),
-        same(u"LegalOver", 0, green, Gate::LegalOver,
-             {.label = u"法内残業", .tip = u"法定内残業", .legend = u"法内残業"}),
-        same(u"Over", 0, blue, Gate::Over, {.label = u"普通残業", .tip = u"普通残業", .legend = u"普通残業"}),
-        same(u"Late", 0, red, Gate::Late, {.label = u"深夜残業", .tip = u"深夜残業", .legend = u"深夜残業"}),
-        same(u"AfterLate", 0, orange, Gate::Over, {.label = u"明け残業", .tip = u"明け残業", .legend = u"明け残業"}),
-        same(u"Early", 0, cyan, Gate::Early, {.label = u"早出勤務", .tip = u"早出勤務", .legend = u"早出勤務"}),
+        TimeRow{.field = u"Work",
+                .colour = yellow,
+                .words = {.label = u"就業時間"},
+                .flexWords = {.label = u"ｺｱﾀｲﾑ", .tip = u"コアタイム", .legend = u"ｺｱ"}},
+        TimeRow{.field = u"Flex",
+                .colour = green,
+                .shown = Gate::Flex,
+                .words = {.label = u"ﾌﾚｷｼﾌﾞﾙﾀｲﾑ", .tip = u"フレキシブルタイム", .legend = u"ﾌﾚｷｼﾌﾞﾙ"}},
+        TimeRow{.field = u"LegalOver",
+                .colour = green,
+                .shown = Gate::LegalOver,
+                .words = {.label = u"法内残業", .tip = u"法定内残業"}},
+        TimeRow{.field = u"Over", .colour = blue, .shown = Gate::Over, .words = {.label = u"普通残業"}},
+        TimeRow{.field = u"Late", .colour = red, .shown = Gate::Late, .words = {.label = u"深夜残業"}},
+        TimeRow{.field = u"AfterLate", .colour = orange, .shown = Gate::Over, .words = {.label = u"明け残業"}},
+        TimeRow{.field = u"Early", .colour = cyan, .shown = Gate::Early, .words = {.label = u"早出勤務"}},
     };
     for (std::size_t i = 0; i < rows.size(); ++i) rows[i].slots = slots[i];
-    rows[0].flexWords = {.label = u"ｺｱﾀｲﾑ", .tip = u"コアタイム", .legend = u"ｺｱ"};
     return rows;
 }
 
@@ -39,36 +41,28 @@ constexpr auto amRows = dayRows({2, 2, 1, 3, 3, 1, 2});
 constexpr auto pmRows = dayRows({2, 2, 1, 4, 3, 1, 1});
 
 // What is worked after a night is shown with the overtime, and stored with the work of the holiday.
-constexpr TimeRow holidayAfterLate{
-    .field = u"AfterLate",
-    .slots = 1,
-    .colour = orange,
-    .shown = Gate::Over,
-    .stored = Gate::Holiday,
-    .words = {.label = u"明け残業", .tip = u"明け残業", .legend = u"明け残業"},
-};
-
 constexpr std::array holidayRows{
-    same(u"Work", 3, yellow, Gate::Holiday, {.label = u"休日勤務", .tip = u"休日勤務", .legend = u"休日勤務"}),
-    same(u"Late", 3, red, Gate::HolidayLate, {.label = u"休日深夜", .tip = u"休日深夜", .legend = u"休日深夜"}),
-    holidayAfterLate,
-    same(u"Early", 1, cyan, Gate::Holiday, {.label = u"早出勤務", .tip = u"早出勤務", .legend = u"早出勤務"}),
+    TimeRow{.field = u"Work", .slots = 3, .colour = yellow, .shown = Gate::Holiday, .words = {.label = u"休日勤務"}},
+    TimeRow{.field = u"Late", .slots = 3, .colour = red, .shown = Gate::HolidayLate, .words = {.label = u"休日深夜"}},
+    TimeRow{.field = u"AfterLate",
+            .slots = 1,
+            .colour = orange,
+            .shown = Gate::Over,
+            .stored = Gate::Holiday,
+            .words = {.label = u"明け残業"}},
+    TimeRow{.field = u"Early", .slots = 1, .colour = cyan, .shown = Gate::Holiday, .words = {.label = u"早出勤務"}},
 };
-
-constexpr TimeRow limit(const char16_t* field, const char16_t* label, Gate shown, Gate stored) {
-    return {.field = field, .slots = 0, .colour = {}, .shown = shown, .stored = stored, .words = {.label = label}};
-}
 
 // The limit of early work is stored with the overtime.
 constexpr std::array limitRows{
-    limit(u"F_LegalOver", u"法内残業", Gate::LegalOver, Gate::LegalOver),
-    limit(u"F_Over", u"普通残業", Gate::Over, Gate::Over),
-    limit(u"F_Late", u"深夜残業", Gate::Late, Gate::Late),
-    limit(u"F_Early", u"早出勤務", Gate::Early, Gate::Over),
-    limit(u"F_Holiday", u"休日出勤", Gate::Holiday, Gate::Holiday),
-    limit(u"F_HolidayLate", u"休日深夜", Gate::HolidayLate, Gate::HolidayLate),
-    limit(u"F_LegalHoliday", u"法休出勤", Gate::LegalHoliday, Gate::LegalHoliday),
-    limit(u"F_LegalLate", u"法休深夜", Gate::LegalLate, Gate::LegalLate),
+    TimeRow{.field = u"F_LegalOver", .shown = Gate::LegalOver, .words = {.label = u"法内残業"}},
+    TimeRow{.field = u"F_Over", .shown = Gate::Over, .words = {.label = u"普通残業"}},
+    TimeRow{.field = u"F_Late", .shown = Gate::Late, .words = {.label = u"深夜残業"}},
+    TimeRow{.field = u"F_Early", .shown = Gate::Early, .stored = Gate::Over, .words = {.label = u"早出勤務"}},
+    TimeRow{.field = u"F_Holiday", .shown = Gate::Holiday, .words = {.label = u"休日出勤"}},
+    TimeRow{.field = u"F_HolidayLate", .shown = Gate::HolidayLate, .words = {.label = u"休日深夜"}},
+    TimeRow{.field = u"F_LegalHoliday", .shown = Gate::LegalHoliday, .words = {.label = u"法休出勤"}},
+    TimeRow{.field = u"F_LegalLate", .shown = Gate::LegalLate, .words = {.label = u"法休深夜"}},
 };
 
 constexpr std::array<TimePage, timePageCount> pages{
@@ -81,7 +75,10 @@ constexpr std::array<TimePage, timePageCount> pages{
              .reserved = u"新しい勤務時間",
              .staffField = u"F_Weekday",
              .removalFailure = u"平日勤務時間設定の削除に失敗しました。",
-             .procedures = {u"ShowWeekday", u"CheckWeekday", u"UpdateWeekday", u"DeleteWeekday"},
+             .procedures = {.show = u"ShowWeekday",
+                            .check = u"CheckWeekday",
+                            .update = u"UpdateWeekday",
+                            .remove = u"DeleteWeekday"},
              .flex = &clsWorkTime::pbleFlexTime,
              .halfHoliday = nullptr,
              .legend = u"lblW",
@@ -97,7 +94,10 @@ constexpr std::array<TimePage, timePageCount> pages{
              .reserved = u"新しい勤務時間",
              .staffField = u"F_Holiday",
              .removalFailure = u"休日勤務時間設定の削除に失敗しました。",
-             .procedures = {u"ShowHoliday", u"CheckHoliday", u"UpdateHoliday", u"DeleteHoliday"},
+             .procedures = {.show = u"ShowHoliday",
+                            .check = u"CheckHoliday",
+                            .update = u"UpdateHoliday",
+                            .remove = u"DeleteHoliday"},
              .flex = nullptr,
              .halfHoliday = nullptr,
              .legend = u"lblH",
@@ -113,7 +113,10 @@ constexpr std::array<TimePage, timePageCount> pages{
              .reserved = u"新しい勤務時間",
              .staffField = u"F_AmHoliday",
              .removalFailure = u"午前休日勤務時間設定の削除に失敗しました。",
-             .procedures = {u"ShowAmHoliday", u"CheckAmHoliday", u"UpdateAmHoliday", u"DeleteAmHoliday"},
+             .procedures = {.show = u"ShowAmHoliday",
+                            .check = u"CheckAmHoliday",
+                            .update = u"UpdateAmHoliday",
+                            .remove = u"DeleteAmHoliday"},
              .flex = &clsWorkTime::pbleAmFlexTime,
              .halfHoliday = &clsWorkTime::plngAmHolidayWork,
              .legend = u"lblAH",
@@ -129,7 +132,10 @@ constexpr std::array<TimePage, timePageCount> pages{
              .reserved = u"新しい勤務時間",
              .staffField = u"F_PmHoliday",
              .removalFailure = u"午後休日勤務時間設定の削除に失敗しました。",
-             .procedures = {u"ShowPmHoliday", u"CheckPmHoliday", u"UpdatePmHoliday", u"DeletePmHoliday"},
+             .procedures = {.show = u"ShowPmHoliday",
+                            .check = u"CheckPmHoliday",
+                            .update = u"UpdatePmHoliday",
+                            .remove = u"DeletePmHoliday"},
              .flex = &clsWorkTime::pblePmFlexTime,
              .halfHoliday = &clsWorkTime::plngPmHolidayWork,
              .legend = u"lblPH",
@@ -146,7 +152,8 @@ constexpr std::array<TimePage, timePageCount> pages{
              .reserved = u"新しい時間調整",
              .staffField = u"F_AdjustHours",
              .removalFailure = u"午後休日勤務時間設定の削除に失敗しました。",
-             .procedures = {u"ShowAdjust", u"CheckAdjust", u"UpdateAdjust", u"DeleteAdjust"},
+             .procedures =
+                 {.show = u"ShowAdjust", .check = u"CheckAdjust", .update = u"UpdateAdjust", .remove = u"DeleteAdjust"},
              .flex = &clsWorkTime::pbleFlexTime,
              .halfHoliday = nullptr,
              .legend = nullptr,

@@ -26,16 +26,16 @@ enum class TimeGate {
 // What a row is called in the grid, in its tip and in the chart's legend.
 struct TimeWords {
     const char16_t* label = u"";
-    const char16_t* tip = u"";
-    const char16_t* legend = u"";
+    const char16_t* tip = label;
+    const char16_t* legend = label;
 };
 
 struct TimeRow {
     const char16_t* field; // "Work" for F_StartWork0, F_EndWork0 and so on; on the page of limits the field itself
-    int slots;             // start and end pairs; 0 on the page of limits
-    GridColour colour;
-    TimeGate shown;
-    TimeGate stored;
+    int slots = 0;         // start and end pairs; 0 on the page of limits
+    GridColour colour{};
+    TimeGate shown = TimeGate::Always;
+    TimeGate stored = shown;
     TimeWords words;
     TimeWords flexWords{.label = nullptr}; // on a flexible day, where they differ
 };

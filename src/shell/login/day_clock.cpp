@@ -39,8 +39,8 @@ void DayClock::tick() {
     const Day today = dayOf(now);
     showTime(now);
     if (dayOfMonth(today) == LastDay_ || !connects_()) return;
-    const QString name = WhichHoliday(client_.context, client_.HomeConnection, today);
-    if (name != u"ERROR") on_.name->setText(name);
+    const auto name = WhichHoliday(client_.context, client_.HomeConnection, today);
+    if (name) on_.name->setText(*name);
     LastDay_ = dayOfMonth(today);
 }
 

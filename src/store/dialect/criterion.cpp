@@ -10,7 +10,7 @@
 namespace kurbo {
 namespace {
 
-Value literal(const Token& token, const Values& values, qsizetype& place) {
+Value literal(const Token& token, const Values& values, qsizetype& next) {
     switch (token.kind) {
     case TokenKind::Text:
         return token.text;
@@ -20,7 +20,7 @@ Value literal(const Token& token, const Values& values, qsizetype& place) {
         if (token.text.contains(u'.')) return token.text.toDouble();
         return std::int64_t{token.text.toLongLong()};
     case TokenKind::Place:
-        if (place < values.size()) return values[place++];
+        if (next < values.size()) return values[next++];
         break;
     case TokenKind::Word:
         if (token.is(u"True") || token.is(u"False")) return Value::yesNo(token.is(u"True"));
@@ -60,13 +60,13 @@ Criterion::Criterion(const QString& text, const Values& values) {
     static const QStringList signs{QStringLiteral("="),  QStringLiteral("<>"), QStringLiteral("<"),
                                    QStringLiteral("<="), QStringLiteral(">"),  QStringLiteral(">=")};
     const QList<Token> tokens = tokensOf(text);
-    qsizetype place = 0;
+    qsizetype next = 0;
     for (qsizetype i = 0; i < tokens.size(); i += 4) {
         const bool joined = i == 0 || tokens[i - 1].is(u"AND");
         const bool whole = i + 2 < tokens.size();
         if (!joined || !whole || tokens[i].kind != TokenKind::Word || !signs.contains(tokens[i + 1].text))
             throw syntaxFault(text);
-        comparisons_.append({tokens[i].text, tokens[i + 1].text, literal(tokens[i + 2], values, place)});
+        comparisons_.append({tokens[i].text, tokens[i + 1].text, literal(tokens[i + 2], values, next)});
     }
     if (comparisons_.isEmpty()) throw syntaxFault(text);
 }

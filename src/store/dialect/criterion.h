@@ -9,7 +9,7 @@
 
 namespace kurbo {
 
-// The condition of a find or a filter: comparisons of a field with a value, joined by AND, as in
+// The condition of a filter: comparisons of a field with a value, joined by AND, as in
 // "F_Staff = '1001' AND F_YearMonth > ?". Text is compared in the store's order, and a number with a text as the text
 // demands; Null meets no condition.
 class Criterion final {

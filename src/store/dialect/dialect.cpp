@@ -25,10 +25,13 @@ struct Function {
 };
 
 // The engine knows some of these names with another meaning, so each goes to a function of ours.
-constexpr std::array functions{Function{u"Left", u"kurbo_left"},        Function{u"Mid", u"kurbo_mid"},
-                               Function{u"Right", u"kurbo_right"},      Function{u"Format", u"kurbo_format"},
-                               Function{u"CLng", u"kurbo_clng", false}, Function{u"CDate", u"kurbo_cdate", false},
-                               Function{u"Len", u"length", false}};
+constexpr std::array functions{Function{.dialect = u"Left", .engine = u"kurbo_left"},
+                               Function{.dialect = u"Mid", .engine = u"kurbo_mid"},
+                               Function{.dialect = u"Right", .engine = u"kurbo_right"},
+                               Function{.dialect = u"Format", .engine = u"kurbo_format"},
+                               Function{.dialect = u"CLng", .engine = u"kurbo_clng", .givesText = false},
+                               Function{.dialect = u"CDate", .engine = u"kurbo_cdate", .givesText = false},
+                               Function{.dialect = u"Len", .engine = u"length", .givesText = false}};
 
 bool isComparison(const Token& token) {
     static const QStringList comparisons{QStringLiteral("="), QStringLiteral("<>"), QStringLiteral("<"),
@@ -162,7 +165,7 @@ class Translator final {
         if (token.kind != TokenKind::Word) return token.text;
         if (token.is(u"True")) return QStringLiteral("-1");
         if (token.is(u"False")) return QStringLiteral("0");
-        // The engine takes no table before a field that is set.
+        // In "SET table.field = value" the engine allows no table.
         if (assigning_ && at_ + 1 < tokens_.size() && tokens_[at_ + 1].text == u"=")
             return token.text.section(u'.', -1);
         return token.text;

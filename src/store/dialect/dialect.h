@@ -16,7 +16,7 @@ struct Translation {
 
 // Turns the dialect into the engine's SQL: "DELETE * FROM", dates between number signs, "&" with Null as empty text,
 // "/" as the division of real numbers, True as any value but 0, and the functions CDate, CLng, Format, Left, Len, Mid,
-// Right. Values may stand in the text or in places marked "?". Throws the fault of a syntax error, also for any
+// Right. Values may stand in the text or take placeholders "?". Throws the fault of a syntax error, also for any
 // statement but SELECT, INSERT, UPDATE and DELETE.
 [[nodiscard]] Translation translated(QStringView statement);
 

@@ -19,8 +19,8 @@ struct Token {
     }
 };
 
-// Cuts a statement, or a criterion of a find or a filter, into tokens. Stops before the first semicolon outside of
-// quotes. Throws the fault of a syntax error for an open quote, a date that is none, or a foreign character.
+// Cuts a statement, or a criterion of a filter, into tokens. Stops before the first semicolon outside of quotes.
+// Throws the fault of a syntax error for an open quote, a date that is none, or a foreign character.
 [[nodiscard]] QList<Token> tokensOf(QStringView statement);
 
 // The statements of a text in which each is ended by a semicolon; blank ones are left out.

@@ -118,10 +118,13 @@ struct Registered {
     void (*function)(sqlite3_context*, int, sqlite3_value**);
 };
 
-constexpr std::array registered{Registered{"kurbo_left", 2, entry<left>},    Registered{"kurbo_right", 2, entry<right>},
-                                Registered{"kurbo_mid", 2, entry<mid>},      Registered{"kurbo_mid", 3, entry<mid>},
-                                Registered{"kurbo_clng", 1, entry<clng>},    Registered{"kurbo_cdate", 1, entry<cdate>},
-                                Registered{"kurbo_format", 2, entry<format>}};
+constexpr std::array registered{Registered{.name = "kurbo_left", .arguments = 2, .function = entry<left>},
+                                Registered{.name = "kurbo_right", .arguments = 2, .function = entry<right>},
+                                Registered{.name = "kurbo_mid", .arguments = 2, .function = entry<mid>},
+                                Registered{.name = "kurbo_mid", .arguments = 3, .function = entry<mid>},
+                                Registered{.name = "kurbo_clng", .arguments = 1, .function = entry<clng>},
+                                Registered{.name = "kurbo_cdate", .arguments = 1, .function = entry<cdate>},
+                                Registered{.name = "kurbo_format", .arguments = 2, .function = entry<format>}};
 
 } // namespace
 

@@ -4,7 +4,7 @@
 
 namespace kurbo {
 
-// The engine takes the word about relations between transactions only.
+// Relations can be switched off outside of a transaction only, so that comes first.
 BulkChange::BulkChange(Connection& connection, const QStringList& tables) : connection_(connection) {
     connection_.engine("PRAGMA foreign_keys=OFF; PRAGMA ignore_check_constraints=ON; PRAGMA cache_size=-64000");
     transaction_.emplace(connection_);

@@ -28,7 +28,7 @@ Engine emptyFile(const QString& path) {
     return engine;
 }
 
-// What a crash has left beside a database, and what the engine would take for a part of the next file of its name.
+// Files that a crash leaves beside a database; the engine would take them for a part of the next file of that name.
 constexpr std::array leftovers{"-journal", "-wal", "-shm"};
 
 bool hasLeftovers(const QString& path) {

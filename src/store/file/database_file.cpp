@@ -59,7 +59,8 @@ void build(const QString& path) {
     run(engine, "COMMIT", path);
 }
 
-// Takes the name, so that two makers of one file do not meet. Passwords will stand in it: nothing is for everybody.
+// Takes the name, so that two makers of one file do not meet. Passwords will stand in the file: nobody outside of its
+// group gets a right.
 void claimName(const QString& path) {
     constexpr mode_t groupsMode = 0660;
     const Descriptor file = makePlain(path, groupsMode);

@@ -14,7 +14,6 @@
 namespace kurbo {
 namespace {
 
-// Far behind the eight bytes that hold the next ticket's number.
 constexpr std::int64_t presenceByte = 0x40000000;
 constexpr std::int64_t handOutByte = presenceByte + 1;
 constexpr std::int64_t firstTicketByte = presenceByte + 0x100;
@@ -86,7 +85,7 @@ QString LockFile::copyNameFor(const QString& databasePath) {
     return withSuffix(databasePath, QLatin1StringView("BAK"));
 }
 
-bool LockFile::join(const QString& databasePath, Patience until, const WaitNotice& notice) {
+bool LockFile::join(const QString& databasePath, Deadline until, const WaitNotice& notice) {
     const QString path = nameFor(realPath(databasePath));
     const QByteArray name = QFile::encodeName(path);
     for (;;) {
@@ -122,7 +121,7 @@ std::uint64_t LockFile::takeTicket() {
     return ticket;
 }
 
-bool LockFile::waitTurn(Patience until, const WaitNotice& notice) {
+bool LockFile::waitTurn(Deadline until, const WaitNotice& notice) {
     if (!joined()) return true;
     if (!lockWithin(file_.get(), handOutByte, LockKind::Exclusive, until, notice)) return false;
     const std::uint64_t ticket = takeTicket();

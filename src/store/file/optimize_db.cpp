@@ -9,23 +9,20 @@
 
 #include <array>
 #include <cerrno>
+#include <optional>
 #include <sys/stat.h>
 
 namespace kurbo {
 namespace {
 
-struct Result {
-    StoreError number;
-    const char16_t* word;
-};
-
-constexpr std::array results{Result{StoreError::NoFile, u"NoFile"}, Result{StoreError::NoDrive, u"NoDrive"},
-                             Result{StoreError::NoPath, u"NoPath"}, Result{StoreError::NotMdb, u"NotMdb"},
-                             Result{StoreError::Opened, u"Opened"}};
-
-QString wordOf(const Fault& fault) {
-    for (const auto& result : results)
-        if (static_cast<std::int64_t>(result.number) == fault.number()) return QString::fromUtf16(result.word);
+// The result that stands for a fault of the store; nothing for a fault that is reported.
+std::optional<OptimizeResult> resultOf(const Fault& fault) {
+    constexpr std::array results{
+        std::pair{StoreError::NoFile, OptimizeResult::NoFile}, std::pair{StoreError::NoDrive, OptimizeResult::NoDrive},
+        std::pair{StoreError::NoPath, OptimizeResult::NoPath}, std::pair{StoreError::NotMdb, OptimizeResult::NotMdb},
+        std::pair{StoreError::Opened, OptimizeResult::Opened}};
+    for (const auto& [number, result] : results)
+        if (static_cast<std::int64_t>(number) == fault.number()) return result;
     return {};
 }
 
@@ -54,39 +51,39 @@ void checkPlace(const QString& path) {
     if (file.st_nlink > 1) throw storeFault(StoreError::Opened);
 }
 
-QString optimized(const QString& given, const QString& password, LockFile& lock, const WorkNotice& notice) {
+OptimizeResult optimized(const QString& given, const QString& password, LockFile& lock, const WorkNotice& notice) {
     if (!given.contains(QStringLiteral(".mdb"), Qt::CaseInsensitive))
         throw Fault(static_cast<std::int64_t>(StoreError::NotMdb), QStringLiteral("Kurbo.Store"),
                     QStringLiteral("mdbファイル以外のファイルは最適化できません。"));
     const QString path = realPath(given);
-    if (QFileInfo::exists(LockFile::nameFor(path))) return QStringLiteral("ExistLdb");
+    if (QFileInfo::exists(LockFile::nameFor(path))) return OptimizeResult::ExistLdb;
     checkPlace(path);
-    if (!lock.claim(path)) return QStringLiteral("ExistLdb");
+    if (!lock.claim(path)) return OptimizeResult::ExistLdb;
     try {
         compact(path, password, notice);
     } catch (...) {
         lock.leave();
         throw;
     }
-    return QStringLiteral("OK");
+    return OptimizeResult::OK;
 }
 
 } // namespace
 
-QString OptimizeDB(const Context& context, const QString& path, const QString& password) {
+OptimizeResult OptimizeDB(const Context& context, const QString& path, const QString& password) {
     LockFile lock;
     return OptimizeDB(context, path, password, lock, {});
 }
 
-QString OptimizeDB(const Context& context, const QString& path, const QString& password, LockFile& lock,
-                   const WorkNotice& notice) {
-    return guarded(context, u"basDAO", u"OptimizeDB", QStringLiteral("Error"), [&] {
+OptimizeResult OptimizeDB(const Context& context, const QString& path, const QString& password, LockFile& lock,
+                          const WorkNotice& notice) {
+    return guarded(context, u"basDAO", u"OptimizeDB", OptimizeResult::Error, [&] {
         try {
             return optimized(path, password, lock, notice);
         } catch (const Fault& fault) {
-            const QString word = wordOf(fault);
-            if (word.isEmpty()) throw;
-            return word;
+            const auto result = resultOf(fault);
+            if (!result) throw;
+            return *result;
         }
     });
 }

@@ -1,17 +1,17 @@
-#include "demo/demo_rules.h"
+#include "demo/demo_styles.h"
 
 namespace kurbo {
 namespace {
 
 constexpr WorkBand from(int startHour, int startMinute, int endHour, int endMinute) {
-    return {startHour * 60 + startMinute, endHour * 60 + endMinute};
+    return {.start = startHour * 60 + startMinute, .end = endHour * 60 + endMinute};
 }
 
 constexpr WorkBand hours(int start, int end) {
-    return {start * 60, end * 60};
+    return {.start = start * 60, .end = end * 60};
 }
 
-constexpr BandList lateNight{hours(22, 24), hours(0, 5)};
+constexpr WorkBands lateNight{hours(22, 24), hours(0, 5)};
 
 // A band lies within one day, and the day's absence is measured from the first band's start to the last one's end: so
 // the night shift's own hours end before midnight, and what it works beyond is late-night work.
@@ -135,10 +135,38 @@ constexpr std::array flexibleStyles{
           .early = {hours(9, 15)}},
 };
 
-constexpr ShiftTimes fixedDay{540, 1050, 0, 540, 1050, 780, 720};
-constexpr ShiftTimes fixedNight{900, 1425, 0, 900, 1425, 1185, 1140};
-constexpr ShiftTimes flexibleDay{540, 1080, 75, 600, 900, 780, 720};
-constexpr ShiftTimes flexibleNight{915, 1440, 0, 1020, 1320, 1200, 1140};
+constexpr int at(int hour, int minute = 0) {
+    return hour * 60 + minute;
+}
+
+constexpr ShiftTimes fixedDay{.start = at(9),
+                              .end = at(17, 30),
+                              .earliest = 0,
+                              .coreStart = at(9),
+                              .coreEnd = at(17, 30),
+                              .secondHalf = at(13),
+                              .firstEnd = at(12)};
+constexpr ShiftTimes fixedNight{.start = at(15),
+                                .end = at(23, 45),
+                                .earliest = 0,
+                                .coreStart = at(15),
+                                .coreEnd = at(23, 45),
+                                .secondHalf = at(19, 45),
+                                .firstEnd = at(19)};
+constexpr ShiftTimes flexibleDay{.start = at(9),
+                                 .end = at(18),
+                                 .earliest = 75,
+                                 .coreStart = at(10),
+                                 .coreEnd = at(15),
+                                 .secondHalf = at(13),
+                                 .firstEnd = at(12)};
+constexpr ShiftTimes flexibleNight{.start = at(15, 15),
+                                   .end = at(24),
+                                   .earliest = 0,
+                                   .coreStart = at(17),
+                                   .coreEnd = at(22),
+                                   .secondHalf = at(20),
+                                   .firstEnd = at(19)};
 
 } // namespace
 
@@ -154,7 +182,7 @@ const ShiftTimes& timesOf(bool flexible, Shift shift) {
 
 const Limits& limitsOf(Adjust adjust) {
     // The usual agreement on overtime: 45 hours a month. It leaves late-night hours alone, which the night shift has.
-    static const Limits agreement{{{}, 45 * 60, {}, 20 * 60, 32 * 60, {}, {}, {}}};
+    static const Limits agreement{.over = 45 * 60, .early = 20 * 60, .holiday = 32 * 60};
     static const Limits unlimited{};
     return adjust == Adjust::Agreement ? agreement : unlimited;
 }

@@ -16,18 +16,18 @@ struct WorkBand {
     int end = 0; // 1440 for midnight
     [[nodiscard]] constexpr bool inUse() const { return end > start; }
 };
-using BandList = std::array<WorkBand, 4>;
+using WorkBands = std::array<WorkBand, 4>;
 
 // One named set of bands. In a flexible set `work` is the core time.
 struct Style {
     QStringView name;
-    BandList work;
-    BandList flex;
-    BandList legalOver;
-    BandList over;
-    BandList late;
-    BandList afterLate;
-    BandList early;
+    WorkBands work;
+    WorkBands flex;
+    WorkBands legalOver;
+    WorkBands over;
+    WorkBands late;
+    WorkBands afterLate;
+    WorkBands early;
 };
 
 [[nodiscard]] const Style& styleOf(bool flexible, Shift shift, DayKind kind);
@@ -47,8 +47,17 @@ struct ShiftTimes {
 
 inline constexpr int roundUnit = 15;
 
-// Upper limits of a month's overtime to legal-holiday late work, in minutes and in the order of the table's fields.
-using Limits = std::array<std::optional<int>, 8>;
+// Upper limits of a month, in minutes; nothing where there is none.
+struct Limits {
+    std::optional<int> legalOver{};
+    std::optional<int> over{};
+    std::optional<int> late{};
+    std::optional<int> early{};
+    std::optional<int> holiday{};
+    std::optional<int> holidayLate{};
+    std::optional<int> legalHoliday{};
+    std::optional<int> legalLate{};
+};
 enum class Adjust { Agreement = 1, Unlimited = 2 };
 [[nodiscard]] const Limits& limitsOf(Adjust adjust);
 

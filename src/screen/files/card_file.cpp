@@ -1,4 +1,4 @@
-#include "screen/files/sheet_file.h"
+#include "screen/files/card_file.h"
 
 #include "base/system/files.h"
 #include "screen/files/archive.h"
@@ -27,13 +27,13 @@ void checkMembers(const QString& archive, const QString& member) {
 
 } // namespace
 
-QString sheetFilter() {
+QString cardFileFilter() {
     return QStringLiteral("ﾀｲﾑｶｰﾄﾞﾌｧｲﾙ(*.krb)|*.krb");
 }
 
-void saveSheet(const QString& file, const QString& member, const GridModel& grid, const QStringList& selection) {
+void saveCardFile(const QString& file, const QString& member, const GridModel& grid, const QStringList& selection) {
     const QTemporaryDir scratch;
-    const QString archive = scratch.filePath(QStringLiteral("sheet.krb"));
+    const QString archive = scratch.filePath(QStringLiteral("card.krb"));
     const QString text = scratch.filePath(textMember());
     const QString image = scratch.filePath(member);
     writeTextLine(text, selection);
@@ -45,8 +45,8 @@ void saveSheet(const QString& file, const QString& member, const GridModel& grid
     replaceFile(chosenFile(file), readFile(archive));
 }
 
-QStringList loadSheet(const QString& file, const QString& member, int columns, GridModel& grid,
-                      const CheckSelection& check) {
+QStringList loadCardFile(const QString& file, const QString& member, int columns, GridModel& grid,
+                         const CheckSelection& check) {
     checkMembers(file, member);
     const QTemporaryDir scratch;
     const QString text = scratch.filePath(textMember());
