@@ -3,6 +3,7 @@
 #include "base/system/files.h"
 #include "settings/calendar/holiday_sheet.h"
 #include "support/desk.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
@@ -86,31 +87,25 @@ TEST_F(HolidayRules, AFileIsRightForItsOwnYear) {
 TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
     const Desk desk;
     const QString line = u"01/01,元日,0\r\n"_q;
-    struct Case {
-        QByteArray bytes;
-        QString expected;
-    };
-    const auto cp932 = [](const QString& text) { return *toCodePage(text); };
-    for (const Case& c : {Case{cp932(u"見出し\r\n"_q + line), u"見出し:01/01元日0"_q},
-                          {cp932(u"\"見, \"\"出\"\"\"\n\"02/11\", 建国 ,\"1\"\n\n"_q), u"見, \"出\":02/11建国1"_q},
-                          {"\xEF\xBB\xBF" + (u"𠮷\n"_q + line).toUtf8(), u"𠮷:01/01元日0"_q},
-                          {cp932(u"h\r\n"_q + line.repeated(100)), u"h:"_q + u"01/01元日0"_q.repeated(100)},
-                          {cp932(u"h\n"_q + line.repeated(101)), {}},
-                          {cp932(u"h\n01/2/2,成人の日,0"_q), u"h:01/2/2成人の日0"_q},
-                          {cp932(u"h\n1/2/2,成人の日,0"_q), {}},
-                          {cp932(u"h\n0101,元日,0"_q), {}},
-                          {cp932(u"h\n01/01,元日"_q), {}},
-                          {cp932(u"h\n01/01,元日,0,"_q), {}},
-                          {cp932(u"h\n\"01/01,元日,0"_q), {}},
-                          {"h\n01/01,\x81\x01,0", {}},
-                          {{}, {}}}) {
-        replaceFile(desk.paths.HolidayPath, c.bytes);
+    const auto read = [&](const QByteArray& bytes) {
+        replaceFile(desk.paths.HolidayPath, bytes);
         const auto file = ReadHolidayFile(desk.paths.HolidayPath);
-        QString read = file ? file->heading + u':' : QString();
-        for (const HolidayLine& holiday : file ? file->lines : QList<HolidayLine>())
-            read += holiday.date + holiday.name + holiday.kind;
-        EXPECT_EQ(read, c.expected);
-    }
+        if (!file) return QString();
+        QString all = file->heading + u':';
+        for (const HolidayLine& holiday : file->lines) all += holiday.date + holiday.name + holiday.kind;
+        return all;
+    };
+    for (const auto& [text, expected] :
+         {std::pair{u"見出し\r\n"_q + line, u"見出し:01/01元日0"_q},
+          {u"\"見, \"\"出\"\"\"\n\"02/11\", 建国 ,\"1\"\n\n"_q, u"見, \"出\":02/11建国1"_q},
+          {u"h\r\n"_q + line.repeated(100), u"h:"_q + u"01/01元日0"_q.repeated(100)},
+          {u"h\n01/2/2,成人の日,0"_q, u"h:01/2/2成人の日0"_q}})
+        EXPECT_EQ(read(*toCodePage(text)), expected);
+    for (const QString& text : {u"h\n"_q + line.repeated(101), u"h\n1/2/2,成人の日,0"_q, u"h\n0101,元日,0"_q,
+                                u"h\n01/01,元日"_q, u"h\n01/01,元日,0,"_q, u"h\n\"01/01,元日,0"_q, QString()})
+        EXPECT_EQ(read(*toCodePage(text)), QString()) << text.left(40);
+    EXPECT_EQ(read("\xEF\xBB\xBF" + (u"𠮷\n"_q + line).toUtf8()), u"𠮷:01/01元日0"_q);
+    EXPECT_EQ(read("h\n01/01,\x81\x01,0"), QString());
     EXPECT_FALSE(ReadHolidayFile(desk.file(u"none.txt"_q)));
     EXPECT_FALSE(ReadHolidayFile(desk.folder.path()));
     EXPECT_EQ(holidayDate(u"01/2/2"_q, 2027), u"01/11"_q);
@@ -150,30 +145,22 @@ TEST_F(HolidayRules, HolidaysTakeTheEmptyRows) {
 }
 
 TEST_F(HolidayRules, RulesMeetTheirDays) {
-    struct Case {
-        QList<QStringList> rules;
-        QString days;
-    };
-    const QString none;
-    for (const Case& c : {Case{{{u"5"_q, u"2"_q, none, none, u"a"_q}}, u"0329a 0531a 0830a 1129a"_q},
-                          {{{u"2"_q, u"6"_q, none, none, u"a"_q}, {u"6"_q, none, u"01/01"_q, u"11/30"_q}}, u"1210a"_q},
-                          {{{u"6"_q, none, u"12/29"_q, u"01/03"_q, u"a"_q}}, none},
-                          {{{u"6"_q, none, u"12/29"_q, u"12/31"_q, u"a"_q}, {u"0"_q, u"5"_q, none, none, none, none}},
-                           u"1229a 1231a"_q},
-                          {{{u"9"_q, u"1"_q, none, none, u"a"_q}, {u"第１"_q, u"1"_q, none, none, u"a"_q}}, none},
-                          {{{u"10"_q, u"1"_q, none, none, u"a"_q}, {u"3x"_q, u"1"_q, none, none, u"a"_q}}, none},
-                          {{{u"1"_q, u"x"_q, none, none, u"a"_q}, {u"0"_q, u"8"_q, none, none, u"a"_q}}, none}}) {
+    // One or two rules, and the days that they name.
+    for (const QStringList& row : rowsOf("5,2,,,a|                    | 0329a 0531a 0830a 1129a\n"
+                                         "2,6,,,a|6,,01/01,11/30      | 1210a\n"
+                                         "6,,12/29,01/03,a|           |\n"
+                                         "6,,12/29,12/31,a|0,5,,,,    | 1229a 1231a\n"
+                                         "9,1,,,a|第１,1,,,a          |\n"
+                                         "10,1,,,a|3x,1,,,a           |\n"
+                                         "1,x,,,a|0,8,,,a             |")) {
         begin(2027);
-        for (const QStringList& cells : c.rules) rule(cells);
+        for (const QString& cells : row.mid(0, 2)) rule(cells.split(u','));
         EXPECT_EQ(refusal(), QString());
         writeRules(rules, calendar);
-        const QStringList named = marked().split(u' ').filter(u"a"_q);
-        EXPECT_EQ(named.join(u' '), c.days);
+        EXPECT_EQ(marked().split(u' ').filter(u"a"_q).join(u' '), row[2]);
     }
     begin(2027);
-    rule({u"0"_q, u"1"_q, none, none, u"a"_q, u"0"_q});
-    rule({u"0"_q, u"7"_q, none, none, u"b"_q, u"1"_q});
-    rule({u"6"_q, none, u"01/03"_q, u"01/03"_q});
+    for (const QString& cells : {u"0,1,,,a,0"_q, u"0,7,,,b,1"_q, u"6,,01/03,01/03"_q}) rule(cells.split(u','));
     writeRules(rules, calendar);
     EXPECT_EQ(marked().left(28), u"0102b 0103 0109b 0110a 0116b"_q);
     EXPECT_EQ(calendar.text(3, CalendarColumn::Kind), QString()) << "an empty rule clears";
@@ -184,15 +171,17 @@ TEST_F(HolidayRules, WhatIsNotWholeIsRefused) {
     const QString badList = u"不正な入力です。リストから選択して下さい。"_q;
     const QString badDate = u"不正な入力です。日付をmm:dd形式で入力して下さい。"_q;
     const HolidayCells cells(rules);
-    EXPECT_EQ(cells.refusal(1, 1, u"第６"_q), badList);
-    EXPECT_EQ(cells.refusal(1, 2, u"日"_q), badList);
-    EXPECT_EQ(cells.refusal(1, 6, u"午後"_q), badList) << "the company has no free afternoons";
-    EXPECT_EQ(cells.refusal(1, 3, u"02/29"_q), badDate);
-    EXPECT_EQ(cells.refusal(1, 4, u"13/01"_q), badDate);
-    EXPECT_EQ(cells.refusal(1, 5, u"a"_q.repeated(31)),
-              u"不正な入力です。休日名称は全角15文字(半角30文字)以内で入力します。"_q);
-    EXPECT_EQ(cells.refusal(1, 1, u"期間"_q) + cells.refusal(1, 3, u"02/28"_q) + cells.refusal(1, 6, u"午前"_q),
-              QString());
+    for (const auto& [column, text, refusal] :
+         {std::tuple{1, u"第６"_q, badList},
+          {2, u"日"_q, badList},
+          {6, u"午後"_q, badList},
+          {3, u"02/29"_q, badDate},
+          {4, u"13/01"_q, badDate},
+          {5, u"a"_q.repeated(31), u"不正な入力です。休日名称は全角15文字(半角30文字)以内で入力します。"_q},
+          {1, u"期間"_q, QString()},
+          {3, u"02/28"_q, {}},
+          {6, u"午前"_q, {}}})
+        EXPECT_EQ(cells.refusal(1, column, text), refusal) << text;
     rule({u"7"_q});
     rule({});
     rule({u"6"_q, {}, u"01/05"_q});

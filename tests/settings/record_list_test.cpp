@@ -1,5 +1,6 @@
 #include "settings/people/password.h"
 #include "settings/records.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
@@ -19,8 +20,7 @@ class RecordListTest : public SampleCompany {
         for (const CodeName& entry : recordNames(connection, list)) codes += entry.code + u' ';
         return codes.trimmed();
     }
-    [[nodiscard]] QString renamed(const RecordList& list, const QString& code, const QString& field,
-                                  const QString& text) {
+    QString renamed(const RecordList& list, const QString& code, const QString& field, const QString& text) {
         const RecordTexts before = readRecord(connection, list, code);
         RecordEdit edit{code, before, before};
         for (const RecordField& other : list.fields)
@@ -51,31 +51,26 @@ TEST_F(RecordListTest, RecordsMoveUntilTheEnds) {
     EXPECT_EQ(refusalOf([&] { moved(u"S03"_q, Direction::Up); }), QString::number(int(StoreError::RowGone)));
     addSection(u"S04"_q);
     EXPECT_EQ(order(sectionList()), u"NEW S02 S01 S04"_q);
-}
-
-TEST_F(RecordListTest, NobodyMeetsTheAdministrator) {
-    EXPECT_EQ(order(staffList()), u"NEW 1001 1002 1003 1004"_q);
+    EXPECT_EQ(order(staffList()), u"NEW 1001 1002 1003 1004"_q) << "nobody meets the administrator";
     moveRecord(connection, staffList(), u"1001"_q, Direction::Up);
     EXPECT_EQ(asked(u"SELECT F_Order FROM C03_Staff WHERE (F_StaffCode = 'ADMIN')"_q), u"0"_q);
 }
 
 TEST_F(RecordListTest, NewRecordsDifferFromAllOthers) {
-    EXPECT_EQ(added(sectionList(), u"F_SectionName"_q, u"総務部"_q),
-              u"部課名を変更して下さい。\r\n同じ部課名が既に登録されています。"_q);
-    EXPECT_EQ(added(sectionList(), u"F_SectionCode"_q, u"s01"_q),
-              u"部課コードを変更して下さい。\r\n同じ部課コードが既に登録されています。"_q);
-    EXPECT_EQ(added(sectionList(), u"F_SectionCode"_q, u"MYSECTION"_q),
-              u"部課コードが不正です。「MySection」はシステム予約コードです。"_q);
-    EXPECT_EQ(added(staffList(), u"F_StaffName"_q, u"山田太郎"_q),
-              u"氏名を変更して下さい。\r\n同じ氏名が既に登録されています。"_q);
-    EXPECT_EQ(added(staffList(), u"F_StaffCode"_q, u"1001"_q),
-              u"社員コードを変更して下さい。\r\n同じ社員コードが既に登録されています。"_q);
+    for (const QStringList& row : rowsOf(R"(
+F_SectionName | 総務部    | 部課名を変更して下さい。/n同じ部課名が既に登録されています。
+F_SectionCode | s01       | 部課コードを変更して下さい。/n同じ部課コードが既に登録されています。
+F_SectionCode | MYSECTION | 部課コードが不正です。「MySection」はシステム予約コードです。
+F_StaffName   | 山田太郎  | 氏名を変更して下さい。/n同じ氏名が既に登録されています。
+F_StaffCode   | 1001      | 社員コードを変更して下さい。/n同じ社員コードが既に登録されています。
+)"))
+        EXPECT_EQ(added(row[0].startsWith(u"F_Se"_q) ? sectionList() : staffList(), row[0], row[1]), row[2]);
 }
 
 TEST_F(RecordListTest, WhatIsUsedKeepsItsCode) {
     const QString used = u"表示されている%1の%2コードは他のテーブルで使用されているため変更できません。\r\n"
                          u"%2コードを元に戻すか、変更したデータを破棄して下さい。"_q;
-    connection.execute(u"INSERT INTO M08_Access (F_AccessCode, F_AccessName, F_Section) VALUES (9, '他', 'S02')"_q);
+    insert("M08_Access", "AccessCode, AccessName, Section", u"9, '他', 'S02'"_q);
     for (const char16_t* code : {u"S01", u"S02"}) {
         const QString section = QString::fromUtf16(code);
         EXPECT_EQ(renamed(sectionList(), section, u"F_SectionCode"_q, u"S09"_q), used.arg(u"部課"_q, u"部課"_q));
@@ -90,7 +85,7 @@ TEST_F(RecordListTest, WhatIsUsedKeepsItsCode) {
     EXPECT_EQ(renamed(staffList(), u"1001"_q, u"F_StaffName"_q, u"鈴木花子"_q), QString()) << "two of one name";
     EXPECT_EQ(renamed(staffList(), u"1001"_q, u"F_StaffCode"_q, u"1009"_q), used.arg(u"社員"_q, u"社員"_q));
     connection.execute(u"DELETE FROM M02_StaffInfo WHERE (F_StaffCode = '1003')"_q);
-    connection.execute(u"INSERT INTO T04_Destination (F_DestCode, F_DestName, F_User) VALUES (1, '駅', '1003')"_q);
+    insert("T04_Destination", "DestCode, User", u"1, '1003'"_q);
     EXPECT_TRUE(isUsedRecord(connection, staffList(), u"1003"_q));
     connection.execute(u"DELETE FROM T04_Destination"_q);
     addCard(1, today, u"09:00"_q, {}, {}, u"1003"_q);

@@ -72,6 +72,11 @@ void SampleCompany::addCard(int id, Day day, const QString& enter, const QString
                        {id, dateId(day), staff, time(enter), time(leave), Value::textOrNull(paid)});
 }
 
+void SampleCompany::insert(const char* table, const char* fields, const QString& values) {
+    const QString names = QString::fromLatin1(fields).replace(u", "_q, u", F_"_q);
+    connection.execute(u"INSERT INTO %1 (F_%2) VALUES (%3)"_q.arg(QString::fromLatin1(table), names, values));
+}
+
 QString SampleCompany::asked(const QString& statement) {
     const auto value = connection.firstValue(statement);
     if (!value) return {};
