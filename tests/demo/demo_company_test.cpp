@@ -1,6 +1,5 @@
 #include "demo/demo_company.h"
 
-#include "base/system/code_page.h"
 #include "demo/demo_people.h"
 #include "store/file/database_file.h"
 #include "store/schema.h"
@@ -8,8 +7,6 @@
 
 #include <QMap>
 #include <QSet>
-
-#include <map>
 
 using namespace std::chrono;
 
@@ -53,36 +50,6 @@ class Company {
     QTemporaryDir folder_;
     Connection connection_;
 };
-
-// The most bytes of each text: the tables and fields of a width.
-const std::map<int, const char*> widths{
-    {10, "C02_Section.SectionCode C03_Staff.StaffCode C03_Staff.Section M02_StaffInfo.Password"},
-    {12, "C03_Staff.ZipCode"},
-    {20, "C01_Corp.Tel C01_Corp.Fax C01_Corp.Title C02_Section.Tel C02_Section.Fax C03_Staff.StaffName C03_Staff.Kana "
-         "C03_Staff.Tel C03_Staff.HPhone"},
-    {30, "C01_Corp.President C02_Section.SectionName M03_WeekdayStyle.WeekdayName M04_HolidayStyle.HolidayName "
-         "M05_AmHolidayStyle.AmHolidayName M06_PmHolidayStyle.PmHolidayName M07_AdjustHours.AdjustName "
-         "M08_Access.AccessName T01_Calendar.Holiday T02_Kurbo.Plan T04_Destination.DestName"},
-    {50, "C01_Corp.Corp C01_Corp.Branch C01_Corp.Address1 C01_Corp.Address2 C03_Staff.Address1 C03_Staff.Address2 "
-         "C03_Staff.EMail"}};
-
-TEST(DemoCompany, FitsAllTextIntoItsFields) {
-    DemoOptions flexible = options();
-    flexible.flexible = true;
-    for (const DemoOptions& each : {options(mostPeople, mostSections, 0), options(), flexible}) {
-        Company company(each);
-        for (const auto& [most, fields] : widths)
-            for (const QString& field : QString::fromLatin1(fields).split(u' ')) {
-                const QString name = u"F_"_q + field.section(u'.', 1);
-                Rows rows =
-                    company.rows(u"SELECT %1 FROM %2 WHERE (%1 IS NOT NULL)"_q.arg(name, field.section(u'.', 0, 0)));
-                while (rows.next()) {
-                    EXPECT_LE(byteLength(rows.text(0)), most) << field << ' ' << rows.text(0);
-                    EXPECT_TRUE(toCodePage(rows.text(0)).has_value()) << rows.text(0);
-                }
-            }
-    }
-}
 
 TEST(DemoCompany, GivesEveryoneAndEverySectionAnotherName) {
     Company company(options(mostPeople, mostSections, 0));
