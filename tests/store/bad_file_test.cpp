@@ -46,14 +46,15 @@ TEST_F(BadFile, EachKindHasItsOwnNumber) {
     const QString unsealed = made(u"unsealed.mdb"_q, whole);
     runEngine(unsealed, "DROP VIEW S_Seal");
 
-    for (const auto& [name, number] :
-         {std::tuple{desk.file(u"none.mdb"_q), StoreError::NoFile},
-          std::tuple{desk.file(u"none/a.mdb"_q), StoreError::NoPath},
-          std::tuple{desk.folder.path(), StoreError::NotMdb}, std::tuple{made(u"empty.mdb"_q, {}), StoreError::NotMdb},
-          std::tuple{made(u"text.mdb"_q, QByteArray(4000, 'x')), StoreError::NotMdb},
-          std::tuple{desk.file(u"foreign.mdb"_q), StoreError::NotMdb}, std::tuple{newer, StoreError::Newer},
-          std::tuple{unsealed, StoreError::NoTable},
-          std::tuple{made(u"cut.mdb"_q, whole.left(20000)), StoreError::Damaged}}) {
+    for (const auto& [name, number] : {std::pair{desk.file(u"none.mdb"_q), StoreError::NoFile},
+                                       {desk.file(u"none/a.mdb"_q), StoreError::NoPath},
+                                       {desk.folder.path(), StoreError::NotMdb},
+                                       {made(u"empty.mdb"_q, {}), StoreError::NotMdb},
+                                       {made(u"text.mdb"_q, QByteArray(4000, 'x')), StoreError::NotMdb},
+                                       {desk.file(u"foreign.mdb"_q), StoreError::NotMdb},
+                                       {newer, StoreError::Newer},
+                                       {unsealed, StoreError::NoTable},
+                                       {made(u"cut.mdb"_q, whole.left(20000)), StoreError::Damaged}}) {
         EXPECT_EQ(opened(name), static_cast<std::int64_t>(number)) << name;
         EXPECT_FALSE(IsDbOK(name)) << name;
         EXPECT_FALSE(QFileInfo::exists(LockFile::nameFor(name))) << name;

@@ -21,11 +21,7 @@ class Optimize : public SampleCompany {
     QString run(const QString& name, const QString& password = databasePassword()) {
         return OptimizeDB(desk.context, name, password);
     }
-    [[nodiscard]] QStringList files() const {
-        QStringList names = QDir(desk.folder.path()).entryList(QDir::Files);
-        names.sort();
-        return names;
-    }
+    [[nodiscard]] QString files() const { return QDir(desk.folder.path()).entryList(QDir::Files).join(u" "_q); }
 };
 
 } // namespace
@@ -43,7 +39,7 @@ TEST_F(Optimize, MakesTheFileSmallerAndKeepsItWhole) {
     replaceFile(desk.file(u"store.bak"_q), "left by a crash between copying and renaming");
     EXPECT_EQ(run(path), u"OK"_q);
     EXPECT_LT(QFileInfo(path).size(), before / 2);
-    EXPECT_EQ(files(), QStringList(u"store.mdb"_q));
+    EXPECT_EQ(files(), u"store.mdb"_q);
     EXPECT_EQ(QFile::permissions(path) & QFile::ReadOther, QFile::Permissions());
     connection.open(path, databasePassword());
     EXPECT_EQ(count(u"T02_Kurbo"_q), 10);
@@ -77,8 +73,13 @@ TEST_F(Optimize, EachRefusalHasItsWordAndTouchesNothing) {
     replaceFile(desk.file(u"cut.mdb"_q), whole.left(whole.size() - 8192));
     EXPECT_EQ(run(desk.file(u"cut.mdb"_q)), u"Error"_q);
     EXPECT_EQ(readFile(desk.file(u"cut.mdb"_q)), whole.left(whole.size() - 8192));
+    {
+        const AsNobody nobody;
+        desk.prompts.expect(u"書き込みが許可されていません"_q);
+        EXPECT_EQ(run(path), u"Error"_q);
+    }
     EXPECT_EQ(readFile(path), whole);
-    EXPECT_EQ(files(), QStringList({u"Error.log"_q, u"TEXT.MDB"_q, u"cut.mdb"_q, u"store.mdb"_q}));
+    EXPECT_EQ(files(), u"cut.mdb Error.log store.mdb TEXT.MDB"_q);
 }
 
 TEST_F(Optimize, FollowsALinkAndKeepsTheGroup) {
@@ -100,17 +101,6 @@ TEST_F(Optimize, FollowsALinkAndKeepsTheGroup) {
     EXPECT_TRUE(QFileInfo(link).isSymLink()) << "a file is not copied over itself";
 }
 
-TEST_F(Optimize, APlaceThatCantBeWrittenKeepsTheFile) {
-    connection.close();
-    const QByteArray whole = readFile(path);
-    {
-        const AsNobody nobody;
-        desk.prompts.expect(u"書き込みが許可されていません"_q);
-        EXPECT_EQ(run(path), u"Error"_q);
-    }
-    EXPECT_EQ(readFile(path), whole);
-}
-
 TEST_F(Optimize, WhateverACrashLeavesIsForNobodyElse) {
     connection.close();
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
@@ -123,7 +113,7 @@ TEST_F(Optimize, WhateverACrashLeavesIsForNobodyElse) {
             copyDatabase(path, desk.paths.BackupPath);
             return 0;
         }));
-        for (const QString& name : files()) {
+        for (const QString& name : files().split(u" "_q)) {
             EXPECT_EQ(QFile::permissions(desk.file(name)) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions())
                 << name;
             if (name != u"store.mdb") QFile::remove(desk.file(name));
@@ -137,10 +127,6 @@ TEST_F(Optimize, BackupIsAWholeCopyWhileOthersWork) {
     replaceFile(backup, "older");
     copyDatabase(path, backup);
     EXPECT_TRUE(checkDatabase(backup).isEmpty());
-    Connection copy;
-    copy.open(backup, databasePassword());
-    EXPECT_EQ(copy.firstValue(u"SELECT Count(*) FROM T01_Calendar"_q), Value(365));
-    copy.close();
     const QByteArray whole = readFile(backup);
     EXPECT_THROW(copyDatabase(desk.file(u"none.mdb"_q), backup), Fault);
     EXPECT_EQ(readFile(backup), whole);

@@ -57,13 +57,7 @@ TEST_F(Records, BatchIsSentWholeOrNotAtAll) {
     set.set(u"F_KurboID"_q, 3);
     set.set(u"F_DateID"_q, u"20260410"_q);
     set.set(u"F_User"_q, u"1001"_q);
-    try {
-        set.updateBatch();
-        FAIL() << "the key is taken";
-    } catch (const Fault& fault) {
-        EXPECT_TRUE(isDuplicateKey(fault)) << fault.description();
-        EXPECT_EQ(fault.number(), 3022);
-    }
+    EXPECT_EQ(refusalOf([&] { set.updateBatch(); }), u"3022"_q) << "the key is taken";
     EXPECT_EQ(asked(u"SELECT F_Plan FROM T02_Kurbo WHERE F_KurboID = 1"_q), u"-"_q);
     set.set(u"F_KurboID"_q, 6);
     set.updateBatch();
@@ -76,17 +70,11 @@ TEST_F(Records, BatchIsSentWholeOrNotAtAll) {
 }
 
 TEST_F(Records, ARowThatAnotherClientDeletedIsNotWritten) {
-    RecordSet set(connection, u"SELECT F_Staff, F_Year, F_Month, F_Work FROM T05_Approved;"_q);
-    const auto addMonth = [](Connection& writer, const QString& staff) {
-        writer.execute(u"INSERT INTO T05_Approved (F_Staff, F_Year, F_Month, F_Work) VALUES (?, '2026', '03', 100)"_q,
-                       {staff});
-    };
-    addMonth(connection, u"1001"_q);
+    insert("T05_Approved", "Staff, Year, Month, Work", u"'1001', '2026', '03', 100"_q);
     RecordSet mine(connection, u"SELECT F_Staff, F_Year, F_Month, F_Work FROM T05_Approved;"_q);
-    Connection other;
-    other.open(path, databasePassword());
-    other.execute(u"DELETE * FROM T05_Approved;"_q);
-    addMonth(other, u"1002"_q); // takes the number of the deleted row
+    connection.execute(u"DELETE * FROM T05_Approved;"_q);
+    insert("T05_Approved", "Staff, Year, Month, Work",
+           u"'1002', '2026', '03', 100"_q); // takes the deleted row's number
     mine.set(u"F_Work"_q, 999);
     EXPECT_THROW(mine.updateBatch(), Fault);
     EXPECT_EQ(asked(u"SELECT F_Work FROM T05_Approved"_q), u"100"_q);
