@@ -92,13 +92,8 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     typeCell(grid, 2, 4, u"0814"_q);
     typeCell(grid, 2, 5, u"Obon"_q);
     choose(grid, 2, 6, 1);
-    const QString make = u"2026年の祝日ファイルを作成して"_q;
-    desk.prompts.expect(make, Answer::No)
-        .expect(u"2027年の祝日を休日設定に追加します(他の年には、その年のファイルが必要です)。\r\n"_q, Answer::Cancel)
-        .expect(make, Answer::Yes);
     EXPECT_EQ(file(), u"祝日ファイル：2027年"_q);
-    clickRules("cmdHoliday");
-    EXPECT_EQ(grid.grid()->TextMatrix(3, 1), QString());
+    desk.prompts.expect(u"2026年の祝日ファイルを作成して"_q, Answer::Yes);
     clickRules("cmdHoliday");
     EXPECT_EQ(grid.grid()->CellText(3, 1) + grid.grid()->CellText(3, 5), u"期間元日"_q);
     EXPECT_EQ(file(), u"祝日ファイル：2026年"_q);
@@ -116,14 +111,8 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     EXPECT_EQ(stored(u"20260112"_q), u"成人の日 0"_q) << "the second Monday of the year that is shown";
 }
 
-TEST_F(FrmCalendar, RulesAreLeftWithoutAWord) {
+TEST_F(FrmCalendar, AWrongWorkStyleIsTold) {
     open();
-    openRules();
-    typeCell(named<Grid>(*rules, "vfgHoliday"), 1, 5, u"x"_q);
-    EXPECT_EQ(QApplication::activeModalWidget(), rules);
-    press(Qt::Key_Escape);
-    EXPECT_FALSE(rules && rules->isVisible());
-    EXPECT_FALSE(isUpdatable());
     connection.execute(u"DELETE FROM M01_CorpInfo"_q);
     desk.prompts.expect(u"勤務形態設定に不備があります。"_q);
     form->load();
