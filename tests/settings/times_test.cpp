@@ -117,8 +117,6 @@ TEST_F(TimeSheets, TheChartHasABoxForEachBandThatIsSeen) {
               u"就業時間 540-720/100, 深夜残業 1320-1440/100, 早出勤務 300-540/100"_q);
     EXPECT_EQ(chart(Holiday, u"2,1=09:00 2,2=25:00 4,1=05:00 4,2=09:00 5,1=05:00 5,2=09:00"_q),
               u"明け残業 300-540/100, 早出勤務 300-540/45"_q);
-    EXPECT_EQ(dayChart(*sheet(PmHoliday, 0, u"5,7=18:00 5,8=20:00"_q)).value(0).colour, (GridColour{128, 128, 255}));
-    EXPECT_EQ(legendOf(*sheet(Holiday)).size(), 4U);
     setFlexible();
     QStringList legend;
     for (const LegendEntry& entry : legendOf(*sheet(AmHoliday))) legend.append(entry.caption);
@@ -172,8 +170,8 @@ TEST_F(TimeStore, ARecordIsAddedChangedAndTakenAway) {
     const QString name = u"夜勤'%\U00020BB7"_q;
     const auto fresh = sheet(Weekday, 0, u"2,1=9:00 2,2=17:00 3,2=08:00 5,4=20:00"_q);
     EXPECT_EQ(updateTimes(connection, *fresh, name), 2);
-    EXPECT_EQ(stored(u"M03_WeekdayStyle"_q, u"F_WeekdayCode"_q, 2),
-              (QStringList{u"WeekdayCode=2"_q, u"WeekdayName="_q + name, u"StartWork0=09:00"_q, u"EndWork0=17:00"_q}))
+    EXPECT_EQ(stored(u"M03_WeekdayStyle"_q, u"F_WeekdayCode"_q, 2).join(u' '),
+              u"WeekdayCode=2 WeekdayName=%1 StartWork0=09:00 EndWork0=17:00"_q.arg(name))
         << "an end without a start goes";
     EXPECT_EQ(stored(u"M03_WeekdayStyle"_q, u"F_WeekdayCode"_q, 0).size(), 2) << "the reserved record stays empty";
     EXPECT_EQ(sheet(Weekday, 2)->name, name);
