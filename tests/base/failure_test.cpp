@@ -3,9 +3,6 @@
 #include "base/system/files.h"
 #include "support/desk.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include <stdexcept>
 
 namespace kurbo::test {

@@ -3,8 +3,6 @@
 #include "support/table.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 namespace kurbo::test {
 

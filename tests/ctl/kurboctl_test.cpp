@@ -4,7 +4,6 @@
 #include "support/sample_company.h"
 #include "support/table.h"
 
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
 

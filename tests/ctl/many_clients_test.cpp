@@ -3,7 +3,6 @@
 #include "support/kurboctl.h"
 #include "support/sample_company.h"
 
-#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <memory>

@@ -12,7 +12,6 @@
 
 #include <csignal>
 #include <set>
-#include <unistd.h>
 
 namespace kurbo::test {
 namespace {

@@ -2,7 +2,6 @@
 #include "maintenance/frmMaintainance.h"
 #include "maintenance/old_days.h"
 #include "maintenance/purge_office.h"
-#include "screen/grid/grid.h"
 #include "support/window.h"
 
 namespace kurbo::test {

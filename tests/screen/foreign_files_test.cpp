@@ -1,4 +1,3 @@
-#include "base/failure.h"
 #include "base/system/files.h"
 #include "screen/files/archive.h"
 #include "screen/files/grid_file.h"
@@ -6,8 +5,6 @@
 #include "support/desk.h"
 
 #include <QDir>
-
-#include <functional>
 
 namespace kurbo::test {
 namespace {

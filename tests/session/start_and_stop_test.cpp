@@ -6,8 +6,6 @@
 
 #include <QDir>
 
-#include <functional>
-
 namespace kurbo::test {
 namespace {
 

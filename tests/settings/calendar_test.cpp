@@ -1,9 +1,11 @@
+#include "base/public_holidays.h"
+#include "base/system/code_page.h"
+#include "base/system/files.h"
 #include "settings/calendar/calendar.h"
-
 #include "settings/calendar/calendar_store.h"
-#include "store/file/database_file.h"
-#include "support/child.h"
+#include "settings/calendar/holiday_sheet.h"
 #include "support/sample_company.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
@@ -57,23 +59,6 @@ TEST_F(CalendarDays, AYearIsMadeWholeOrNotAtAll) {
     addDay(u"20291231"_q, u"2030/01/01"_q);
     EXPECT_THROW(make(2029, watched), Fault);
     EXPECT_EQ(days(2029), 1);
-}
-
-TEST_F(CalendarDays, TwoAdministratorsMakeTheSameYears) {
-    constexpr int years = 20;
-    connection.close();
-    client.closeConnections();
-    const auto makeYears = [this] {
-        connection.open(path, databasePassword());
-        for (int year = 2001; year <= 2000 + years; ++year) make(year, desk.progress);
-        return 0;
-    };
-    const pid_t one = startChild(makeYears);
-    const pid_t other = startChild(makeYears);
-    EXPECT_EQ(endOf(one), 0);
-    EXPECT_EQ(endOf(other), 0);
-    connection.open(path, databasePassword());
-    for (int year = 2001; year <= 2000 + years; ++year) EXPECT_EQ(days(year), year % 4 == 0 ? 366 : 365) << year;
 }
 
 TEST_F(CalendarDays, OpenOnThisYearOrTheOldest) {
@@ -166,6 +151,190 @@ TEST_F(CalendarDays, CellsAndRowsAreChecked) {
         edit(5, column, {});
     }
     EXPECT_FALSE(rules.mayEdit(0, nameColumn) || rules.mayEdit(5, 1) || rules.mayEdit(5, 4));
+}
+
+namespace {
+
+const QString delivered = QStringLiteral(KURBO_DATA "/Holiday.txt");
+
+// A year of working days, and rules for it.
+class HolidayRules : public ::testing::Test {
+  protected:
+    HolidayRules() { begin(2027); }
+    void begin(int year) {
+        QList<CalendarRow> days;
+        for (Day day = *makeDay(year, 1, 1); yearOf(day) == year; day += std::chrono::days(1))
+            days.append({day, dateId(day), {}, {}});
+        calendar.kinds = GridList(u"|#0;全日|#1;午前"_q);
+        calendar.onEdit = [this] { ++told; };
+        drawCalendar(calendar, year, days);
+        SetupGrid(rules, calendar);
+        next = 1;
+        told = 0;
+    }
+    // Method, weekday, start, end, name, kind.
+    void rule(const QStringList& cells) {
+        for (int i = 0; i < cells.size(); ++i) rules.grid.TextMatrix(next, 1 + i, cells[i]);
+        ++next;
+    }
+    // "mmdd" and the name of each day that was marked.
+    [[nodiscard]] QString marked() const {
+        QStringList days;
+        for (int row = 1; row < calendar.grid.Rows(); ++row)
+            if (calendar.grid.RowStatus(row) != GridStatus::None)
+                days.append(calendar.text(row, CalendarColumn::Id).mid(4) + calendar.text(row, CalendarColumn::Name));
+        return days.join(u' ');
+    }
+    [[nodiscard]] QString refusal() const {
+        return refusalOf([&] { checkRules(rules); });
+    }
+
+    CalendarSheet calendar;
+    HolidaySheet rules;
+    int next = 1;
+    int told = 0;
+};
+
+QString official(int year) {
+    QStringList days;
+    for (const PublicHoliday& holiday : publicHolidays(year)) days.append(dateId(holiday.day).mid(4) + holiday.name);
+    return days.join(u' ');
+}
+
+} // namespace
+
+TEST_F(HolidayRules, TheDeliveredFileIsTheLawsYear) {
+    const auto file = ReadHolidayFile(delivered);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->heading.startsWith(u"2027年"_q));
+    fillHolidays(rules, file->lines);
+    EXPECT_EQ(refusal(), QString());
+    writeRules(rules, calendar);
+    EXPECT_EQ(marked(), official(2027));
+    EXPECT_EQ(calendar.text(1, CalendarColumn::Kind), u"0"_q);
+    EXPECT_EQ(readFile(delivered), holidayFileOf(2027));
+}
+
+// Why the file is made anew each year: the equinoxes, and the days off that follow from other holidays.
+TEST_F(HolidayRules, AFileIsRightForItsOwnYear) {
+    const Desk desk;
+    for (const int year : {2028, 2029, 2030, 2032}) {
+        replaceFile(desk.paths.HolidayPath, holidayFileOf(year));
+        begin(year);
+        fillHolidays(rules, ReadHolidayFile(desk.paths.HolidayPath)->lines);
+        writeRules(rules, calendar);
+        EXPECT_EQ(marked(), official(year));
+    }
+}
+
+TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
+    const Desk desk;
+    const QString line = u"01/01,元日,0\r\n"_q;
+    const auto read = [&](const QByteArray& bytes) {
+        replaceFile(desk.paths.HolidayPath, bytes);
+        const auto file = ReadHolidayFile(desk.paths.HolidayPath);
+        if (!file) return QString();
+        QString all = file->heading + u':';
+        for (const HolidayLine& holiday : file->lines) all += holiday.date + holiday.name + holiday.kind;
+        return all;
+    };
+    for (const auto& [text, expected] :
+         {std::pair{u"見出し\r\n"_q + line, u"見出し:01/01元日0"_q},
+          {u"\"見, \"\"出\"\"\"\n\"02/11\", 建国 ,\"1\"\n\n"_q, u"見, \"出\":02/11建国1"_q},
+          {u"h\r\n"_q + line.repeated(100), u"h:"_q + u"01/01元日0"_q.repeated(100)},
+          {u"h\n01/2/2,成人の日,0"_q, u"h:01/2/2成人の日0"_q}})
+        EXPECT_EQ(read(*toCodePage(text)), expected);
+    for (const QString& text : {u"h\n"_q + line.repeated(101), u"h\n1/2/2,成人の日,0"_q, u"h\n0101,元日,0"_q,
+                                u"h\n01/01,元日"_q, u"h\n01/01,元日,0,"_q, u"h\n\"01/01,元日,0"_q, QString()})
+        EXPECT_EQ(read(*toCodePage(text)), QString()) << text.left(40);
+    EXPECT_EQ(read("\xEF\xBB\xBF" + (u"𠮷\n"_q + line).toUtf8()), u"𠮷:01/01元日0"_q);
+    EXPECT_EQ(read("h\n01/01,\x81\x01,0"), QString());
+    EXPECT_FALSE(ReadHolidayFile(desk.file(u"none.txt"_q)));
+    EXPECT_FALSE(ReadHolidayFile(desk.folder.path()));
+    EXPECT_EQ(holidayDate(u"01/2/2"_q, 2027), u"01/11"_q);
+    EXPECT_FALSE(holidayDate(u"02/5/2"_q, 2027)) << "no fifth Monday";
+    EXPECT_FALSE(holidayDate(u"13/1/2"_q, 2027) || holidayDate(u"01/1/8"_q, 2027));
+}
+
+TEST_F(HolidayRules, AFileOfAnotherYearIsTold) {
+    Desk desk;
+    EXPECT_FALSE(chooseHolidays(desk.context, 2026)) << "no file, no message";
+    replaceFile(desk.paths.HolidayPath, holidayFileOf(2027));
+    const QString differs = u"2027年のもので、カレンダーの2026年とは異なります。\r\n"_q;
+    const QString make = differs + u"2026年の祝日ファイルを作成して"_q;
+    desk.prompts.expect(make, Answer::No).expect(differs + u"\r\nよろしいですか？"_q, Answer::Cancel);
+    EXPECT_FALSE(chooseHolidays(desk.context, 2026));
+    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
+    EXPECT_EQ(readFile(desk.paths.HolidayPath), holidayFileOf(2027));
+    desk.prompts.expect(make, Answer::Yes);
+    EXPECT_TRUE(chooseHolidays(desk.context, 2026)->heading.startsWith(u"2026年"_q));
+    EXPECT_EQ(readFile(desk.paths.HolidayPath), holidayFileOf(2026));
+    EXPECT_EQ(readFile(desk.paths.HolidayPath + u".old"_q), holidayFileOf(2027));
+}
+
+TEST_F(HolidayRules, HolidaysTakeTheEmptyRows) {
+    rule({u"0"_q, u"1"_q});
+    rules.grid.TextMatrix(3, 1, u"6"_q);
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(rules.text(33, HolidayColumn::Method), QString());
+        fillHolidays(rules, QList<HolidayLine>(30, {u"01/01"_q, u"元日"_q, u"0"_q}));
+        EXPECT_EQ(rules.text(1, HolidayColumn::Name) + rules.text(3, HolidayColumn::Name), QString());
+        EXPECT_EQ(rules.text(2, HolidayColumn::Name) + rules.text(32, HolidayColumn::To), u"元日01/01"_q);
+    }
+    EXPECT_EQ(rules.text(holidayRules, HolidayColumn::Kind), u"0"_q);
+    EXPECT_EQ(rules.grid.Rows(), 1 + holidayRules);
+}
+
+TEST_F(HolidayRules, RulesMeetTheirDays) {
+    // One or two rules, and the days that they name.
+    for (const QStringList& row : rowsOf("5,2,,,a|                    | 0329a 0531a 0830a 1129a\n"
+                                         "2,6,,,a|6,,01/01,11/30      | 1210a\n"
+                                         "6,,12/29,01/03,a|           |\n"
+                                         "6,,12/29,12/31,a|0,5,,,,    | 1229a 1231a\n"
+                                         "9,1,,,a|第１,1,,,a          |\n"
+                                         "10,1,,,a|3x,1,,,a           |\n"
+                                         "1,x,,,a|0,8,,,a             |")) {
+        begin(2027);
+        for (const QString& cells : row.mid(0, 2)) rule(cells.split(u','));
+        EXPECT_EQ(refusal(), QString());
+        writeRules(rules, calendar);
+        EXPECT_EQ(marked().split(u' ').filter(u"a"_q).join(u' '), row[2]);
+    }
+    begin(2027);
+    for (const QString& cells : {u"0,1,,,a,0"_q, u"0,7,,,b,1"_q, u"6,,01/03,01/03"_q}) rule(cells.split(u','));
+    writeRules(rules, calendar);
+    EXPECT_EQ(marked().left(28), u"0102b 0103 0109b 0110a 0116b"_q);
+    EXPECT_EQ(calendar.text(3, CalendarColumn::Kind), QString()) << "an empty rule clears";
+    EXPECT_GT(told, 0);
+}
+
+TEST_F(HolidayRules, WhatIsNotWholeIsRefused) {
+    const QString badList = u"不正な入力です。リストから選択して下さい。"_q;
+    const QString badDate = u"不正な入力です。日付をmm:dd形式で入力して下さい。"_q;
+    const HolidayCells cells(rules);
+    for (const auto& [column, text, refusal] :
+         {std::tuple{1, u"第６"_q, badList},
+          {2, u"日"_q, badList},
+          {6, u"午後"_q, badList},
+          {3, u"02/29"_q, badDate},
+          {4, u"13/01"_q, badDate},
+          {5, u"a"_q.repeated(31), u"不正な入力です。休日名称は全角15文字(半角30文字)以内で入力します。"_q},
+          {1, u"期間"_q, QString()},
+          {3, u"02/28"_q, {}},
+          {6, u"午前"_q, {}}})
+        EXPECT_EQ(cells.refusal(1, column, text), refusal) << text;
+    rule({u"7"_q});
+    rule({});
+    rule({u"6"_q, {}, u"01/05"_q});
+    EXPECT_EQ(refusal(), u"3行目で終了日付が正しく入力されていません。"_q);
+    rules.grid.TextMatrix(3, 3, u"02/29"_q);
+    EXPECT_EQ(refusal(), u"3行目で開始日付が正しく入力されていません。"_q);
+    rules.grid.TextMatrix(2, 1, u"5"_q);
+    EXPECT_EQ(refusal(), u"2行目で曜日が選択されていません。"_q);
+    begin(2028);
+    rule({u"6"_q, {}, u"02/29"_q, u"02/28"_q});
+    EXPECT_EQ(refusal(), QString()) << "a leap year; the order of the dates is not looked at";
+    EXPECT_EQ(cells.refusal(1, 3, u"02/29"_q), QString());
 }
 
 } // namespace kurbo::test

@@ -1,6 +1,5 @@
 #include "settings/calendar/frmCalendar.h"
 
-#include "screen/grid/grid.h"
 #include "settings/calendar/frmHoliday.h"
 #include "support/window.h"
 

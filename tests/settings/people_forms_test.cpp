@@ -2,7 +2,6 @@
 
 #include "screen/fields/data_combo.h"
 #include "screen/fields/data_list.h"
-#include "screen/grid/grid.h"
 #include "screen/windows/open_forms.h"
 #include "settings/people/frmAccess.h"
 #include "settings/people/frmPassword.h"

@@ -1,6 +1,5 @@
 #include "settings/people/staff_settings.h"
 
-#include "base/failure.h"
 #include "month/loaders.h"
 #include "settings/people/access_sheet.h"
 #include "support/sample_company.h"

@@ -1,4 +1,3 @@
-#include "store/connection.h"
 
 #include "base/system/files.h"
 #include "store/engine_fault.h"

@@ -1,17 +1,12 @@
 #include "store/file/lock_file.h"
 
 #include "base/error_log.h"
-#include "base/failure.h"
 #include "base/system/files.h"
 #include "store/file/is_db_ok.h"
 #include "support/child.h"
 #include "support/desk.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include <csignal>
-#include <unistd.h>
 
 namespace kurbo::test {
 namespace {
