@@ -43,14 +43,7 @@ class DataMove : public OldDays {
     QString refusal(const MoveOrder& given) {
         const Contents before = contentsOf(path);
         const bool open = connection.isOpen();
-        QString said;
-        try {
-            said = run(given);
-        } catch (const Complaint& complaint) {
-            said = complaint.description();
-        } catch (const Fault& fault) {
-            said = fault.description();
-        }
+        const QString said = refusalOf([&] { (void)run(given); });
         EXPECT_EQ(connection.isOpen(), open);
         EXPECT_TRUE(bar.ended);
         EXPECT_TRUE(contentsOf(path) == before);

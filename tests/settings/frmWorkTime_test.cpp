@@ -54,8 +54,8 @@ TEST_F(FrmWorkTime, TimesAreTypedRefusedAndStored) {
     type(2, 2, u"0000"_q);
     click("cmdUpdateWeekday");
     EXPECT_EQ(of<DataList>("dtsWeekday").boundText() + of<DataList>("dtsWeekday").text(), u"2夜勤"_q);
-    type(2, 3, u"0100"_q);
     const auto* const tip = form->statusBar()->findChild<QLabel*>();
+    type(2, 3, u"0100"_q);
     EXPECT_TRUE(tip->text().contains(u"の時間帯を設定します"_q));
     of<QTabWidget>("tabTime").setCurrentIndex(Adjust);
     EXPECT_EQ(tip->text(), QString());

@@ -12,7 +12,7 @@ namespace {
 
 class TimeSheets : public Times {
   protected:
-    // Rows of page, code, name, cells and refusal; "work" stands for good working hours.
+    // Rows of page (its number), code, name, cells and refusal; "work" stands for good working hours.
     void check(const char* table) {
         for (const QStringList& row : rowsOf(table)) {
             const QString cells = QString(row[3]).replace(u"work"_q, u"2,1=09:00 2,2=17:00"_q);
