@@ -41,7 +41,7 @@ class FrmMaintainance : public Window<frmMaintainance, OldDays> {
 };
 
 TEST_F(FrmMaintainance, OffersWhatHasPassedAndMovesIt) {
-    EXPECT_EQ(of<QLabel>("lblSourceDB").text(), path);
+    EXPECT_EQ(form->windowTitle() + of<QLabel>("lblSourceDB").text(), u"Kurbo－データ移動"_q + path);
     EXPECT_EQ(text("mskStartDay") + text("mskEndDay"), u"2026/01/012026/03/31"_q);
     EXPECT_EQ(text("mskStartMonth") + text("mskEndMonth"), u"2025/122026/04"_q);
     EXPECT_FALSE(canMove());

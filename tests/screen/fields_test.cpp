@@ -126,7 +126,8 @@ struct MaskedBoxes : ::testing::Test {
     int clicks = 0;
 };
 
-// Kind (0 day, 1 month, 2 time), blank text, what is typed, what stands there then, and the day, or "-" where it is a good text without one.
+// Kind (0 day, 1 month, 2 time), blank text, what is typed, what stands there then, and the day, or "-" where it is a
+// good text without one.
 TEST_F(MaskedBoxes, TextsOfEachKind) {
     for (const QStringList& row : rowsOf("0 | ____/__/__ | 20260229   | 2026/02/29 |\n"
                                          "0 | ____/__/__ | 2024/02/29 | 2024/02/29 | 20240229\n"

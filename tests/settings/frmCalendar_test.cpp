@@ -40,6 +40,7 @@ class FrmCalendar : public Window<frmCalendar> {
 
 TEST_F(FrmCalendar, DaysAreTypedAndStored) {
     open();
+    EXPECT_EQ(form->windowTitle(), u"Kurbo－カレンダー設定"_q);
     EXPECT_EQ(days().grid()->CellText(119, 1) + days().grid()->CellText(119, 2), u"2026/04/29(水)昭和の日"_q);
     EXPECT_EQ(form->statusBar()->findChild<QLabel*>()->text(), u"日付の名称を入力します(例：夏季休暇)"_q);
     typeCell(days(), 2, 2, u"Rest"_q);
@@ -77,6 +78,7 @@ TEST_F(FrmCalendar, RulesAreCarriedIntoTheCalendar) {
     QFile::copy(QStringLiteral(KURBO_DATA "/Holiday.txt"), desk.paths.HolidayPath);
     open();
     openRules();
+    EXPECT_EQ(rules->windowTitle(), u"Kurbo－休日設定"_q);
     Grid& grid = named<Grid>(*rules, "vfgHoliday");
     choose(grid, 1, 1, 1);
     choose(grid, 1, 2, 1);

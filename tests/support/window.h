@@ -33,6 +33,7 @@ class Window : public Company {
         form = new Form(this->client);
         form->load();
         form->show();
+        EXPECT_TRUE(form->windowTitle().startsWith(u"Kurbo"_q)) << form->windowTitle();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     }
     void open(const QString& staff = QStringLiteral("ADMIN")) {
