@@ -23,7 +23,7 @@ bool continues(const Context& context, const QString& date) {
         lines(date + QStringLiteral("の退社打刻がありません。"), date + QStringLiteral("からの継続勤務ですか？")));
 }
 
-PunchResult refuse(const Context& context, const PunchState& state) {
+PunchResult refuse(const Context& context, const StatusCode& state) {
     context.prompts.exclaim(state.today == DayRow::Entered ? QStringLiteral("既に出社打刻済です。打刻できません。")
                                                            : QStringLiteral("既に退社打刻済です。打刻できません。"));
     return PunchResult::Refused;
@@ -74,12 +74,12 @@ struct Press {
         return kind == Punch::Leave ? leave(*state) : outOrIn(*state, kind);
     }
 
-    [[nodiscard]] PunchResult enter(const PunchState& state) const {
+    [[nodiscard]] PunchResult enter(const StatusCode& state) const {
         if (state.today == DayRow::Entered || state.today == DayRow::Left) return refuse(context, state);
         return ended(RecordEnter(context, connection, staff, when, state.today == DayRow::None, false));
     }
 
-    [[nodiscard]] PunchResult leave(const PunchState& state) const {
+    [[nodiscard]] PunchResult leave(const StatusCode& state) const {
         if (state.today == DayRow::Left) return refuse(context, state);
         const QString day = state.today == DayRow::None ? QString() : dateId(dayOf(when));
         if (state.today == DayRow::Entered) return ended(leaveOn(day));
@@ -89,7 +89,7 @@ struct Press {
         return PunchResult::Done;
     }
 
-    [[nodiscard]] PunchResult outOrIn(const PunchState& state, Punch kind) const {
+    [[nodiscard]] PunchResult outOrIn(const StatusCode& state, Punch kind) const {
         if (state.today != DayRow::None) return ended(outing(kind, state.cardId));
         if (goesOn(state)) return ended(outing(kind, state.open->id));
         if (!RecordEnter(context, connection, staff, when, true, true)) return PunchResult::Stopped;
@@ -99,11 +99,11 @@ struct Press {
         return PunchResult::Done;
     }
 
-    [[nodiscard]] bool goesOn(const PunchState& state) const {
+    [[nodiscard]] bool goesOn(const StatusCode& state) const {
         return state.open && continues(context, state.open->slashDate());
     }
 
-    void warnOfMissing(const PunchState& state) const {
+    void warnOfMissing(const StatusCode& state) const {
         state.open ? warnNoLeave(context, state.open->slashDate()) : warnNoEnter(context);
     }
 

@@ -49,11 +49,11 @@ DayRow dayRowOf(const std::optional<Row>& today) {
     return today->entered ? DayRow::Entered : DayRow::NotEntered;
 }
 
-std::optional<PunchState> asked(const Context& context, Connection& connection, QStringView procedure,
+std::optional<StatusCode> asked(const Context& context, Connection& connection, QStringView procedure,
                                 const QString& staff, Moment when, bool (*isClosed)(const Row&)) {
-    return guarded(context, u"frmLogin", procedure, std::optional<PunchState>(), [&] {
+    return guarded(context, u"frmLogin", procedure, std::optional<StatusCode>(), [&] {
         const Ends ends = endsOf(connection, staff, dateId(dayOf(when)));
-        PunchState state{.today = dayRowOf(ends.today), .cardId = ends.today ? ends.today->id : 0, .open = {}};
+        StatusCode state{.today = dayRowOf(ends.today), .cardId = ends.today ? ends.today->id : 0, .open = {}};
         if (ends.before && !isClosed(*ends.before)) state.open = OpenRow{ends.before->id, ends.before->dateId};
         return state;
     });
@@ -61,12 +61,12 @@ std::optional<PunchState> asked(const Context& context, Connection& connection, 
 
 } // namespace
 
-std::optional<PunchState> TimeCardStatus(const Context& context, Connection& connection, const QString& staff,
+std::optional<StatusCode> TimeCardStatus(const Context& context, Connection& connection, const QString& staff,
                                          Moment when) {
     return asked(context, connection, u"TimeCardStatus", staff, when, [](const Row& row) { return row.finished(); });
 }
 
-std::optional<PunchState> GetKurboID(const Context& context, Connection& connection, const QString& staff,
+std::optional<StatusCode> GetKurboID(const Context& context, Connection& connection, const QString& staff,
                                      Moment when) {
     return asked(context, connection, u"GetKurboID", staff, when, [](const Row& row) { return row.left; });
 }

@@ -27,7 +27,7 @@ struct OpenRow {
 };
 
 // Where a person stands, read from the card rows alone.
-struct PunchState {
+struct StatusCode {
     DayRow today = DayRow::None;
     std::int64_t cardId = 0;     // of the day's row
     std::optional<OpenRow> open; // the last row before the day, when it is open
@@ -35,10 +35,10 @@ struct PunchState {
 
 // For the enter and leave punches: a row with a leave of the whole day is closed without a leave time. `when` is the
 // adjusted time; rows of later days are not seen. Nothing on a failure, which is reported.
-[[nodiscard]] std::optional<PunchState> TimeCardStatus(const Context& context, Connection& connection,
+[[nodiscard]] std::optional<StatusCode> TimeCardStatus(const Context& context, Connection& connection,
                                                        const QString& staff, Moment when);
 // The same for the out and in punches: only a leave time closes a row.
-[[nodiscard]] std::optional<PunchState> GetKurboID(const Context& context, Connection& connection, const QString& staff,
+[[nodiscard]] std::optional<StatusCode> GetKurboID(const Context& context, Connection& connection, const QString& staff,
                                                    Moment when);
 
 } // namespace kurbo

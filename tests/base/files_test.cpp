@@ -1,41 +1,37 @@
 #include "base/system/files.h"
 #include "support/desk.h"
+#include "support/table.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 namespace kurbo::test {
 
 TEST(Files, PathsAreTestedTrimmed) {
     const Desk desk;
-    replaceFile(desk.file(u"A.mdb"_q), "x");
-    QString path = u"  "_q + desk.file(u"A.mdb"_q) + u' ';
-    EXPECT_TRUE(CheckPath(path));
-    EXPECT_EQ(path, desk.file(u"A.mdb"_q));
-    EXPECT_FALSE(CheckPath(path, true));
-    QString folder = desk.folder.path();
-    EXPECT_TRUE(CheckPath(folder, true));
-    EXPECT_FALSE(CheckPath(folder));
-    QString other = desk.file(u"a.mdb"_q);
-    EXPECT_FALSE(CheckPath(other)) << "a path keeps its letter case";
-    QString empty = u"  "_q;
-    EXPECT_FALSE(CheckPath(empty));
-    EXPECT_EQ(addSlash(u" /a/b "_q), u"/a/b/"_q);
-    EXPECT_EQ(addSlash(u"/a/b//"_q), u"/a/b/"_q);
-    EXPECT_TRUE(FileExists(desk.file(u"A.mdb "_q)));
-    EXPECT_TRUE(FileExists(desk.file(u"A.mdb"_q), true));
-    EXPECT_FALSE(FileExists(desk.folder.path()));
-    EXPECT_TRUE(FileExists(desk.folder.path(), true));
-    EXPECT_FALSE(FileExists(u" "_q, true));
+    const QString file = desk.file(u"A.mdb"_q);
+    replaceFile(file, "x");
+    // Is it a file, is it a folder, and is it there as a file or as anything? A path keeps its letter case.
+    for (const auto& [path, answers] : {std::pair{u"  "_q + file + u' ', u"ynyy"_q},
+                                        {desk.folder.path(), u"nyny"_q},
+                                        {desk.file(u"a.mdb"_q), u"nnnn"_q},
+                                        {u"  "_q, u"nnnn"_q}}) {
+        QString asFile = path;
+        QString asFolder = path;
+        QString found;
+        for (const bool is : {CheckPath(asFile), CheckPath(asFolder, true), FileExists(path), FileExists(path, true)})
+            found += is ? u'y' : u'n';
+        EXPECT_EQ(found, answers) << path;
+        EXPECT_EQ(asFile, path.trimmed());
+    }
+    for (const QString& folder : {u" /a/b "_q, u"/a/b//"_q}) EXPECT_EQ(addSlash(folder), u"/a/b/"_q);
 }
 
 TEST(Files, PathsAreTakenApart) {
-    EXPECT_EQ(FileNameOf(u"/a/b.mdb"_q), u"b.mdb"_q);
-    EXPECT_EQ(FolderOf(u"/a/b.mdb"_q), u"/a"_q);
-    EXPECT_EQ(FolderOf(u"/b.mdb"_q), QString());
-    EXPECT_EQ(FileNameOf(u"b.mdb"_q), u"b.mdb"_q);
-    EXPECT_EQ(FolderOf(u"b.mdb"_q), u"b.mdb"_q);
+    for (const QStringList& row :
+         rowsOf("/a/b.mdb|b.mdb|/a\n/b.mdb|b.mdb|\nb.mdb|b.mdb|b.mdb")) {
+        EXPECT_EQ(FileNameOf(row[0]), row[1]);
+        EXPECT_EQ(FolderOf(row[0]), row[2]);
+    }
 }
 
 TEST(Files, AFailedReplaceKeepsTheOldFile) {

@@ -1,6 +1,7 @@
 #include "store/file/database_file.h"
 #include "support/kurboctl.h"
 #include "support/sample_company.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
@@ -17,11 +18,12 @@ class ReportCommand : public SampleCompany {
     ReportCommand() {
         connection.execute(u"UPDATE C03_Staff SET F_StaffName = '金子　一月' WHERE (F_StaffCode = '1001')"_q);
         addCard(1, *makeDay(2026, 4, 1), u"08:52"_q, u"18:05"_q);
-        connection.execute(
-            u"INSERT INTO T04_Destination (F_DestCode, F_DestName, F_User) VALUES (1, '金山～西', '1001')"_q);
-        connection.execute(u"INSERT INTO T03_GoOut (F_KurboID, F_Order, F_Out, F_Destination, F_Expense) "
-                           "VALUES (1, 1, #2026/04/01 10:05:31#, 1, 1200)"_q);
+        insert("T04_Destination", "DestCode, DestName, User", u"1, '金山～西', '1001'"_q);
+        insert("T03_GoOut", "KurboID, Order, Out, Destination, Expense", u"1, 1, #2026/04/01 10:05:31#, 1, 1200"_q);
         connection.close();
+    }
+    [[nodiscard]] QString textOfPdf() const {
+        return outputOf(u"pdftotext"_q, {u"-raw"_q, desk.file(u"r.pdf"_q), u"-"_q});
     }
     [[nodiscard]] Outcome report(const QString& arguments, const QString& pdf = u"r.pdf"_q) const {
         return kurboctl(QStringList({u"report"_q, path}) + arguments.split(u' ') +
@@ -32,26 +34,17 @@ class ReportCommand : public SampleCompany {
 
 // The text is found by its letters, not by look-alikes, and every font is in the file.
 TEST_F(ReportCommand, WritesEachReportAsAPdf) {
-    struct Case {
-        QString arguments;
-        QStringList texts;
-    };
-    const std::vector cases{
-        Case{u"card --staff 1001 --month 2026/04"_q,
-             {u"タイムカード"_q, u"2026/04/01～2026/04/30"_q, u"氏名：金子"_q, u"一月 (1001)"_q, u"26/04/01(水)"_q,
-              u"08:52"_q, u"合計(実働)"_q, u"本人"_q, u"所属長"_q, u"1 / 1"_q, u"印刷日：2026/05/07"_q}},
-        Case{u"totals --section S01 --from 2026/03 --to 2026/04 --by month"_q,
-             {u"月次集計"_q, u"2026/03～2026/04"_q, u"2026年 04月"_q, u"金子"_q, u"小計"_q, u"合計"_q}},
-        Case{u"totals --staff 1001 --from 2026/04 --to 2026/04"_q, {u"金子"_q, u"2026年 04月"_q, u"小計"_q}},
-        Case{u"goout --staff 1001 --from 2026/04/01 --to 2026/04/30"_q,
-             {u"外出出張明細"_q, u"金山～西"_q, u"¥1,200"_q, u"2026年 04月 01日～2026年 04月 30日"_q}}};
-    for (const Case& c : cases) {
-        const Outcome outcome = report(c.arguments);
-        EXPECT_EQ(outcome.exit, 0) << c.arguments << outcome.err;
-        EXPECT_EQ(outcome.out, u"1ページを保存しました。\n"_q);
-        EXPECT_EQ(outcome.err, QString());
-        const QString text = outputOf(u"pdftotext"_q, {u"-raw"_q, desk.file(u"r.pdf"_q), u"-"_q});
-        for (const QString& part : c.texts) EXPECT_TRUE(text.contains(part)) << part << "\n" << text;
+    for (const QStringList& row : rowsOf(R"(
+card --staff 1001 --month 2026/04 | 2026/04/01～2026/04/30,氏名：金子,一月 (1001),08:52,合計(実働),所属長,1 / 1,印刷日：2026/05/07
+totals --section S01 --from 2026/03 --to 2026/04 --by month | 月次集計,2026/03～2026/04,2026年 04月,金子,小計,合計
+totals --staff 1001 --from 2026/04 --to 2026/04 | 金子,2026年 04月,小計
+goout --staff 1001 --from 2026/04/01 --to 2026/04/30 | 外出出張明細,金山～西,¥1.200,2026年 04月 01日～2026年 04月 30日
+)")) {
+        const Outcome outcome = report(row[0]);
+        EXPECT_EQ(outcome.exit, 0) << row[0] << outcome.err;
+        EXPECT_EQ(outcome.out + outcome.err, u"1ページを保存しました。\n"_q);
+        const QString text = textOfPdf().replace(u"¥1,"_q, u"¥1."_q);
+        for (const QString& part : row[1].split(u',')) EXPECT_TRUE(text.contains(part)) << part << "\n" << text;
         const QStringList fonts = outputOf(u"pdffonts"_q, {desk.file(u"r.pdf"_q)}).trimmed().split(u'\n').mid(2);
         EXPECT_GE(fonts.size(), 1);
         for (const QString& font : fonts) EXPECT_TRUE(font.contains(u"Identity-H       yes"_q)) << font;
@@ -59,46 +52,34 @@ TEST_F(ReportCommand, WritesEachReportAsAPdf) {
 }
 
 TEST_F(ReportCommand, RefusesAndFailsByItsExit) {
-    struct Case {
-        QString arguments;
-        QString pdf;
-        int exit;
-        QString told{};
-    };
-    const std::vector cases{
-        Case{u"card --staff 9999 --month 2026/04"_q, u"r.pdf"_q, 1},
-        Case{u"totals --section S99 --from 2026/04 --to 2026/04"_q, u"r.pdf"_q, 1},
-        Case{u"goout --staff 1001"_q, u"r.pdf"_q, 2},
-        Case{u"card --month 2026/04"_q, u"r.pdf"_q, 2},
-        Case{u"novel --staff 1001"_q, u"r.pdf"_q, 2},
-        Case{u"card --staff 1001 --month 2026/04"_q, u"store.mdb"_q, 2},
-        Case{u"card --staff 1001 --month 2026/04"_q, u"no/r.pdf"_q, 3, u"/no\n"_q},
-        Case{u"goout --staff 1001 --from 2026/04/30 --to 2026/04/01"_q, u"r.pdf"_q, 2, u"--to lies before --from"_q},
-        Case{u"card --staff 1001 --month 2026/04 --from 2026/04/01 --to 2026/04/30"_q, u"r.pdf"_q, 2},
-        Case{u"totals --staff 1001 --from 2026/04 --to 2026/04 --month 2026/04"_q, u"r.pdf"_q, 2},
-        Case{u"card --staff 1001 --month 2026/04"_q, {}, 1, u"ファイルではないため"_q}};
-    for (const Case& c : cases) {
-        const Outcome outcome = report(c.arguments, c.pdf);
-        EXPECT_EQ(outcome.exit, c.exit) << c.arguments;
-        EXPECT_TRUE(!outcome.err.isEmpty() && outcome.err.contains(c.told)) << c.arguments << outcome.err;
-        EXPECT_FALSE(QFile::exists(desk.file(u"r.pdf"_q))) << c.arguments;
+    // The exit, the file, the arguments, and what is told.
+    for (const QStringList& row : rowsOf(R"(
+1 | r.pdf     | card --staff 9999 --month 2026/04 |
+1 | r.pdf     | totals --section S99 --from 2026/04 --to 2026/04 |
+2 | r.pdf     | goout --staff 1001 |
+2 | r.pdf     | card --month 2026/04 |
+2 | r.pdf     | novel --staff 1001 |
+2 | store.mdb | card --staff 1001 --month 2026/04 |
+3 | no/r.pdf  | card --staff 1001 --month 2026/04 | パスが見つかりません。
+2 | r.pdf     | goout --staff 1001 --from 2026/04/30 --to 2026/04/01 | --to lies before --from
+2 | r.pdf     | card --staff 1001 --month 2026/04 --from 2026/04/01 --to 2026/04/30 |
+2 | r.pdf     | totals --staff 1001 --from 2026/04 --to 2026/04 --month 2026/04 |
+1 |           | card --staff 1001 --month 2026/04 | ファイルではないため
+)")) {
+        const Outcome outcome = report(row[2], row[1]);
+        EXPECT_EQ(outcome.exit, row[0].toInt()) << row[2];
+        EXPECT_TRUE(!outcome.err.isEmpty() && outcome.err.contains(row[3])) << row[2] << outcome.err;
+        EXPECT_FALSE(QFile::exists(desk.file(u"r.pdf"_q))) << row[2];
     }
-    const QStringList april{u"report"_q, path, u"card"_q, u"--staff"_q, u"1001"_q, u"--month"_q, u"2026/04"_q};
-    EXPECT_EQ(kurboctl(april).exit, 2);
-    EXPECT_EQ(kurboctl(april + QStringList{u"--out"_q, {}}).exit, 2);
+    EXPECT_EQ(kurboctl({u"report"_q, path, u"card"_q, u"--staff"_q, u"1001"_q, u"--month"_q, u"2026/04"_q}).exit, 2);
 }
 
 TEST_F(ReportCommand, APersonWithoutASectionHasNoneInTheHeading) {
     connection.open(path, databasePassword());
     connection.execute(u"UPDATE C03_Staff SET F_Section = NULL WHERE (F_StaffCode = '1001')"_q);
     connection.close();
-    for (const QString& kind : {u"goout --staff 1001 --month 2026/04"_q, u"card --staff 1001 --month 2026/04"_q,
-                                u"totals --staff 1001 --from 2026/04 --to 2026/04"_q}) {
-        const Outcome outcome = report(kind);
-        EXPECT_EQ(outcome.exit, 0) << kind << outcome.err;
-        const QString text = outputOf(u"pdftotext"_q, {u"-raw"_q, desk.file(u"r.pdf"_q), u"-"_q});
-        EXPECT_TRUE(text.contains(u"氏名：金子"_q) && !text.contains(u"部課"_q)) << text;
-    }
+    EXPECT_EQ(report(u"card --staff 1001 --month 2026/04"_q).exit, 0);
+    EXPECT_TRUE(textOfPdf().contains(u"氏名：金子"_q) && !textOfPdf().contains(u"部課"_q)) << textOfPdf();
 }
 
 } // namespace

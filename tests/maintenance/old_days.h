@@ -6,7 +6,7 @@
 
 namespace kurbo::test {
 
-// All rows that a move touches, each with all its columns as texts.
+// All rows that a move touches, each with all its columns as texts: calendar days, cards, outings, saved months.
 struct Contents {
     QList<QStringList> days;
     QList<QStringList> cards;
@@ -15,25 +15,20 @@ struct Contents {
     friend bool operator==(const Contents&, const Contents&) = default;
 };
 
-inline QList<QStringList> allRows(Connection& connection, const QString& statement) {
-    QList<QStringList> found;
-    Rows rows = connection.rows(statement);
-    while (rows.next()) {
-        QStringList& row = found.emplaceBack();
-        for (int column = 0; column < rows.columns(); ++column)
-            row.append(rows.isNull(column) ? u"-"_q : rows.text(column));
-    }
-    return found;
-}
-
 inline Contents contentsOf(const QString& path) {
     EXPECT_TRUE(checkDatabase(path).isEmpty()) << path;
     Connection connection;
     connection.open(path, databasePassword());
-    return {allRows(connection, u"SELECT * FROM T01_Calendar ORDER BY F_DateID"_q),
-            allRows(connection, u"SELECT * FROM T02_Kurbo ORDER BY F_KurboID"_q),
-            allRows(connection, u"SELECT * FROM T03_GoOut ORDER BY F_KurboID, F_Order"_q),
-            allRows(connection, u"SELECT * FROM T05_Approved ORDER BY F_Staff, F_Year, F_Month"_q)};
+    const auto all = [&connection](const QString& tableAndOrder) {
+        QList<QStringList> found;
+        for (Rows rows = connection.rows(u"SELECT * FROM "_q + tableAndOrder); rows.next();) {
+            QStringList& row = found.emplaceBack();
+            for (int i = 0; i < rows.columns(); ++i) row.append(rows.isNull(i) ? u"-"_q : rows.text(i));
+        }
+        return found;
+    };
+    return {all(u"T01_Calendar ORDER BY F_DateID"_q), all(u"T02_Kurbo ORDER BY F_KurboID"_q),
+            all(u"T03_GoOut ORDER BY F_KurboID, F_Order"_q), all(u"T05_Approved ORDER BY F_Staff, F_Year, F_Month"_q)};
 }
 
 // What of `before` lies within the order, or outside of it, worked out row by row. `months` says which ends count for
@@ -81,12 +76,10 @@ class OldDays : public SampleCompany {
                                    "VALUES (?, ?, ?, 1, 480)"_q,
                                    {id, order, at(day, 12 + order, 0)});
         }
-        for (const char16_t* month : {u"2025 12", u"2026 01", u"2026 02", u"2026 03"})
-            for (const char16_t* staff : {u"1001", u"1002"})
-                connection.execute(
-                    u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_Work) "
-                    "VALUES (?, 'S01', ?, ?, 9000)"_q,
-                    {QString::fromUtf16(staff), QString::fromUtf16(month).left(4), QString::fromUtf16(month).right(2)});
+        for (const char* month : {"'2025', '12'", "'2026', '01'", "'2026', '02'", "'2026', '03'"})
+            for (const char* staff : {"'1001'", "'1002'"})
+                insert("T05_Approved", "Staff, Section, Work, Year, Month",
+                       u"%1, 'S01', 9000, %2"_q.arg(QLatin1String(staff), QLatin1String(month)));
         transaction.commit();
     }
 

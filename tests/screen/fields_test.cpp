@@ -1,12 +1,13 @@
-#include "screen/fields/fields.h"
-
 #include "screen/fields/data_combo.h"
+#include "screen/fields/fields.h"
+#include "screen/fields/masked_box.h"
 #include "screen/fields/up_down.h"
 #include "support/desk.h"
+#include "support/table.h"
 
 #include <QApplication>
 #include <QCompleter>
-#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -16,11 +17,8 @@ namespace {
 
 TEST(UpDown, ButtonsAndKeysOfTheFieldAreOne) {
     QWidget form;
-    QLineEdit field;
-    UpDown udc;
-    auto* const column = new QVBoxLayout(&form);
-    column->addWidget(&field);
-    column->addWidget(&udc);
+    QLineEdit field(&form);
+    UpDown udc(&form);
     int value = 0;
     QObject::connect(&udc, &UpDown::UpClick, &form, [&] { ++value; });
     QObject::connect(&udc, &UpDown::DownClick, &form, [&] { --value; });
@@ -28,43 +26,31 @@ TEST(UpDown, ButtonsAndKeysOfTheFieldAreOne) {
     form.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     field.setFocus();
-
-    const auto buttons = udc.findChildren<QToolButton*>();
-    ASSERT_EQ(buttons.size(), 2);
-    QTest::mouseClick(buttons[0], Qt::LeftButton);
-    QTest::mouseClick(buttons[0], Qt::LeftButton);
-    QTest::mouseClick(buttons[1], Qt::LeftButton);
+    for (const int button : {0, 0, 1}) QTest::mouseClick(udc.findChildren<QToolButton*>()[button], Qt::LeftButton);
     EXPECT_EQ(value, 1);
     EXPECT_TRUE(field.hasFocus());
-    QTest::keyClick(&field, Qt::Key_Up);
-    EXPECT_EQ(value, 2);
-    QTest::keyClick(&field, Qt::Key_Down, Qt::ControlModifier);
-    QTest::keyClick(&field, Qt::Key_Left);
-    EXPECT_EQ(value, 2);
-    QTest::keyClick(&field, Qt::Key_Down);
-    EXPECT_EQ(value, 1);
-
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(&field, &held);
-    EXPECT_EQ(value, 1);
+    const auto pressed = [&](Qt::Key key, Qt::KeyboardModifiers with, bool held) {
+        QKeyEvent event(QEvent::KeyPress, key, with, QString(), held);
+        QCoreApplication::sendEvent(&field, &event);
+        return value;
+    };
+    EXPECT_EQ(pressed(Qt::Key_Up, {}, false), 2);
+    EXPECT_EQ(pressed(Qt::Key_Down, Qt::ControlModifier, false), 2);
+    EXPECT_EQ(pressed(Qt::Key_Down, {}, false), 1);
+    EXPECT_EQ(pressed(Qt::Key_Up, {}, true), 1);
     udc.setRepeats(true);
-    QCoreApplication::sendEvent(&field, &held);
-    EXPECT_EQ(value, 2);
+    EXPECT_EQ(pressed(Qt::Key_Up, {}, true), 2);
     udc.setEnabled(false);
-    QTest::keyClick(&field, Qt::Key_Up);
-    EXPECT_EQ(value, 2);
+    EXPECT_EQ(pressed(Qt::Key_Up, {}, false), 2);
 }
 
 TEST(Fields, PrefecturesWithAndWithoutTheWholeCountry) {
     QComboBox list;
-    FillPrefectures(list, true);
-    FillPrefectures(list, true);
-    EXPECT_EQ(list.count(), 48);
-    EXPECT_EQ(list.itemText(0), u"全国"_q);
-    EXPECT_EQ(list.itemData(13), 13);
-    FillPrefectures(list, false);
-    EXPECT_EQ(list.count(), 47);
-    EXPECT_EQ(list.itemText(0), u"北海道"_q);
+    for (const auto& [whole, first] : {std::pair{true, u"全国0"_q}, {false, u"北海道1"_q}}) {
+        FillPrefectures(list, whole);
+        EXPECT_EQ(list.itemText(0) + list.itemData(0).toString(), first);
+        EXPECT_EQ(list.count(), whole ? 48 : 47);
+    }
 }
 
 const QList<CodeName> people{{u"1"_q, u"Sato"_q}, {u"2"_q, u"Suzuki"_q}, {u"3"_q, u"Sato"_q}};
@@ -78,17 +64,10 @@ TEST(DataCombo, GivesTheCodeOfTheShownNameOrTheTypedText) {
     combo.setEditText(u"ADMIN"_q);
     EXPECT_EQ(combo.boundText(), u"ADMIN");
     EXPECT_FALSE(combo.isInList());
+    combo.setCurrentIndex(2);
+    EXPECT_EQ(combo.boundText(), u"3") << "people of one name";
     combo.setBoundText(u"9"_q);
     EXPECT_EQ(combo.currentText(), u"9");
-}
-
-TEST(DataCombo, TellsPeopleOfOneNameApart) {
-    DataCombo combo;
-    combo.setEntries(people);
-    combo.setCurrentIndex(2);
-    EXPECT_EQ(combo.boundText(), u"3");
-    combo.setEntries(people);
-    EXPECT_EQ(combo.currentText(), u"Sato");
 }
 
 TEST(DataCombo, LeavesTheTextAndTheClicksToThePerson) {
@@ -112,6 +91,123 @@ TEST(DataCombo, LeavesTheTextAndTheClicksToThePerson) {
     QWheelEvent turn({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&combo, &turn);
     EXPECT_EQ(combo.currentText(), u"Su");
+}
+
+const QString refusal = QStringLiteral("不正な入力です。");
+
+// A date box that refuses, a field after it, and two buttons.
+struct MaskedBoxes : ::testing::Test {
+    MaskedBoxes() {
+        auto* const column = new QVBoxLayout(&form);
+        for (QWidget* field : std::initializer_list<QWidget*>{&box, &next, &button, &cancel}) column->addWidget(field);
+        cancel.setObjectName(u"cmdCancel"_q);
+        box.setRefusal(refusal, prompts);
+        QObject::connect(&button, &QPushButton::clicked, &form, [this] { ++clicks; });
+        form.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+        box.setFocus(Qt::TabFocusReason);
+    }
+    void type(const QString& text) { QTest::keyClicks(&box, text); }
+    static void pressTab() {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
+    }
+    static void click(QWidget& target) {
+        QTest::mouseClick(&target, Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+
+    ScriptedPrompts prompts;
+    QWidget form;
+    MaskedBox box;
+    QLineEdit next;
+    QPushButton button;
+    QPushButton cancel;
+    int clicks = 0;
+};
+
+// Kind (0 day, 1 month, 2 time), blank text, what is typed, what stands there then, and the day, or "-" where it is a
+// good text without one.
+TEST_F(MaskedBoxes, TextsOfEachKind) {
+    for (const QStringList& row : rowsOf("0 | ____/__/__ | 20260229   | 2026/02/29 |\n"
+                                         "0 | ____/__/__ | 2024/02/29 | 2024/02/29 | 20240229\n"
+                                         "0 | ____/__/__ | 202x4      | 2024/__/__ |\n"
+                                         "1 | ____/__    | 202604     | 2026/04    | 20260401\n"
+                                         "1 | ____/__    | 202613     | 2026/13    |\n"
+                                         "2 | __:__      | 2359       | 23:59      | -\n"
+                                         "2 | __:__      | 2500       | 25:00      |\n"
+                                         "2 | __:__      | 9          | 9_:__      |\n")) {
+        SCOPED_TRACE(row.join(u'|').toStdString());
+        box.setKind(std::array{MaskedBox::Date, MaskedBox::Month, MaskedBox::Time}[row[0].toUInt()]);
+        EXPECT_TRUE(box.isBlank());
+        EXPECT_EQ(box.maskText(), row[1]);
+        type(row[2]);
+        EXPECT_EQ(box.maskText(), row[3]);
+        EXPECT_FALSE(box.isBlank());
+        EXPECT_EQ(box.isValid(), !row[4].isEmpty());
+        EXPECT_EQ(box.day(), parseDateId(row[4]));
+    }
+}
+
+TEST_F(MaskedBoxes, TakeOtherDigitsAndAnotherDayOverTheFirst) {
+    for (const QString& composed : {u"２０２４"_q, u"①"_q, u"年"_q, u"0４０１"_q}) {
+        QInputMethodEvent event;
+        event.setCommitString(composed);
+        QCoreApplication::sendEvent(&box, &event);
+    }
+    EXPECT_EQ(box.maskText(), u"2024/04/01"_q);
+    pressTab();
+    EXPECT_TRUE(next.hasFocus());
+    QTest::keyClick(&next, Qt::Key_Backtab);
+    type(u"20270312"_q);
+    EXPECT_EQ(box.maskText(), u"2027/03/12"_q) << "the text was not selected";
+    box.setKind(MaskedBox::Month);
+    box.setDay(*makeDay(2026, 11, 30));
+    click(next);
+    click(box);
+    EXPECT_EQ(box.selectedText(), u"2026/11"_q) << "the first click takes all";
+    click(box);
+    EXPECT_FALSE(box.hasSelectedText());
+}
+
+TEST_F(MaskedBoxes, HoldThePersonWhileTheTextIsBad) {
+    type(u"20260431"_q);
+    prompts.expect(refusal).expect(refusal).expect(refusal);
+    pressTab();
+    EXPECT_EQ(box.selectedText(), u"2026/04/31"_q);
+    click(next);
+    EXPECT_TRUE(box.hasFocus());
+    click(button);
+    EXPECT_TRUE(prompts.allShown());
+    EXPECT_EQ(clicks, 0) << "the click did something in spite of the refusal";
+    type(u"20260430"_q);
+    click(button);
+    EXPECT_EQ(clicks, 1);
+    box.clear();
+    box.setFocus();
+    pressTab();
+    EXPECT_TRUE(next.hasFocus()) << "an empty box is no bad one";
+}
+
+TEST_F(MaskedBoxes, LetGoOfWhoDoesNotLeaveForAField) {
+    MaskedBox other(&form);
+    other.setRefusal(refusal, prompts);
+    other.setText(u"2026"_q);
+    other.show();
+    type(u"1"_q);
+    prompts.expect(refusal);
+    click(other);
+    EXPECT_TRUE(box.hasFocus()) << "two bad boxes do not quarrel";
+    click(cancel);
+    EXPECT_TRUE(cancel.hasFocus());
+    box.setFocus();
+    next.setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(next.hasFocus()) << "the program may move the focus";
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_Tab);
+    form.close();
+    QCoreApplication::processEvents();
 }
 
 } // namespace

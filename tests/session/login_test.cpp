@@ -24,11 +24,8 @@ class LogIn : public SampleCompany {
 
 TEST_F(LogIn, APersonsSession) {
     EXPECT_EQ(attempt(u"1001"_q, u"KURBO1"_q), LoginResult::Open) << "case does not matter";
-    EXPECT_EQ(client.session.SessionStaff, u"1001"_q);
-    EXPECT_EQ(client.session.SessionSection, u"S01"_q);
-    EXPECT_EQ(client.session.EnterDelay, 30s);
-    EXPECT_EQ(client.session.LeaveGain, 60s);
-    EXPECT_TRUE(client.session.access.CanPunch);
+    EXPECT_EQ(client.session.SessionSection + client.session.SessionStaff, u"S011001"_q);
+    EXPECT_TRUE(client.session.EnterDelay == 30s && client.session.LeaveGain == 60s && client.session.access.CanPunch);
     EXPECT_EQ(attempt(u"admin"_q, u"admin"_q), LoginResult::Open);
     EXPECT_EQ(client.session.SessionStaff + client.session.SessionSection, u"ADMINADMIN"_q);
     EXPECT_EQ(client.session.EnterDelay, 0s) << "Null counts as 0";
@@ -62,23 +59,18 @@ TEST_F(LogIn, WhomTheListsDoNotHoldIsRefusedWithoutAWordOfThePassword) {
     EXPECT_EQ(client.session.SessionSection + client.session.SessionStaff, u"S01pA"_q) << "as the store spells them";
 }
 
-TEST_F(LogIn, AnApostropheIsReportedAndCountsAsWrong) {
+TEST_F(LogIn, WithoutARightOrFieldNobodyGetsIn) {
     desk.prompts.expect(u"エラー番号："_q).expect(wrong);
     EXPECT_EQ(attempt(u"1001"_q, u"' OR '1'='1"_q), LoginResult::Refused);
     EXPECT_EQ(desk.prompts.seen().first().title, u"Kurbo.Store－IsPasswordOK"_q);
-}
-
-TEST_F(LogIn, WithoutARightNobodyGetsIn) {
     desk.prompts.expect(u"佐藤次郎 さんのアクセス権が設定されていません。\r\n管理者に"_q);
     EXPECT_EQ(attempt(u"1003"_q, u"kurbo1"_q), LoginResult::Stopped);
-}
-
-TEST(LoginFields, DecideTheButton) {
-    EXPECT_TRUE(CheckLoginInput(u"総務部"_q, u"山田"_q, u"x"_q));
-    EXPECT_TRUE(CheckLoginInput(QString(), u"admin"_q, u"x"_q));
-    EXPECT_FALSE(CheckLoginInput(QString(), u"山田"_q, u"x"_q));
-    EXPECT_FALSE(CheckLoginInput(u"総務部"_q, QString(), u"x"_q));
-    EXPECT_FALSE(CheckLoginInput(QString(), u"ADMIN"_q, QString()));
+    for (const auto& [section, staff, password, enough] : {std::tuple{u"総務部"_q, u"山田"_q, u"x"_q, true},
+                                                           {QString(), u"admin"_q, u"x"_q, true},
+                                                           {QString(), u"山田"_q, u"x"_q, false},
+                                                           {u"総務部"_q, QString(), u"x"_q, false},
+                                                           {QString(), u"ADMIN"_q, QString(), false}})
+        EXPECT_EQ(CheckLoginInput(section, staff, password), enough) << staff;
 }
 
 } // namespace kurbo::test

@@ -25,24 +25,22 @@ class ParmFile : public ::testing::Test {
     QString dbPath;
 };
 
-TEST_F(ParmFile, IsReadAsItWasWritten) {
+TEST_F(ParmFile, IsReadAsItWasWrittenOrHowever) {
     EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::NoParm);
     ASSERT_TRUE(WriteParm(desk.context, desk.paths.ParmPath, database));
     EXPECT_EQ(readFile(desk.paths.ParmPath), *toCodePage(u'"' + database + u"\"\r\n"_q));
-    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::OK);
-    EXPECT_EQ(dbPath, database);
-    replaceFile(desk.paths.ParmPath, "");
-    EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::InputPastEnd);
-}
-
-TEST_F(ParmFile, EveryOtherContent) {
-    EXPECT_EQ(read("\"\"\r\n"), ParmResult::Install);
-    EXPECT_EQ(read("\r\n"), ParmResult::Install);
-    EXPECT_EQ(read("\"/no/such.mdb\"\r\n"), ParmResult::NoDB);
-    EXPECT_EQ(dbPath, u"/no/such.mdb"_q);
-    EXPECT_EQ(read(toCodePageVisibly(database + u"\r\n"_q)), ParmResult::OK) << "without quotes";
-    EXPECT_EQ(read("\"" + toCodePageVisibly(database)), ParmResult::OK) << "without the closing quote";
-    EXPECT_EQ(read(toCodePageVisibly(u'"' + database + u"\"\r\nmore"_q)), ParmResult::OK);
+    const QByteArray name = *toCodePage(database);
+    for (const auto& [bytes, result, found] : {std::tuple{'"' + name + "\"\r\n", ParmResult::OK, database},
+                                               {name + "\r\n", ParmResult::OK, database},
+                                               {'"' + name, ParmResult::OK, database},
+                                               {'"' + name + "\"\r\nmore", ParmResult::OK, database},
+                                               {"\"/no/such.mdb\"\r\n", ParmResult::NoDB, u"/no/such.mdb"_q},
+                                               {"\"\"\r\n", ParmResult::Install, QString()},
+                                               {"\r\n", ParmResult::Install, QString()}}) {
+        EXPECT_EQ(read(bytes), result) << bytes.constData();
+        EXPECT_EQ(dbPath, found) << bytes.constData();
+    }
+    EXPECT_EQ(read(""), ParmResult::InputPastEnd);
     EXPECT_EQ(read("\xff\xfe\x00garbage"), ParmResult::NoDB);
 }
 
@@ -51,13 +49,14 @@ TEST_F(ParmFile, WhatCantBeReadOrWrittenIsReported) {
     desk.prompts.expect(u"エラー番号："_q);
     EXPECT_EQ(ReadParm(desk.context, desk.paths.ParmPath, dbPath), ParmResult::Error);
     EXPECT_EQ(desk.prompts.last().title, u"Kurbo.File－ReadParm"_q);
-    desk.prompts.expect(u"エラー番号："_q);
-    EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, database));
-    desk.prompts.expect(u"「𠮷」"_q);
-    EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, u"/tmp/𠮷.mdb"_q));
-    desk.prompts.expect(u"「〜」"_q).expect(u"「\"」"_q);
-    EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, u"/tmp/\u301C.mdb"_q)) << "its twin names another file";
-    EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, u"/tmp/\".mdb"_q));
+    // The twin of a wave names another file.
+    for (const auto& [refused, told] : {std::pair{database, u"エラー番号："_q},
+                                        {u"/tmp/𠮷.mdb"_q, u"「𠮷」"_q},
+                                        {u"/tmp/\u301C.mdb"_q, u"「〜」"_q},
+                                        {u"/tmp/\".mdb"_q, u"「\"」"_q}}) {
+        desk.prompts.expect(told);
+        EXPECT_FALSE(WriteParm(desk.context, desk.paths.ParmPath, refused)) << told;
+    }
 }
 
 struct Delivery : ::testing::Test, Desk {

@@ -1,44 +1,48 @@
+#include "base/system/files.h"
+#include "store/dialect/criterion.h"
 #include "store/dialect/dialect.h"
-
 #include "store/dialect/dialect_lexer.h"
 #include "store/engine_fault.h"
 #include "store/text_order.h"
 #include "support/sample_company.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
 
-class Dialect : public SampleCompany {
-  protected:
-    QString value(const QString& expression) { return asked(u"SELECT "_q + expression + u" FROM C01_Corp;"_q); }
-};
+using Dialect = SampleCompany;
 
 } // namespace
 
-TEST_F(Dialect, JoinsTextWithNullAsEmpty) {
-    EXPECT_EQ(value(u"'a' & Null & 'b'"_q), u"ab"_q);
-    EXPECT_EQ(value(u"Null & Null"_q), QString());
-    EXPECT_EQ(value(u"1 + 2 & 'x' & 2 * 3"_q), u"3x6"_q);
-    EXPECT_EQ(value(u"('a' & ('b' & 'c')) & Left('def', 2)"_q), u"abcde"_q);
-    EXPECT_EQ(value(u"IIf('a' & Null = 'A' & '', 1, 2)"_q), u"1"_q) << "joined text is text";
+TEST_F(Dialect, ExpressionsHaveTheirValues) {
+    for (const QStringList& row : rowsOf(R"(
+'a' & Null & 'b'                                | ab
+Null & Null                                     |
+1 + 2 & 'x' & 2 * 3                             | 3x6
+('a' & ('b' & 'c')) & Left('def', 2)            | abcde
+IIf('a' & Null = 'A' & '', 1, 2)                | 1
+Left('漢字かな', 2)                             | 漢字
+Right('漢字かな', 9)                            | 漢字かな
+Mid('20260401', 5, 2)                           | 04
+Mid('abc', 3)                                   | c
+Left(F_Branch, 2)                               | -
+CLng('20260401') + 1                            | 20260402
+Format(7, '0000')                               | 0007
+Format(-12345, '0000')                          | -12345
+Format('3', '00月')                             | 03月
+Format(#2026/04/01 08:05:09#, 'yyyy/mm/dd hh:nn:ss') | 2026/04/01 08:05:09
+Format(#2026/04/01 08:05:09#, 'h:nn')           | 8:05
+Format(#2026/04/01 08:05:09#, 'yy/m/d hh:mm')   | 26/4/1 08:05
+7 / 2                                           | 3.5
+Len('漢字')                                     | 2
+IIf(Left('Abc', 1) = 'a' AND Mid('xB', 2) & '' = 'b', 'same', 'other') | same
+)"))
+        EXPECT_EQ(asked(u"SELECT %1 FROM C01_Corp;"_q.arg(row[0])), row[1]) << row[0];
+    for (const QString& wrong : {u"CDate('2026/02/30')"_q, u"CLng('abc')"_q})
+        EXPECT_THROW((void)asked(u"SELECT %1 FROM C01_Corp;"_q.arg(wrong)), Fault);
     EXPECT_EQ(
         asked(u"SELECT F_Corp FROM C01_Corp WHERE F_Corp & F_Branch = '見本商事' AND 1 & 2 BETWEEN '11' AND '13'"_q),
         u"見本商事"_q);
-}
-
-TEST_F(Dialect, FunctionsKnowNullAndTheirLimits) {
-    EXPECT_EQ(value(u"Left('漢字かな', 2)"_q), u"漢字"_q);
-    EXPECT_EQ(value(u"Right('漢字かな', 9)"_q), u"漢字かな"_q);
-    EXPECT_EQ(value(u"Mid('20260401', 5, 2)"_q), u"04"_q);
-    EXPECT_EQ(value(u"Mid('abc', 3)"_q), u"c"_q);
-    EXPECT_EQ(value(u"Left(F_Branch, 2)"_q), u"-"_q);
-    EXPECT_EQ(value(u"CLng('20260401') + 1"_q), u"20260402"_q);
-    EXPECT_EQ(value(u"Format(7, '0000')"_q), u"0007"_q);
-    EXPECT_EQ(value(u"Format(-12345, '0000')"_q), u"-12345"_q);
-    EXPECT_EQ(value(u"Format('3', '00月')"_q), u"03月"_q);
-    EXPECT_EQ(value(u"Format(#2026/04/01 08:05:09#, 'yyyy/mm/dd hh:nn:ss')"_q), u"2026/04/01 08:05:09"_q);
-    EXPECT_THROW((void)value(u"CDate('2026/02/30')"_q), Fault);
-    EXPECT_THROW((void)value(u"CLng('abc')"_q), Fault);
 }
 
 TEST_F(Dialect, TrueIsAnyValueButZero) {
@@ -59,11 +63,6 @@ TEST_F(Dialect, TextComparesWithoutRegardToCaseAndKeepsNullApart) {
 }
 
 TEST_F(Dialect, SpellingsOfOtherToolsAreUnderstood) {
-    EXPECT_EQ(value(u"7 / 2"_q), u"3.5"_q);
-    EXPECT_EQ(value(u"Len('漢字')"_q), u"2"_q);
-    EXPECT_EQ(value(u"Format(#2026/04/01 08:05:09#, 'h:nn')"_q), u"8:05"_q);
-    EXPECT_EQ(value(u"Format(#2026/04/01 08:05:09#, 'yy/m/d hh:mm')"_q), u"26/4/1 08:05"_q);
-    EXPECT_EQ(value(u"IIf(Left('Abc', 1) = 'a' AND Mid('xB', 2) & '' = 'b', 'same', 'other')"_q), u"same"_q);
     EXPECT_EQ(asked(u"SELECT [C02_Section].[F_SectionCode] FROM [C02_Section] WHERE [C02_Section].F_Order = 1"_q),
               u"S01"_q);
     connection.execute(u"UPDATE C01_Corp SET C01_Corp.F_Tel = 'a=b', F_Fax = '1' WHERE C01_Corp.F_Corp = '見本商事'"_q);
@@ -74,12 +73,13 @@ TEST_F(Dialect, SpellingsOfOtherToolsAreUnderstood) {
 }
 
 TEST_F(Dialect, SyntaxErrorsAreFaults) {
-    for (const QString& statement :
-         {u"SELECT 'open FROM C01_Corp"_q, u"SELECT (1 FROM C01_Corp"_q, u"SELECT 1) FROM C01_Corp"_q, u";"_q,
-          QString(), u"SELECT #2026/13/01# FROM C01_Corp"_q, u"SELECT #x FROM C01_Corp"_q,
-          u"SELECT [F_Corp FROM C01_Corp"_q, u"SELEKT F_Corp FROM C01_Corp"_q, u"SELECT F_Corp ' FROM C01_Corp"_q,
-          u"SELECT @x FROM C01_Corp"_q, u"ROLLBACK"_q, u"COMMIT"_q, u"PRAGMA foreign_keys = OFF"_q,
-          u"DROP TABLE C01_Corp"_q, u"SELECT "_q + u"("_q.repeated(200000)})
+    QStringList statements =
+        u"SELECT 'open FROM C01_Corp|SELECT (1 FROM C01_Corp|SELECT 1) FROM C01_Corp|;||"
+        "SELECT #2026/13/01# FROM C01_Corp|SELECT #x FROM C01_Corp|SELECT [F_Corp FROM C01_Corp|"
+        "SELEKT F_Corp FROM C01_Corp|SELECT F_Corp ' FROM C01_Corp|SELECT @x FROM C01_Corp|ROLLBACK|"
+        "COMMIT|PRAGMA foreign_keys = OFF|DROP TABLE C01_Corp"_q.split(u'|');
+    statements.append(u"SELECT "_q + u"("_q.repeated(200000));
+    for (const QString& statement : statements)
         EXPECT_EQ(refusalOf([&] { (void)asked(statement); }), QString::number(static_cast<int>(StoreError::Syntax)))
             << statement;
 }
@@ -116,6 +116,67 @@ TEST(TextOrder, IsOneOrderForTheStoreAndForRecordSets) {
         for (qsizetype j = 0; j < sorted.size(); ++j)
             EXPECT_EQ(compareText(sorted[i], sorted[j]) < 0, i < j) << sorted[i] << " " << sorted[j];
     EXPECT_EQ(compareText(u"Ａｂ"_q, u"ａＢ"_q), 0);
+}
+
+namespace {
+
+class QuotedStatements : public SampleCompany {
+  protected:
+    QuotedStatements() {
+        for (int day = 1; day <= 14; ++day) addCard(day, *makeDay(2026, 4, day), u"08:55"_q, u"17:40"_q);
+        insert("T03_GoOut", "KurboID, Order, Expense", u"1, 1, 500"_q);
+        insert("T05_Approved", "Staff, Year, Month, PaidTotal", u"'1001', '2026', '03', 19.5"_q);
+    }
+};
+
+struct Quoted {
+    QString use;
+    QString text;
+};
+
+// The statements of a file: a line "-- use" before each, and lines "----" that part them.
+QList<Quoted> quoted(const char* file) {
+    QList<Quoted> all;
+    for (const QString& line : QString::fromUtf8(readFile(QLatin1String(file))).split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u"----"_q)) continue;
+        if (line.startsWith(u"-- "_q))
+            all.append({line.sliced(3), {}});
+        else
+            all.last().text = line;
+    }
+    return all;
+}
+
+// Reads all rows of a statement; what writes is undone.
+void run(Connection& connection, const QString& statement) {
+    const Transaction undone(connection);
+    Rows rows = connection.rows(statement);
+    while (rows.next())
+        for (int i = 0; i < rows.columns(); ++i) (void)rows.text(i);
+}
+
+} // namespace
+
+TEST_F(QuotedStatements, AllRunAsTheyStand) {
+    const QList<Quoted> all = quoted(KURBO_STATEMENTS);
+    EXPECT_EQ(all.size(), 135);
+    for (const auto& [use, text] : all) EXPECT_NO_THROW(run(connection, text)) << use << ": " << text;
+}
+
+TEST_F(QuotedStatements, AllCriteriaAreUnderstood) {
+    const QList<Quoted> all = quoted(KURBO_CRITERIA);
+    EXPECT_EQ(all.size(), 22);
+    for (const auto& [use, text] : all)
+        EXPECT_FALSE(Criterion(text).holds([](const QString&) { return Value(); })) << use << ": " << text;
+}
+
+TEST_F(QuotedStatements, DeletedAndRenumberedRowsTakeTheirOwnAlong) {
+    connection.execute(u"UPDATE T02_Kurbo SET F_KurboID = F_KurboID + 100;"_q);
+    EXPECT_EQ(asked(u"SELECT F_KurboID FROM T03_GoOut"_q), u"101"_q);
+    connection.execute(u"UPDATE T02_Kurbo SET F_KurboID = F_KurboID - 100;"_q);
+    connection.execute(u"DELETE * FROM T01_Calendar WHERE (F_DateID BETWEEN '20260401' AND '20260402');"_q);
+    EXPECT_EQ(count(u"T02_Kurbo"_q), 12);
+    EXPECT_EQ(count(u"T03_GoOut"_q), 0);
 }
 
 } // namespace kurbo::test

@@ -1,17 +1,12 @@
 #include "store/file/lock_file.h"
 
 #include "base/error_log.h"
-#include "base/failure.h"
 #include "base/system/files.h"
 #include "store/file/is_db_ok.h"
+#include "support/child.h"
 #include "support/desk.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace kurbo::test {
 namespace {
@@ -31,55 +26,34 @@ class Locks : public ::testing::Test {
     LockFile second;
 };
 
-// Another process that is connected until it is killed.
-class Client final {
-  public:
-    explicit Client(const QString& database) {
-        int ready[2] = {};
-        if (::pipe(ready) != 0) ADD_FAILURE();
-        process_ = ::fork();
-        if (process_ == 0) {
-            LockFile lock;
-            const bool joined = lock.join(database, in(1000), {}) && lock.waitTurn(in(1000), {});
-            (void)!::write(ready[1], joined ? "y" : "n", 1);
-            for (;;) ::pause();
-        }
-        char answer = 'n';
-        (void)!::read(ready[0], &answer, 1);
-        EXPECT_EQ(answer, 'y');
-        ::close(ready[0]);
-        ::close(ready[1]);
-    }
-    ~Client() { kill(); }
-    Client(const Client&) = delete;
-    Client& operator=(const Client&) = delete;
-    void kill() {
-        if (process_ <= 0) return;
-        ::kill(process_, SIGKILL);
-        ::waitpid(process_, nullptr, 0);
-        process_ = 0;
-    }
+// Another process that is connected, and has the turn, until it is killed.
+pid_t startClient(const QString& database) {
+    int ready[2] = {};
+    if (::pipe(ready) != 0) ADD_FAILURE();
+    const pid_t client = startChild([&] {
+        LockFile lock;
+        if (!lock.join(database, in(1000), {}) || !lock.waitTurn(in(1000), {})) return 1;
+        (void)!::write(ready[1], "y", 1);
+        for (;;) ::pause();
+    });
+    ::close(ready[1]);
+    char answer = 'n';
+    EXPECT_EQ(::read(ready[0], &answer, 1), 1);
+    ::close(ready[0]);
+    return client;
+}
 
-  private:
-    pid_t process_ = 0;
-};
+void kill(pid_t client) {
+    ::kill(client, SIGKILL);
+    EXPECT_EQ(endOf(client), -1);
+}
 
 } // namespace
 
 TEST(LockNames, KeepTheFolderAndTheCase) {
-    EXPECT_EQ(LockFile::nameFor(u"/a.mdb/Store.mdb"_q), u"/a.mdb/Store.ldb"_q);
-    EXPECT_EQ(LockFile::nameFor(u"/a/STORE.MDB"_q), u"/a/STORE.LDB"_q);
+    EXPECT_EQ(LockFile::nameFor(u"/a.mdb/STORE.MDB"_q), u"/a.mdb/STORE.LDB"_q);
     EXPECT_EQ(LockFile::copyNameFor(u"/a/store.mdb"_q), u"/a/store.bak"_q);
     EXPECT_EQ(LockFile::nameFor(u"/a.mdb/store.db"_q), u"/a.mdb/store.db.ldb"_q);
-}
-
-TEST_F(Locks, TheLastOneOutRemovesTheFile) {
-    ASSERT_TRUE(first.join(database, in(1000), {}));
-    ASSERT_TRUE(second.join(database, in(1000), {}));
-    first.leave();
-    EXPECT_TRUE(there());
-    second.leave();
-    EXPECT_FALSE(there());
 }
 
 TEST_F(Locks, AStaleFileIsRemovedAndAHeldOneStays) {
@@ -87,14 +61,17 @@ TEST_F(Locks, AStaleFileIsRemovedAndAHeldOneStays) {
     RemoveStaleLock(database);
     EXPECT_FALSE(there());
     RemoveStaleLock(database);
-    Client client(database);
+    const pid_t client = startClient(database);
     RemoveStaleLock(database);
-    EXPECT_TRUE(there());
-    client.kill();
-    EXPECT_TRUE(there()) << "a crash leaves it";
     ASSERT_TRUE(first.join(database, in(1000), {}));
+    EXPECT_FALSE(first.waitTurn(in(150), {}));
+    kill(client);
+    EXPECT_TRUE(first.waitTurn(in(1000), {})) << "a killed writer gives its turn back";
+    ASSERT_TRUE(second.join(database, in(1000), {}));
     first.leave();
-    EXPECT_FALSE(there()) << "a client that comes and goes clears it away";
+    EXPECT_TRUE(there());
+    second.leave();
+    EXPECT_FALSE(there()) << "the last one out clears it away";
 }
 
 TEST_F(Locks, AnotherClientsFileIsLeftAlone) {
@@ -124,14 +101,6 @@ TEST_F(Locks, WritersComeInTheirOrder) {
     ASSERT_TRUE(third.waitTurn(in(1000), {}));
     third.endTurn();
     ASSERT_TRUE(second.waitTurn(in(1000), {}));
-}
-
-TEST_F(Locks, AKilledWriterGivesItsTurnBack) {
-    ASSERT_TRUE(first.join(database, in(1000), {}));
-    Client client(database);
-    EXPECT_FALSE(first.waitTurn(in(150), {}));
-    client.kill();
-    EXPECT_TRUE(first.waitTurn(in(1000), {}));
 }
 
 TEST_F(Locks, ALinkInItsPlaceIsNeverFollowed) {

@@ -5,32 +5,35 @@
 namespace kurbo::test {
 namespace {
 
-void addPerson(Connection& connection, const QString& code, const QString& name, const Value& access, bool shown) {
-    static int order = 0;
-    connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName, F_Section, F_Order, F_Display) "
-                       "VALUES (?, ?, 'S01', ?, ?)"_q,
-                       {code, name, ++order, Value::yesNo(shown)});
-    connection.execute(u"INSERT INTO M02_StaffInfo (F_StaffCode, F_Password, F_CloseDay, F_PaidTotal, F_EnterDelay, "
-                       "F_LeaveGain, F_Weekday, F_Holiday, F_AdjustHours, F_Access) "
-                       "VALUES (?, 'kurbo1', 31, 20, ?, ?, 1, 1, 1, ?)"_q,
-                       {code, code == u"1001" ? 30 : 0, code == u"1001" ? 60 : 0, access});
+// A row of a table: names of fields without their "F_", and values, each parted by commas.
+void add(Connection& connection, const char* table, const char* fields, const QString& values) {
+    const QString names = QString::fromLatin1(fields).replace(u", "_q, u", F_"_q);
+    connection.execute(u"INSERT INTO %1 (F_%2) VALUES (%3)"_q.arg(QString::fromLatin1(table), names, values));
 }
 
 void addRules(Connection& connection) {
-    connection.execute(u"INSERT INTO C01_Corp (F_Corp) VALUES ('見本商事')"_q);
-    connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
-                       "VALUES ('S01', '総務部', ?, 1, True)"_q,
-                       {currentDatabase()});
-    connection.execute(
-        u"INSERT INTO M01_CorpInfo (F_WorkStyle, F_AmHolidayWork, F_PmHolidayWork, F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit) VALUES (0, 1, 1, 0, 1, 0, 0, 30, 1)"_q);
-    connection.execute(u"INSERT INTO M03_WeekdayStyle (F_WeekdayCode, F_WeekdayName, F_StartWork0, F_EndWork0) "
-                       "VALUES (1, '日勤', '09:00', '17:30')"_q);
-    connection.execute(u"INSERT INTO M07_AdjustHours (F_AdjustCode, F_AdjustName, F_Over) VALUES (1, '通常', 2700)"_q);
-    connection.execute(u"INSERT INTO M08_Access (F_AccessCode, F_AccessName, F_Section, F_ReadMyKurbo, F_WriteMyPlan, "
-                       "F_Order) VALUES (1, '一般', 'MySection', True, True, 1)"_q);
-    connection.execute(u"INSERT INTO M08_Access (F_AccessCode, F_AccessName, F_Section, F_ReadMyKurbo, "
-                       "F_ReadOtherKurbo, F_WriteApproval, F_Order) "
-                       "VALUES (2, '所属長', 'MySection', True, True, True, 1)"_q);
+    add(connection, "C01_Corp", "Corp", u"'見本商事'"_q);
+    add(connection, "C02_Section", "SectionCode, SectionName, DB, Order, Display",
+        u"'S01', '総務部', '%1', 1, True"_q.arg(currentDatabase()));
+    add(connection, "M01_CorpInfo",
+        "WorkStyle, AmHolidayWork, PmHolidayWork, RoundMethod, RoundEnter, RoundLeave, RoundHour, RoundUnit, CountUnit",
+        u"0, 1, 1, 0, 1, 0, 0, 30, 1"_q);
+    add(connection, "M03_WeekdayStyle", "WeekdayCode, WeekdayName, StartWork0, EndWork0",
+        u"1, '日勤', '09:00', '17:30'"_q);
+    add(connection, "M07_AdjustHours", "AdjustCode, AdjustName, Over", u"1, '通常', 2700"_q);
+    add(connection, "M08_Access", "AccessCode, AccessName, Section, ReadMyKurbo, WriteMyPlan, Order",
+        u"1, '一般', 'MySection', True, True, 1"_q);
+    add(connection, "M08_Access", "AccessCode, AccessName, Section, ReadMyKurbo, ReadOtherKurbo, WriteApproval, Order",
+        u"2, '所属長', 'MySection', True, True, True, 1"_q);
+}
+
+void addPerson(Connection& connection, const QString& code, const QString& name, const QString& access, bool shown) {
+    static int order = 0;
+    add(connection, "C03_Staff", "StaffCode, StaffName, Section, Order, Display",
+        u"'%1', '%2', 'S01', %3, %4"_q.arg(code, name).arg(++order).arg(shown ? -1 : 0));
+    add(connection, "M02_StaffInfo",
+        "StaffCode, Password, CloseDay, PaidTotal, EnterDelay, LeaveGain, Weekday, Holiday, AdjustHours, Access",
+        u"'%1', 'kurbo1', 31, 20, %2, 1, 1, 1, %3"_q.arg(code, code == u"1001" ? u"30, 60"_q : u"0, 0"_q, access));
 }
 
 void addCalendar(Connection& connection) {
@@ -48,10 +51,10 @@ void makeSampleCompany(const QString& path) {
     Transaction transaction(connection);
     addRules(connection);
     addCalendar(connection);
-    addPerson(connection, u"1001"_q, u"山田太郎"_q, 1, true);
-    addPerson(connection, u"1002"_q, u"鈴木花子"_q, 2, true);
-    addPerson(connection, u"1003"_q, u"佐藤次郎"_q, {}, true);
-    addPerson(connection, u"1004"_q, u"高橋三郎"_q, 1, false);
+    addPerson(connection, u"1001"_q, u"山田太郎"_q, u"1"_q, true);
+    addPerson(connection, u"1002"_q, u"鈴木花子"_q, u"2"_q, true);
+    addPerson(connection, u"1003"_q, u"佐藤次郎"_q, u"Null"_q, true);
+    addPerson(connection, u"1004"_q, u"高橋三郎"_q, u"1"_q, false);
     transaction.commit();
 }
 
@@ -70,6 +73,10 @@ void SampleCompany::addCard(int id, Day day, const QString& enter, const QString
     connection.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User, F_Enter, F_Leave, F_Paid) "
                        "VALUES (?, ?, ?, ?, ?, ?)"_q,
                        {id, dateId(day), staff, time(enter), time(leave), Value::textOrNull(paid)});
+}
+
+void SampleCompany::insert(const char* table, const char* fields, const QString& values) {
+    add(connection, table, fields, values);
 }
 
 QString SampleCompany::asked(const QString& statement) {

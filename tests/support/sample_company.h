@@ -18,6 +18,8 @@ class SampleCompany : public ::testing::Test {
     // One row of the person, with times of the day as "hh:nn" (empty for none) and the three leaves (empty for none).
     void addCard(int id, Day day, const QString& enter, const QString& leave, const QString& paid = {},
                  const QString& staff = QStringLiteral("1001"));
+    // A row of a table: names of fields without their "F_", and values, each parted by commas.
+    void insert(const char* table, const char* fields, const QString& values);
     // First column of the first row as text, "-" for Null, empty without a row.
     [[nodiscard]] QString asked(const QString& statement);
     [[nodiscard]] int count(const QString& table);

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QStatusBar>
@@ -41,6 +42,7 @@ class Window : public Company {
         form = new Form(this->client);
         form->load();
         form->show();
+        EXPECT_TRUE(form->windowTitle().startsWith(u"Kurbo"_q)) << form->windowTitle();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     }
     void open(const QString& staff = QStringLiteral("ADMIN")) {
@@ -57,6 +59,12 @@ class Window : public Company {
         QCoreApplication::processEvents();
     }
     void type(const char* name, const QString& text) const { typeInto(&of<QWidget>(name), text); }
+    [[nodiscard]] QString text(const char* name) const { return editorOf(&of<QWidget>(name))->text(); }
+    // An entry of a list, and what the window makes of it.
+    void choose(const char* list, int row) const {
+        of<QListWidget>(list).setCurrentRow(row);
+        QTest::qWait(1);
+    }
     void click(const char* button) const { of<QAbstractButton>(button).click(); }
     void trigger(const char* action) const { of<QAction>(action).trigger(); }
     [[nodiscard]] bool isUpdatable(const char* page = "") const {

@@ -1,24 +1,89 @@
+#include "base/system/files.h"
+#include "screen/windows/box_prompts.h"
 #include "screen/windows/help.h"
 #include "support/desk.h"
 
+#include <QApplication>
 #include <QDirIterator>
+#include <QFileDialog>
 #include <QLineEdit>
-#include <QPointer>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTimer>
 
 namespace kurbo::test {
 namespace {
 
+// Presses a key in the box that comes up.
+Answer answered(Buttons buttons, Answer preset, Qt::Key key) {
+    QTimer::singleShot(0, qApp, [key] {
+        EXPECT_EQ(qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->text(), u"一\n<b>二</b>");
+        QTest::keyClick(QApplication::activeModalWidget(), key);
+    });
+    return BoxPrompts().ask({{}, u"一\r\n<b>二</b>"_q, Icon::Question, buttons, preset});
+}
+
+TEST(BoxPrompts, EnterGivesThePresetAndEscRefuses) {
+    for (const auto& [buttons, preset, key, answer] :
+         {std::tuple{Buttons::YesNo, Answer::No, Qt::Key_Return, Answer::No},
+          {Buttons::YesNo, Answer::No, Qt::Key_Y, Answer::Yes},
+          {Buttons::YesNo, Answer::Yes, Qt::Key_Return, Answer::Yes},
+          {Buttons::YesNo, Answer::Yes, Qt::Key_Escape, Answer::No},
+          {Buttons::OkCancel, Answer::Ok, Qt::Key_Return, Answer::Ok},
+          {Buttons::OkCancel, Answer::Ok, Qt::Key_Escape, Answer::Cancel},
+          {Message().buttons, Answer::Ok, Qt::Key_Escape, Answer::Ok}})
+        EXPECT_EQ(answered(buttons, preset, key), answer) << key;
+}
+
+// Types a name into the file dialog that comes up, as often as there are answers to the question that may come, and
+// gives the dialog up in the end.
+void typeFile(const QString& name, const QList<Qt::Key>& answers = {Qt::Key_Return}) {
+    QTimer::singleShot(0, qApp, [name, answers] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        for (const Qt::Key key : answers) {
+            QTimer::singleShot(0, dialog, [dialog, key] {
+                QWidget* const box = QApplication::activeModalWidget();
+                if (box != dialog) QTest::keyClick(box, key);
+            });
+            dialog->findChild<QLineEdit*>()->setText(name);
+            static_cast<QDialog*>(dialog)->accept();
+        }
+        if (dialog->isVisible()) dialog->reject();
+    });
+}
+
+TEST(BoxPrompts, FilesAreChosenByTheirNames) {
+    EXPECT_EQ(nameFilters(u"表|*.csv;*.txt"_q), QStringList{u"表(*.csv *.txt)"_q});
+    EXPECT_EQ(nameFilters(QString()), QStringList{u"全てのﾌｧｲﾙ(*)"_q});
+    const Desk desk;
+    const QString path = desk.file(u"card.krb"_q);
+    const auto save = [&](const QString& name, const QList<Qt::Key>& answers = {Qt::Key_Return}) {
+        typeFile(desk.file(name), answers);
+        return BoxPrompts().saveFile(u"ﾀｲﾑｶｰﾄﾞﾌｧｲﾙ(*.krb)|*.krb"_q, u"krb"_q);
+    };
+    EXPECT_EQ(save(u"card"_q), path);
+    EXPECT_EQ(save(u"card.txt"_q), desk.file(u"card.txt"_q));
+    for (const QString& name : {u"card.krb"_q, u"2.csv"_q}) {
+        QFile file(desk.file(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    EXPECT_EQ(save(u"card"_q, {Qt::Key_N}), std::nullopt);
+    EXPECT_EQ(save(u"card"_q, {Qt::Key_Return, Qt::Key_Y}), path);
+    const QStringList both{path, desk.file(u"2.csv"_q)};
+    typeFile(u'"' + both.join(u"\" \""_q) + u'"');
+    EXPECT_EQ(BoxPrompts().openFiles(QString()), both);
+    typeFile(desk.file(u"3.csv"_q));
+    EXPECT_EQ(BoxPrompts().openFile(QString()), std::nullopt);
+}
+
 const QString root = QStringLiteral(KURBO_ROOT);
 
 QString readText(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(readFile(path));
 }
 
 QString helpFile(const QString& name) {
@@ -49,13 +114,13 @@ QMap<QString, QStringList> windows() {
 
 // The administrator's help speaks of every window, and so of those that people don't have.
 TEST(HelpTexts, SpeakOfEveryWindow) {
-    const QStringList administrators{u"frmCorp"_q,    u"frmSection"_q,     u"frmStaff"_q, u"frmWorkStyle"_q,
-                                     u"frmAccess"_q,  u"frmWorkTime"_q,    u"frmAsign"_q, u"frmCalendar"_q,
-                                     u"frmHoliday"_q, u"frmMaintainance"_q};
+    const QStringList administrators = u"frmCorp frmSection frmStaff frmWorkStyle frmAccess frmWorkTime frmAsign "
+                                       "frmCalendar frmHoliday frmMaintainance"_q.split(u' ');
     const QStringList people = placesIn(u"Kurbo.hlp"_q);
     const QStringList administrator = placesIn(u"KurboAdm.hlp"_q);
-    ASSERT_GT(windows().size(), 15);
-    for (const QString& form : windows().keys()) {
+    const QStringList forms = windows().keys();
+    ASSERT_GT(forms.size(), 15);
+    for (const QString& form : forms) {
         EXPECT_TRUE(administrator.contains(form)) << form;
         EXPECT_NE(people.contains(form), administrators.contains(form)) << form;
     }
@@ -87,13 +152,6 @@ struct HelpViewer : ::testing::Test, Desk {
         window.setObjectName(u"frmKurbo"_q);
         window.show();
     }
-    QLineEdit* control(const QString& name) {
-        auto* const field = new QLineEdit(&window);
-        field->setObjectName(name);
-        field->show();
-        field->setFocus();
-        return field;
-    }
     // The place that the help shows on F1.
     QString shown() {
         openHelp(prompts, helpFile(u"Kurbo.hlp"_q), window);
@@ -109,7 +167,10 @@ TEST_F(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
     for (const auto& [name, place] : {std::pair{u"mskStart"_q, u"frmKurbo.mskStart"_q},
                                       {u"optMonth_3"_q, u"frmKurbo.optMonth"_q},
                                       {u"nameless"_q, u"frmKurbo"_q}}) {
-        control(name);
+        QLineEdit control(&window);
+        control.setObjectName(name);
+        control.show();
+        control.setFocus();
         EXPECT_EQ(shown(), place);
         EXPECT_GT(viewer()->verticalScrollBar()->value(), 0);
         close();
@@ -117,12 +178,9 @@ TEST_F(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
     window.setObjectName(u"frmNew"_q);
     EXPECT_EQ(shown(), QString());
     EXPECT_EQ(viewer()->verticalScrollBar()->value(), 0);
-}
-
-TEST_F(HelpViewer, SaysThatItsFileIsMissing) {
+    close();
     prompts.expect(lines(u"ヘルプファイル"_q, file(u"Kurbo.hlp"_q), u"が見つかりません。"_q));
     openHelp(prompts, file(u"Kurbo.hlp"_q), window);
-    EXPECT_EQ(prompts.last().icon, Icon::Exclamation);
     EXPECT_FALSE(viewer());
 }
 
@@ -130,28 +188,27 @@ TEST_F(HelpViewer, FindsAroundTheEndAndGoesBack) {
     (void)shown();
     QWidget* const help = viewer()->window();
     auto* const words = help->findChild<QLineEdit*>(u"txtFind"_q);
-    const auto findsAt = [&](const QString& text, int key) {
+    const auto findsAt = [&](const QString& text) {
         words->setText(text);
-        QTest::keyClick(words, Qt::Key(key));
+        QTest::keyClick(words, Qt::Key_Return);
         return viewer()->textCursor().selectionStart();
     };
-    const int first = findsAt(u"交通費"_q, Qt::Key_Return);
-    int last = first;
-    for (int next = findsAt(u"交通費"_q, Qt::Key_Return); next > last; next = findsAt(u"交通費"_q, Qt::Key_Return))
-        last = next;
-    EXPECT_GT(last, first);
-    EXPECT_EQ(findsAt(u"どこにも無い言葉"_q, Qt::Key_Return), viewer()->textCursor().position() - 3);
+    const int first = findsAt(u"交通費"_q);
+    EXPECT_GT(findsAt(u"交通費"_q), first);
+    while (findsAt(u"交通費"_q) > first) {
+    }
+    findsAt(u"どこにも無い言葉"_q);
     EXPECT_EQ(viewer()->textCursor().selectedText(), u"交通費"_q);
     help->findChild<QPushButton*>(u"cmdContents"_q)->click();
     EXPECT_EQ(viewer()->source().fragment(), QString());
     help->findChild<QPushButton*>(u"cmdBack"_q)->click();
     EXPECT_EQ(viewer()->source().fragment(), u"frmKurbo"_q);
-    const QPointer<QWidget> open(help);
     ASSERT_TRUE(QTest::qWaitForWindowActive(help));
     QTest::keyClick(viewer(), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_FALSE(open);
+    EXPECT_FALSE(viewer());
 }
 
 } // namespace
+
 } // namespace kurbo::test
