@@ -91,7 +91,7 @@ TEST_F(FrmAsign, AFailedReadingKeepsThePerson) {
     EXPECT_EQ(asked(paid.arg(u"1001"_q)) + u' ' + asked(paid.arg(u"1002"_q)), u"12.5 20"_q);
 }
 
-class frmAccessTest : public Window<frmAccess> {
+class FrmAccess : public Window<frmAccess> {
   protected:
     FrmAccess() { open(); }
     [[nodiscard]] QString shown() const { return of<DataList>("dtsAccess").text() + u'/' + text("txtAccess"); }
