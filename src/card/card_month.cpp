@@ -4,6 +4,7 @@
 #include "card/edit/card_checks.h"
 #include "card/monthly.h"
 #include "month/loaders.h"
+#include "screen/files/card_file.h"
 
 #include <algorithm>
 
@@ -64,7 +65,7 @@ bool CardMonth::isCardSaved(const QString& demand) const {
 bool CardMonth::agreesWithMissing(const QString& question, Answer preset) const {
     const QString text =
         lines(question, QString(), QStringLiteral("よろしいですか？"), QString(), ListMissingPunch(sheet_));
-    return client_.context.prompts.ask({{}, text, Icon::Question, Buttons::OkCancel, preset}) == Answer::Ok;
+    return client_.context.prompts.agrees(text, preset);
 }
 
 bool CardMonth::agreesToSave() const {
@@ -79,11 +80,7 @@ bool CardMonth::agreesToSave() const {
 
 bool CardMonth::adjust() {
     Prompts& prompts = client_.context.prompts;
-    if (sheet_.blnFileMode) {
-        prompts.exclaim(QStringLiteral("タイムカードファイルを呼出した状態で時間調整はできません。"));
-        return false;
-    }
-    if (!hasName(client_.context, chosen_) ||
+    if (refusesFileMode(prompts, sheet_.blnFileMode, QStringLiteral("時間調整")) || !hasName(client_.context, chosen_) ||
         !isCardSaved(QStringLiteral("タイムカードの追加・変更を更新後、集計結果の調整を行って下さい。")) ||
         !isOwnMonth(QStringLiteral("時間調整")) ||
         !agreesWithMissing(QStringLiteral("集計結果の調整を行います。"), Answer::Ok))
@@ -127,23 +124,14 @@ bool CardMonth::approveSuperior(bool approved, const QString& start, const QStri
 
 bool CardMonth::approve(const Mark& mark, bool approved, const QString& start, const QString& end) {
     Prompts& prompts = client_.context.prompts;
-    if (sheet_.blnFileMode) {
-        prompts.exclaim(QStringLiteral("タイムカードファイルを呼出した状態で承認はできません。"));
-        return false;
-    }
-    if (!hasName(client_.context, chosen_) ||
+    if (refusesFileMode(prompts, sheet_.blnFileMode, QStringLiteral("承認")) || !hasName(client_.context, chosen_) ||
         !isCardSaved(QStringLiteral("タイムカードの追加・変更を更新後、承認を行って下さい。")))
         return false;
     const bool dated = parseSlashDate(start) && parseSlashDate(end);
     if (!dated && !isOwnMonth(QStringLiteral("承認"))) return false;
     const QString question = approved ? QStringLiteral("月次集計の最終保存データを承認します。")
                                       : QStringLiteral("月次集計の最終保存データの承認を取り消します。");
-    if (prompts.ask({{},
-                     lines(question, QString(), QStringLiteral("よろしいですか？")),
-                     Icon::Question,
-                     Buttons::OkCancel,
-                     approved ? Answer::Ok : Answer::Cancel}) != Answer::Ok)
-        return false;
+    if (!prompts.sure(question, approved ? Answer::Ok : Answer::Cancel)) return false;
     chosen_.setPeriod(chosen_.drawn);
     if (storeMark(mark, approved)) return true;
     prompts.exclaim(approved ? QStringLiteral("月次集計の最終保存データの承認に失敗しました。")

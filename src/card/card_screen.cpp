@@ -4,6 +4,7 @@
 #include "card/edit/card_checks.h"
 #include "card/edit/card_update.h"
 #include "month/loaders.h"
+#include "screen/files/card_file.h"
 #include "store/section_switch.h"
 
 namespace kurbo {
@@ -186,12 +187,7 @@ bool CardScreen::display(const QString& start, const QString& end) {
 bool CardScreen::update(const QString& start, const QString& end) {
     Prompts& prompts = client_.context.prompts;
     if (!hasName(client_.context, chosen_) || !CheckDayly(client_.context, sheet, start, end)) return false;
-    if (prompts.ask({{},
-                     lines(QStringLiteral("追加・変更を更新します。"), QString(), QStringLiteral("よろしいですか？")),
-                     Icon::Question,
-                     Buttons::OkCancel,
-                     Answer::Ok}) != Answer::Ok)
-        return false;
+    if (!prompts.sure(QStringLiteral("追加・変更を更新します。"))) return false;
     if (!UpdateDayly(client_.context, connection(), sheet, chosen_.staff)) {
         prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;
@@ -202,16 +198,13 @@ bool CardScreen::update(const QString& start, const QString& end) {
 
 bool CardScreen::deletePeriod(const QString& start, const QString& end) {
     Prompts& prompts = client_.context.prompts;
-    if (sheet.blnFileMode) {
-        prompts.exclaim(QStringLiteral("タイムカードファイルを呼出した状態で削除はできません。"));
-        return false;
-    }
+    if (refusesFileMode(prompts, sheet.blnFileMode, QStringLiteral("削除"))) return false;
     const auto period = checkedPeriod(client_.context, start, end);
     if (!period || !hasName(client_.context, chosen_) || !mayDiscard()) return false;
-    const QString question =
+    const QString what =
         lines(QStringLiteral("表示期間(%1～%2)の出退勤データ及び外出データを削除します。").arg(start, end),
-              QStringLiteral("削除したデータは復活できません。"), QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Cancel}) != Answer::Ok) return false;
+              QStringLiteral("削除したデータは復活できません。"));
+    if (!prompts.sure(what, Answer::Cancel)) return false;
     if (!DeleteKurbo(client_.context, connection(), chosen_.staff, period->from, period->to)) {
         prompts.exclaim(QStringLiteral("出退勤データの削除に失敗しました。"));
         return false;

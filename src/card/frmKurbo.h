@@ -56,7 +56,6 @@ class frmKurbo final : public ScreenForm {
 
     void connectGoOut();
     [[nodiscard]] bool isGoOutOpen() const;
-    [[nodiscard]] bool refusesFileMode(const QString& message) const;
     void openGoOut();
     void listGoOut();
     void showGoOutDay();

@@ -4,6 +4,7 @@
 #include "card/edit/card_checks.h"
 #include "card/frmKurbo.h"
 #include "card/outings/frmGoOut.h"
+#include "screen/files/card_file.h"
 #include "screen/windows/show_now.h"
 #include "screen/windows/window_manners.h"
 #include "ui_frmKurbo.h"
@@ -27,16 +28,11 @@ bool frmKurbo::isGoOutOpen() const {
     return frmGoOut_ && frmGoOut_->isVisible();
 }
 
-bool frmKurbo::refusesFileMode(const QString& message) const {
-    if (screen_.sheet.blnFileMode) client_.context.prompts.exclaim(message);
-    return screen_.sheet.blnFileMode;
-}
-
 void frmKurbo::openGoOut() {
     if (screen_.chosen().staff.isEmpty())
         return client_.context.prompts.exclaim(QStringLiteral("氏名が入力されていません。"));
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
-    if (!period || refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細の表示はできません。")))
+    if (!period || refusesFileMode(client_.context.prompts, screen_.sheet.blnFileMode, QStringLiteral("外出明細の表示")))
         return;
     if (isGoOutOpen()) return bringToFront(*frmGoOut_);
     frmGoOut_ = std::make_unique<frmGoOut>(client_);

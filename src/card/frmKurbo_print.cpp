@@ -5,6 +5,7 @@
 #include "card/outings/rptGoOut.h"
 #include "card/rptKurbo.h"
 #include "paper/frmPreview.h"
+#include "screen/files/card_file.h"
 #include "ui_frmKurbo.h"
 
 namespace kurbo {
@@ -29,7 +30,7 @@ void frmKurbo::print() {
 void frmKurbo::listGoOut() {
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
     if (!period || !screen_.mayGoOut() ||
-        refusesFileMode(QStringLiteral("タイムカードファイルを呼出した状態で外出明細一覧の表示はできません。")))
+        refusesFileMode(client_.context.prompts, screen_.sheet.blnFileMode, QStringLiteral("外出明細一覧の表示")))
         return;
     auto report = makeGoOutReport(client_.context, *client_.CurrentConnection, chosenSection(), chosenStaff(), *period);
     if (report) showPreview(std::move(report), client_, this);

@@ -1,5 +1,6 @@
 #include "totals/total_screen.h"
 
+#include "screen/files/card_file.h"
 #include "store/section_switch.h"
 
 #include <algorithm>
@@ -157,9 +158,7 @@ bool TotalScreen::confirmsUpdate() const {
     if (changed.unsaved > 0)
         what = lines(what,
                      QStringLiteral("月次更新されていない%1件の変更は保存されず、失われます。").arg(changed.unsaved));
-    const QString question = lines(what, QString(), QStringLiteral("よろしいですか？"));
-    const Answer preset = changed.unsaved > 0 ? Answer::Cancel : Answer::Ok;
-    return prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, preset}) == Answer::Ok;
+    return prompts.sure(what, changed.unsaved > 0 ? Answer::Cancel : Answer::Ok);
 }
 
 bool TotalScreen::deleteMonths() {
@@ -190,15 +189,11 @@ bool TotalScreen::confirmsDelete(const TotalsQuestion& question) const {
                          QStringLiteral("削除したデータは復活できません。有給休暇残数は変わりません。"));
     if (question.from != question_.from || question.to != question_.to)
         what = lines(what, QStringLiteral("期間：%1～%2").arg(boxes.start, boxes.end));
-    what = lines(what, QString(), QStringLiteral("よろしいですか？"));
-    return client_.context.prompts.ask({{}, what, Icon::Question, Buttons::OkCancel, Answer::Cancel}) == Answer::Ok;
+    return client_.context.prompts.sure(what, Answer::Cancel);
 }
 
 bool TotalScreen::refusesFileMode(const QString& command) const {
-    if (sheet.blnFileMode)
-        client_.context.prompts.exclaim(
-            QStringLiteral("タイムカードファイルを呼出した状態で%1はできません。").arg(command));
-    return sheet.blnFileMode;
+    return kurbo::refusesFileMode(client_.context.prompts, sheet.blnFileMode, command);
 }
 
 bool TotalScreen::mayDelete() const {

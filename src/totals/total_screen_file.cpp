@@ -87,9 +87,7 @@ bool TotalScreen::saveCsv() {
         prompts.exclaim(QStringLiteral("更新済の月次集計データがありません。"));
         return false;
     }
-    const QString question = lines(QStringLiteral("表示されている更新済の月次集計データをCSV形式で保存します。"),
-                                   QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return false;
+    if (!prompts.sure(QStringLiteral("表示されている更新済の月次集計データをCSV形式で保存します。"))) return false;
     const auto file = prompts.saveFile(QStringLiteral("CSVﾌｧｲﾙ(*.csv)|*.csv"), QStringLiteral("csv"));
     if (!file) return false;
     const auto id = [](std::chrono::year_month month) { return slashMonth(month).remove(u'/'); };

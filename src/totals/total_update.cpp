@@ -3,6 +3,7 @@
 #include "base/field_tests.h"
 #include "month/figure_texts.h"
 #include "month/saved_figures.h"
+#include "screen/files/card_file.h"
 #include "store/record_set.h"
 #include "totals/totals.h"
 
@@ -86,8 +87,7 @@ std::optional<MonthSpan> checkedMonths(const Context& context, const QString& st
 
 bool CheckData(const Context& context, const TotalSheet& sheet) {
     return guarded(context, u"frmTotal", u"CheckData", false, [&] {
-        if (sheet.blnFileMode)
-            throw Complaint(QStringLiteral("タイムカードファイルを呼出した状態で更新はできません。"));
+        if (sheet.blnFileMode) throw Complaint(fileModeText(QStringLiteral("更新")));
         for (int row = 1; row < sheet.grid.Rows(); ++row)
             if (isChanged(sheet, row)) checkRow(sheet, row);
         return true;

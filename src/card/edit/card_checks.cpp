@@ -3,6 +3,7 @@
 #include "card/card_grid.h"
 #include "card/edit/card_entries.h"
 #include "month/figure_texts.h"
+#include "screen/files/card_file.h"
 
 #include <array>
 
@@ -83,8 +84,7 @@ std::optional<Period> checkedPeriod(const Context& context, const QString& start
 
 bool CheckDayly(const Context& context, const CardSheet& sheet, const QString& start, const QString& end) {
     return guarded(context, u"frmKurbo", u"CheckDayly", false, [&] {
-        if (sheet.blnFileMode)
-            throw Complaint(QStringLiteral("タイムカードファイルを呼出した状態で更新はできません。"));
+        if (sheet.blnFileMode) throw Complaint(fileModeText(QStringLiteral("更新")));
         (void)periodOf(start, end);
         for (const CardEntry* const day : sheet.changedDays()) checkDay(*day);
         return true;
@@ -93,8 +93,7 @@ bool CheckDayly(const Context& context, const CardSheet& sheet, const QString& s
 
 bool CheckMonthly(const Context& context, const CardSheet& sheet, const clsWorkTime& rules) {
     return guarded(context, u"frmKurbo", u"CheckMonthly", false, [&] {
-        if (sheet.blnFileMode)
-            throw Complaint(QStringLiteral("タイムカードファイルを呼出した状態で月次更新はできません。"));
+        if (sheet.blnFileMode) throw Complaint(fileModeText(QStringLiteral("月次更新")));
         checkSums(sheet, rules);
         return true;
     });

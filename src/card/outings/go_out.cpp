@@ -63,19 +63,14 @@ void GoOut::offerDestinations() {
     sheet.grid.ColComboList(static_cast<int>(GoOutColumn::Destination), list);
 }
 
-bool GoOut::agreed(const QString& what) const {
-    return client_.context.prompts.ask({productName(), lines(what, QString(), QStringLiteral("よろしいですか？")),
-                                        Icon::Question, Buttons::OkCancel, Answer::Ok}) == Answer::Ok;
-}
-
 bool GoOut::insertRow(int row) {
-    if (!sheet.mayWrite() || !agreed(QStringLiteral("カレント行の上に１行挿入します。"))) return false;
+    if (!sheet.mayWrite() || !client_.context.prompts.sure(QStringLiteral("カレント行の上に１行挿入します。"))) return false;
     insertGoOut(sheet, row);
     return true;
 }
 
 bool GoOut::deleteRow(int row) {
-    if (!mayDelete() || !agreed(QStringLiteral("カレント行を削除します。"))) return false;
+    if (!mayDelete() || !client_.context.prompts.sure(QStringLiteral("カレント行を削除します。"))) return false;
     deleteGoOut(sheet, row);
     return true;
 }
@@ -100,7 +95,7 @@ bool GoOut::UpdateGoOut() {
 }
 
 bool GoOut::update() {
-    if (!hasConnection() || !CheckData() || !agreed(QStringLiteral("追加・変更を更新します。"))) return false;
+    if (!hasConnection() || !CheckData() || !client_.context.prompts.sure(QStringLiteral("追加・変更を更新します。"))) return false;
     if (!UpdateGoOut()) {
         client_.context.prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;

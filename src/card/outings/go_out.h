@@ -44,7 +44,6 @@ class GoOut final {
     [[nodiscard]] bool hasConnection() const;
     void showDay(std::int64_t key);
     void offerDestinations();
-    [[nodiscard]] bool agreed(const QString& what) const;
 
     Client& client_;
     GoOutRules rules_;

@@ -27,6 +27,15 @@ void checkMembers(const QString& archive, const QString& member) {
 
 } // namespace
 
+QString fileModeText(const QString& command) {
+    return QStringLiteral("タイムカードファイルを呼出した状態で%1はできません。").arg(command);
+}
+
+bool refusesFileMode(Prompts& prompts, bool blnFileMode, const QString& command) {
+    if (blnFileMode) prompts.exclaim(fileModeText(command));
+    return blnFileMode;
+}
+
 QString cardFileFilter() {
     return QStringLiteral("ﾀｲﾑｶｰﾄﾞﾌｧｲﾙ(*.krb)|*.krb");
 }

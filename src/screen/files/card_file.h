@@ -1,10 +1,16 @@
 #pragma once
 
+#include "base/prompts.h"
 #include "screen/grid/grid_model.h"
 
 #include <functional>
 
 namespace kurbo {
+
+// What is only looked at out of a card file can't be worked on: "タイムカードファイルを呼出した状態で<command>は…".
+[[nodiscard]] QString fileModeText(const QString& command);
+// Says so in file mode; true then.
+[[nodiscard]] bool refusesFileMode(Prompts& prompts, bool blnFileMode, const QString& command);
 
 // The file dialogs' filter of card files.
 [[nodiscard]] QString cardFileFilter();

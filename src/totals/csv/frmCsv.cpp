@@ -82,9 +82,7 @@ bool frmCsv::takeStop() {
 
 void frmCsv::addToDatabase() {
     Prompts& prompts = client_.context.prompts;
-    const QString question = lines(QStringLiteral("表示されている月次集計データをデータベースに登録します。"),
-                                   QString(), QStringLiteral("よろしいですか？"));
-    if (prompts.ask({{}, question, Icon::Question, Buttons::OkCancel, Answer::Ok}) != Answer::Ok) return;
+    if (!prompts.sure(QStringLiteral("表示されている月次集計データをデータベースに登録します。"))) return;
     stop_ = false;
     StatusProgress progress(*ui_->status);
     const Context& own = client_.context;
