@@ -30,7 +30,7 @@ class DayMerger final {
         next_ = goesOn ? end->type : QChar();
         days_.clear();
         days_.reserve(missing_.size());
-        last_ = none;
+        last_.reset();
     }
 
     // The place of the next row, to be filled. Rows come in the order of their days, which lie in the period. Filled in
@@ -42,7 +42,7 @@ class DayMerger final {
         return add(day);
     }
 
-    // All days of the period, after the last row.
+    // All days of the period, after the last row; they may be moved away.
     [[nodiscard]] std::vector<Row>& finish() {
         while (!missing_.empty()) addMissing();
         return days_;
@@ -50,12 +50,10 @@ class DayMerger final {
 
     // The calendar type of the day behind the period, 0 when the calendar ends with it.
     [[nodiscard]] QChar next() const { return next_; }
-    // The last row that came; none for a period without rows.
-    [[nodiscard]] const Row* last() const { return last_ == none ? nullptr : &days_[last_]; }
+    // The place among the days of the last row that came; nothing for a period without rows.
+    [[nodiscard]] std::optional<std::size_t> last() const { return last_; }
 
   private:
-    static constexpr auto none = static_cast<std::size_t>(-1);
-
     Row& add(const StoredDay& day) {
         Row& row = days_.emplace_back();
         factsIn(row).date = day.date;
@@ -70,7 +68,7 @@ class DayMerger final {
     const std::vector<StoredDay>& calendar_;
     std::span<const StoredDay> missing_; // the days without a row so far
     std::vector<Row> days_;
-    std::size_t last_ = none;
+    std::optional<std::size_t> last_;
     QChar next_;
 };
 

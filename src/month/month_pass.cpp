@@ -1,6 +1,7 @@
 #include "month/month_pass.h"
 
 #include "month/day_merger.h"
+#include "month/month_worker.h"
 #include "store/readers.h"
 #include "store/text_order.h"
 
@@ -63,13 +64,14 @@ class Directory final {
 // The months of one person, made one after another while the rows come in.
 class MonthMaker final {
   public:
-    MonthMaker(Connection& connection, const std::vector<StoredDay>& calendar, PersonMonths& person, Day today)
+    MonthMaker(Connection& connection, const std::vector<StoredDay>& calendar, PersonMonths& person,
+               MonthWorker& worker)
         : connection_(connection),
           person_(person),
-          today_(today),
+          worker_(worker),
           period_(person.periods.front()),
           merger_(calendar, period_) {
-        person_.sums.clear();
+        person_.sums.assign(person_.periods.size(), {});
     }
 
     // The place of the next row, to be filled: they come in the order of their days.
@@ -85,7 +87,7 @@ class MonthMaker final {
     }
 
   private:
-    [[nodiscard]] bool isDone() const { return person_.sums.size() == person_.periods.size(); }
+    [[nodiscard]] bool isDone() const { return made_ == person_.periods.size(); }
 
     // The last row before the period stands before the whole span when the span has none.
     [[nodiscard]] std::optional<Moment> leaveBefore(const DayFacts& first) {
@@ -95,22 +97,21 @@ class MonthMaker final {
     }
 
     void make() {
-        const std::vector<DayFacts>& days = merger_.finish();
+        std::vector<DayFacts> days = std::move(merger_.finish());
         const auto carry =
             days.empty() ? std::nullopt : carryInto(person_.rules, days.front(), leaveBefore(days.front()));
-        Figures sum = calculateDays(person_.rules, days, merger_.next(), carry, today_).sum;
-        roundSums(person_.rules, sum);
-        person_.sums.push_back(sum);
-        if (const DayFacts* const last = merger_.last()) {
-            last_ = *last;
+        if (const auto last = merger_.last()) {
+            last_ = days[*last];
             lastKnown_ = true;
         }
-        if (!isDone()) merger_.begin(period_ = person_.periods[person_.sums.size()]);
+        worker_.add({&person_, made_, std::move(days), merger_.next(), carry});
+        if (++made_; !isDone()) merger_.begin(period_ = person_.periods[made_]);
     }
 
     Connection& connection_;
     PersonMonths& person_;
-    const Day today_;
+    MonthWorker& worker_;
+    std::size_t made_ = 0;
     Period period_; // in hand
     DayMerger<DayFacts> merger_;
     DayFacts last_;          // before that period
@@ -126,6 +127,12 @@ Period wholeSpan(const std::vector<PersonMonths>& people) {
     return span;
 }
 
+std::size_t monthsOf(const std::vector<PersonMonths>& people) {
+    std::size_t months = 0;
+    for (const PersonMonths& person : people) months += person.periods.size();
+    return months;
+}
+
 // All people over the span, by one of two ways that hand each person the same rows in the same order.
 class MonthPass final {
   public:
@@ -134,9 +141,10 @@ class MonthPass final {
           people_(people),
           notice_(notice),
           span_(wholeSpan(people)),
-          calendar_(readCalendar(connection, span_)) {
+          calendar_(readCalendar(connection, span_)),
+          worker_(today, monthsOf(people)) {
         makers_.reserve(people.size());
-        for (PersonMonths& person : people) makers_.emplace_back(connection, calendar_, person, today);
+        for (PersonMonths& person : people) makers_.emplace_back(connection, calendar_, person, worker_);
     }
 
     void run() {
@@ -145,6 +153,7 @@ class MonthPass final {
         else
             readAll();
         for (MonthMaker& maker : makers_) maker.finish();
+        worker_.finish();
         tell(100);
     }
 
@@ -210,6 +219,7 @@ class MonthPass final {
     const PassNotice& notice_;
     const Period span_;
     const std::vector<StoredDay> calendar_;
+    MonthWorker worker_;
     std::vector<MonthMaker> makers_;
     int told_ = -1;
 };
