@@ -24,7 +24,7 @@ constexpr int pages = 200;
 void fill(GridModel& cells) {
     const Undrawn undrawn(cells);
     cells.reset({.rows = 1 + rows, .columns = columns, .frozenColumns = 2});
-    for (int column = 0; column < columns; ++column) cells.ColWidth(column, 900);
+    for (int column = 0; column < columns; ++column) cells.ColWidth(column, Twips(900));
     for (int row = 1; row <= rows; ++row)
         cells.fillRow(row, QStringList(columns, QString::number(row % 200) + QStringLiteral(":30")));
 }

@@ -67,7 +67,8 @@ int main() {
         const QByteArray user = staff.toLatin1();
         commits.add(timed([&] { bare.run(i + 1, day, user); }));
         punches.add(timed([&] {
-            (void)punch(office.context, connection, {{}, staff, {true, true, false, {}}, Seconds(30), {}}, Punch::Enter);
+            (void)punch(office.context, connection, {{}, staff, {true, true, false, {}}, Seconds(30), {}},
+                        Punch::Enter);
         }));
     }
     std::printf("punch / bare commit: %.2f in the middle, %.2f at the 95th of 100 (limit 1.30)\n",

@@ -41,4 +41,11 @@ using DayHundredths = Amount<struct DayHundredthUnit>;
     return DayHundredths(days.count() * 50);
 }
 
+// What columns and paper are measured in, whatever draws them.
+using Twips = Amount<struct TwipUnit>;
+inline constexpr int twipsPerInch = 1440;
+[[nodiscard]] constexpr int dots(Twips length, int dotsPerInch) {
+    return length.count() * dotsPerInch / twipsPerInch;
+}
+
 } // namespace kurbo

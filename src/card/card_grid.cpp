@@ -7,22 +7,21 @@ namespace {
 
 constexpr GridColour summaryPaper{232, 238, 246};
 
-// In twips.
-int widthOf(CardColumn column) {
+Twips widthOf(CardColumn column) {
     switch (column) {
     case CardColumn::Date:
     case CardColumn::Plan:
     case CardColumn::Enter:
     case CardColumn::Leave:
-        return 1400;
+        return Twips(1400);
     case CardColumn::WorkTime:
-        return 600;
+        return Twips(600);
     default:
         break;
     }
     const QuantityFacts* const facts = quantityAt(column);
-    if (!facts) return 500;
-    return facts->unit() == Unit::Time ? 900 : 600;
+    if (!facts) return Twips(500);
+    return facts->unit() == Unit::Time ? Twips(900) : Twips(600);
 }
 
 // Holidays red, half holidays blue.

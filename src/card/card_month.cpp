@@ -80,7 +80,8 @@ bool CardMonth::agreesToSave() const {
 
 bool CardMonth::adjust() {
     Prompts& prompts = client_.context.prompts;
-    if (refusesFileMode(prompts, sheet_.blnFileMode, QStringLiteral("時間調整")) || !hasName(client_.context, chosen_) ||
+    if (refusesFileMode(prompts, sheet_.blnFileMode, QStringLiteral("時間調整")) ||
+        !hasName(client_.context, chosen_) ||
         !isCardSaved(QStringLiteral("タイムカードの追加・変更を更新後、集計結果の調整を行って下さい。")) ||
         !isOwnMonth(QStringLiteral("時間調整")) ||
         !agreesWithMissing(QStringLiteral("集計結果の調整を行います。"), Answer::Ok))

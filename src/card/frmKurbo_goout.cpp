@@ -32,7 +32,8 @@ void frmKurbo::openGoOut() {
     if (screen_.chosen().staff.isEmpty())
         return client_.context.prompts.exclaim(QStringLiteral("氏名が入力されていません。"));
     const auto period = checkedPeriod(client_.context, ui_->mskStart->maskText(), ui_->mskEnd->maskText());
-    if (!period || refusesFileMode(client_.context.prompts, screen_.sheet.blnFileMode, QStringLiteral("外出明細の表示")))
+    if (!period ||
+        refusesFileMode(client_.context.prompts, screen_.sheet.blnFileMode, QStringLiteral("外出明細の表示")))
         return;
     if (isGoOutOpen()) return bringToFront(*frmGoOut_);
     frmGoOut_ = std::make_unique<frmGoOut>(client_);

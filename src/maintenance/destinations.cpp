@@ -42,7 +42,7 @@ void fill(GridModel& grid, const QList<QStringList>& found, const QString& names
     for (int row = 0; row < found.size(); ++row) grid.fillRow(row + 1, found[row]);
     grid.ColComboList(User, names);
     for (const auto& [column, twips] : {std::pair{Number, 500}, {User, 1500}, {Name, 4000}})
-        grid.ColWidth(column, twips);
+        grid.ColWidth(column, Twips(twips));
     grid.ColHidden(User, !admin);
     grid.ColHidden(Code, true);
 }

@@ -50,11 +50,11 @@ struct QuantityFacts {
     // Of T05_Approved. The company's switch (M01_CorpInfo) and the limit (M07_AdjustHours) have the same name.
     const char16_t* field;
     const char16_t* heading;
-    int printWidth = 775; // twips, on the totals' paper
+    Twips printWidth{775}; // on the totals' paper
     // In the narrow list of months to be read from CSV files.
     const char16_t* shortHeading;
     const char16_t* tip = u"";
-    int shortWidth = 700; // twips
+    Twips shortWidth{700};
 
     [[nodiscard]] constexpr Unit unit() const {
         if (std::holds_alternative<Count Figures::*>(member)) return Unit::Number;
@@ -67,25 +67,25 @@ inline constexpr std::array quantities{
                   .member = &Figures::workDays,
                   .field = u"F_WorkDay",
                   .heading = u"出勤日数",
-                  .printWidth = 740,
+                  .printWidth = Twips(740),
                   .shortHeading = u"勤日",
                   .tip = u"出勤日数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::Work,
                   .member = &Figures::work,
                   .field = u"F_Work",
                   .heading = u"実働時間",
-                  .printWidth = 840,
+                  .printWidth = Twips(840),
                   .shortHeading = u"働時",
                   .tip = u"実働時間",
-                  .shortWidth = 800},
+                  .shortWidth = Twips(800)},
     QuantityFacts{.id = Quantity::PaidTotal,
                   .field = u"F_PaidTotal",
                   .heading = u"有給残数",
-                  .printWidth = 739,
+                  .printWidth = Twips(739),
                   .shortHeading = u"有残",
                   .tip = u"有給休暇残数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::LegalOver,
                   .member = &Figures::legalOver,
                   .shown = &clsWorkTime::pbleEnableLegalOver,
@@ -163,7 +163,7 @@ inline constexpr std::array quantities{
                   .heading = u"有給",
                   .shortHeading = u"有休",
                   .tip = u"有給休暇取得日数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::Special,
                   .member = &Figures::special,
                   .shown = &clsWorkTime::pbleEnableSpecial,
@@ -171,7 +171,7 @@ inline constexpr std::array quantities{
                   .heading = u"特休",
                   .shortHeading = u"特休",
                   .tip = u"特別休暇取得日数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::Compens,
                   .member = &Figures::compens,
                   .shown = &clsWorkTime::pbleEnableCompens,
@@ -179,7 +179,7 @@ inline constexpr std::array quantities{
                   .heading = u"代休",
                   .shortHeading = u"代休",
                   .tip = u"代休取得日数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::AbsentDays,
                   .member = &Figures::absentDays,
                   .shown = &clsWorkTime::pbleEnableAbsentDay,
@@ -187,7 +187,7 @@ inline constexpr std::array quantities{
                   .heading = u"欠勤",
                   .shortHeading = u"欠勤",
                   .tip = u"欠勤回数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::LateEnters,
                   .member = &Figures::lateEnters,
                   .shown = &clsWorkTime::pbleEnableLateEnter,
@@ -195,7 +195,7 @@ inline constexpr std::array quantities{
                   .heading = u"遅刻",
                   .shortHeading = u"遅刻",
                   .tip = u"遅刻回数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
     QuantityFacts{.id = Quantity::EarlyLeaves,
                   .member = &Figures::earlyLeaves,
                   .shown = &clsWorkTime::pbleEnableEarlyLeave,
@@ -203,20 +203,23 @@ inline constexpr std::array quantities{
                   .heading = u"早退",
                   .shortHeading = u"早退",
                   .tip = u"早退回数",
-                  .shortWidth = 600},
+                  .shortWidth = Twips(600)},
 };
 inline constexpr std::size_t quantityCount = quantities.size();
 
+template <std::size_t At, typename Visit>
+constexpr void visitOneOfDay(Visit& visit) {
+    constexpr const QuantityFacts& facts = quantities[At];
+    if constexpr (facts.member.index() != 0) visit(facts, std::get<facts.member.index()>(facts.member));
+}
+template <typename Visit, std::size_t... Place>
+constexpr void visitEachOfDay(Visit& visit, std::index_sequence<Place...> /*places*/) {
+    (visitOneOfDay<Place>(visit), ...);
+}
 // Calls visit(facts, member) for each quantity that a day adds to, the member being one of Figures.
-template <typename Visit> constexpr void forEachOfDay(Visit visit) {
-    const auto each = [&visit]<std::size_t... Place>(std::index_sequence<Place...>) {
-        const auto one = [&visit]<std::size_t At>() {
-            constexpr const QuantityFacts& facts = quantities[At];
-            if constexpr (facts.member.index() != 0) visit(facts, std::get<facts.member.index()>(facts.member));
-        };
-        (one.template operator()<Place>(), ...);
-    };
-    each(std::make_index_sequence<quantityCount>());
+template <typename Visit>
+constexpr void forEachOfDay(Visit visit) {
+    visitEachOfDay(visit, std::make_index_sequence<quantityCount>());
 }
 
 constexpr std::size_t placeOf(Quantity id) {

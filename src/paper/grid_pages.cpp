@@ -33,7 +33,7 @@ std::optional<GridColour> readable(std::optional<GridColour> ink) {
 std::vector<int> visibleColumns(const GridModel& grid) {
     std::vector<int> columns;
     for (int column = 0; column < grid.Cols(); ++column)
-        if (!grid.ColHidden(column) && grid.ColWidth(column) > 0) columns.push_back(column);
+        if (!grid.ColHidden(column) && grid.ColWidth(column) > Twips()) columns.push_back(column);
     return columns;
 }
 
@@ -74,7 +74,7 @@ GridPages::GridPages(const GridModel& grid, QString documentName, QString printe
 
 void GridPages::take(const GridModel& grid, const std::vector<int>& columns) {
     for (const int column : columns)
-        columns_.push_back({grid.ColWidth(column), grid.ColAlignment(column), column < grid.FixedCols()});
+        columns_.push_back({grid.ColWidth(column).count(), grid.ColAlignment(column), column < grid.FixedCols()});
     for (int row = 0; row < rowsUsed(grid); ++row) {
         if (grid.RowHidden(row)) continue;
         Line line;

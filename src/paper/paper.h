@@ -10,7 +10,6 @@
 namespace kurbo {
 
 // Everything on paper is measured in twips, 1440 an inch, from the upper left corner of the sheet.
-inline constexpr int twipsPerInch = 1440;
 
 struct PaperSize {
     int width = 0;

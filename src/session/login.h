@@ -14,8 +14,8 @@ namespace kurbo {
 [[nodiscard]] bool IsPasswordOK(const Context& context, Connection& connection, const QString& staff,
                                 const QString& password);
 // Seconds by which the person's punches are shifted; Null counts as 0. False after a reported failure.
-[[nodiscard]] bool GetTimeDiff(const Context& context, Connection& connection, const QString& staff, Seconds& EnterDelay,
-                               Seconds& LeaveGain);
+[[nodiscard]] bool GetTimeDiff(const Context& context, Connection& connection, const QString& staff,
+                               Seconds& EnterDelay, Seconds& LeaveGain);
 
 // What was typed into the login fields. The codes may be in any case; the administrator needs no section.
 struct Credentials {

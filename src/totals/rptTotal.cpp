@@ -25,7 +25,7 @@ constexpr std::size_t firstColumn = words.size();
 
 constexpr ReportColumn columnOf(const QuantityFacts& facts) {
     const int bytes = facts.unit() == Unit::Time ? 8 : facts.unit() == Unit::Days ? 6 : 4;
-    return {facts.field, bytes, at(totalColumnOf(facts.id)), facts.printWidth};
+    return {facts.field, bytes, at(totalColumnOf(facts.id)), facts.printWidth.count()};
 }
 
 constexpr auto columns = [] {

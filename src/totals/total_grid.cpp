@@ -6,25 +6,25 @@ namespace {
 constexpr GridColour subTotalPaper{232, 238, 246};
 constexpr GridColour totalPaper{210, 222, 238};
 
-// In twips. A name has 20 bytes, and a sub-total's words behind it.
-int widthOf(TotalColumn column) {
+// A name has 20 bytes, and a sub-total's words behind it.
+Twips widthOf(TotalColumn column) {
     switch (column) {
     case TotalColumn::Blank:
-        return 300;
+        return Twips(300);
     case TotalColumn::First:
-        return 2200;
+        return Twips(2200);
     case TotalColumn::Second:
-        return 1650;
+        return Twips(1650);
     case TotalColumn::Term:
-        return 2500;
+        return Twips(2500);
     case TotalColumn::Personal:
     case TotalColumn::Superior:
-        return 600;
+        return Twips(600);
     default:
         break;
     }
     const QuantityFacts* const facts = quantityAt(column);
-    return facts && facts->shown && facts->unit() != Unit::Time ? 600 : 900;
+    return facts && facts->shown && facts->unit() != Unit::Time ? Twips(600) : Twips(900);
 }
 
 // A column is as wide as its sums ask for: nothing in it is longer, but for headings and names.
@@ -33,8 +33,8 @@ void describeColumns(GridModel& grid, const Totals& totals, const std::vector<To
     constexpr int edges = 100;
     for (int column = 0; column < totalColumns; ++column) {
         const qsizetype length = lines.empty() ? 0 : lines.back().cells[column].size();
-        grid.ColWidth(column,
-                      std::max(widthOf(static_cast<TotalColumn>(column)), static_cast<int>(length) * sign + edges));
+        grid.ColWidth(column, std::max(widthOf(static_cast<TotalColumn>(column)),
+                                       Twips(static_cast<int>(length) * sign + edges)));
         grid.ColHidden(column, totals.hidden[static_cast<std::size_t>(column)]);
     }
     // Shown as words: a box would stand on sub-totals as well.

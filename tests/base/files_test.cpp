@@ -27,8 +27,7 @@ TEST(Files, PathsAreTestedTrimmed) {
 }
 
 TEST(Files, PathsAreTakenApart) {
-    for (const QStringList& row :
-         rowsOf("/a/b.mdb|b.mdb|/a\n/b.mdb|b.mdb|\nb.mdb|b.mdb|b.mdb")) {
+    for (const QStringList& row : rowsOf("/a/b.mdb|b.mdb|/a\n/b.mdb|b.mdb|\nb.mdb|b.mdb|b.mdb")) {
         EXPECT_EQ(FileNameOf(row[0]), row[1]);
         EXPECT_EQ(FolderOf(row[0]), row[2]);
     }

@@ -26,7 +26,8 @@ class DemoCards : public ::testing::Test {
         if (!GetWorkStyle(desk.context, connection, rules) || !GetStaffInfo(desk.context, connection, rules, staff) ||
             !GetWorkTime(desk.context, connection, rules, staff))
             return {};
-        return makeCard(desk.context, connection, rules, staff, *periodOfMonth(std::chrono::year(2026) / month, rules.plngCloseDay()));
+        return makeCard(desk.context, connection, rules, staff,
+                        *periodOfMonth(std::chrono::year(2026) / month, rules.plngCloseDay()));
     }
     // Every month of everybody; where a month is saved, the days must add up to it.
     void compareAll() {

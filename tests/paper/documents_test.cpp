@@ -174,10 +174,10 @@ TEST(GridPages, AWideGridFindsItsPlace) {
         SCOPED_TRACE(width);
         GridModel grid;
         grid.reset({.rows = 2, .columns = 11});
-        grid.ColWidth(0, 500);
+        grid.ColWidth(0, Twips(500));
         grid.TextMatrix(1, 0, u"row"_q);
         for (int column = 1; column < 11; ++column) {
-            grid.ColWidth(column, width);
+            grid.ColWidth(column, Twips(width));
             grid.TextMatrix(1, column, u"c%1"_q.arg(column));
         }
         const GridPages pages(grid, u"wide"_q, u"2026/04/15"_q);

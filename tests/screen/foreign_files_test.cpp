@@ -163,7 +163,7 @@ void fillRichly(GridModel& grid) {
     grid.ColFormat(2, u"$#,###"_q);
     grid.ColEditMask(0, u"####/##/##"_q);
     grid.ColDataType(3, GridType::YesNo);
-    grid.ColWidth(1, 1234);
+    grid.ColWidth(1, Twips(1234));
     grid.ColHidden(0, true);
     for (int row = 1; row < 5; ++row) grid.fillRow(row, {u"2026/05/01"_q, u"1"_q, u"-1234567"_q, u"-1"_q});
     grid.TextMatrix(4, 1, u"\"引用\"\r\n\t\\𠮷髙 "_q);
@@ -177,7 +177,7 @@ void fillRichly(GridModel& grid) {
 QVariantList picture(const GridModel& grid) {
     QVariantList seen{grid.FixedRows(), grid.FixedCols(), grid.FrozenRows(), grid.FrozenCols(), grid.MergeHeadings()};
     for (int column = 0; column < grid.Cols(); ++column)
-        seen << grid.ColWidth(column) << grid.ColHidden(column) << static_cast<int>(grid.ColDataType(column))
+        seen << grid.ColWidth(column).count() << grid.ColHidden(column) << static_cast<int>(grid.ColDataType(column))
              << grid.ColEditMask(column) << grid.ColComboList(column).source();
     for (int row = 0; row < grid.Rows(); ++row) {
         seen << grid.RowHidden(row);

@@ -195,7 +195,7 @@ TEST_F(GridOnScreen, AFilledGridKeepsItsCursor) {
     grid.Select(4, 1);
     cells.reset({.rows = 31, .columns = 6, .frozenRows = 2});
     EXPECT_EQ(cursor(), u"4,1"_q) << "the last place counts, not the furthest";
-    EXPECT_EQ(grid.columnWidth(2), cells.ColWidth(2) * grid.logicalDpiX() / 1440);
+    EXPECT_EQ(grid.columnWidth(2), dots(cells.ColWidth(2), grid.logicalDpiX()));
 }
 
 } // namespace

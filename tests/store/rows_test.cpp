@@ -39,7 +39,8 @@ TEST_F(Records, MoveAndFilter) {
     set.clearFilter();
     EXPECT_TRUE(set.size() == 5 && set.moveFirst());
     EXPECT_THROW((void)set.value(u"F_Nothing"_q), Fault);
-    for (const QString& bad : {u"F_KurboID"_q, u"F_KurboID = 1 OR F_KurboID = 2"_q}) EXPECT_THROW(set.filter(bad), Fault);
+    for (const QString& bad : {u"F_KurboID"_q, u"F_KurboID = 1 OR F_KurboID = 2"_q})
+        EXPECT_THROW(set.filter(bad), Fault);
 }
 
 TEST_F(Records, BatchIsSentWholeOrNotAtAll) {

@@ -64,7 +64,8 @@ void GoOut::offerDestinations() {
 }
 
 bool GoOut::insertRow(int row) {
-    if (!sheet.mayWrite() || !client_.context.prompts.sure(QStringLiteral("カレント行の上に１行挿入します。"))) return false;
+    if (!sheet.mayWrite() || !client_.context.prompts.sure(QStringLiteral("カレント行の上に１行挿入します。")))
+        return false;
     insertGoOut(sheet, row);
     return true;
 }
@@ -95,7 +96,8 @@ bool GoOut::UpdateGoOut() {
 }
 
 bool GoOut::update() {
-    if (!hasConnection() || !CheckData() || !client_.context.prompts.sure(QStringLiteral("追加・変更を更新します。"))) return false;
+    if (!hasConnection() || !CheckData() || !client_.context.prompts.sure(QStringLiteral("追加・変更を更新します。")))
+        return false;
     if (!UpdateGoOut()) {
         client_.context.prompts.exclaim(QStringLiteral("追加・変更を更新できませんでした。"));
         return false;

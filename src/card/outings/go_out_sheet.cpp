@@ -18,18 +18,18 @@ QString moneyFormat() {
     return QStringLiteral("$#,###");
 }
 
-void describeColumn(GridModel& grid, GoOutColumn column, int twips, const QString& format) {
-    grid.ColWidth(static_cast<int>(column), twips);
+void describeColumn(GridModel& grid, GoOutColumn column, Twips width, const QString& format) {
+    grid.ColWidth(static_cast<int>(column), width);
     grid.ColFormat(static_cast<int>(column), format);
 }
 
 void describeColumns(GridModel& grid) {
     const QString time = QStringLiteral("hh:nn");
-    describeColumn(grid, GoOutColumn::No, 500, {});
-    describeColumn(grid, GoOutColumn::Out, 900, time);
-    describeColumn(grid, GoOutColumn::In, 900, time);
-    describeColumn(grid, GoOutColumn::Destination, 2000, {});
-    describeColumn(grid, GoOutColumn::Expense, 900, moneyFormat());
+    describeColumn(grid, GoOutColumn::No, Twips(500), {});
+    describeColumn(grid, GoOutColumn::Out, Twips(900), time);
+    describeColumn(grid, GoOutColumn::In, Twips(900), time);
+    describeColumn(grid, GoOutColumn::Destination, Twips(2000), {});
+    describeColumn(grid, GoOutColumn::Expense, Twips(900), moneyFormat());
     for (const auto column : {GoOutColumn::Id, GoOutColumn::Order}) grid.ColHidden(static_cast<int>(column), true);
     grid.ColAlignment(static_cast<int>(GoOutColumn::Destination), GridAlign::Left);
     grid.ColDataType(static_cast<int>(GoOutColumn::Expense), GridType::Currency);

@@ -132,7 +132,7 @@ GridImage imageOf(const QJsonObject& json) {
 }
 
 void fillColumn(GridModel& grid, int column, const ColumnImage& image) {
-    grid.ColWidth(column, image.width);
+    grid.ColWidth(column, Twips(image.width));
     grid.ColDataType(column, image.type);
     grid.ColAlignment(column, image.align);
     grid.ColHidden(column, image.hidden);

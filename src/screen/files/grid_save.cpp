@@ -25,7 +25,7 @@ QJsonValue jsonOf(std::optional<GridColour> colour) {
 }
 
 QJsonObject columnOf(const GridModel& grid, int column) {
-    return {{QStringLiteral("width"), grid.ColWidth(column)},
+    return {{QStringLiteral("width"), grid.ColWidth(column).count()},
             {QStringLiteral("type"), static_cast<int>(grid.ColDataType(column))},
             {QStringLiteral("align"), static_cast<int>(grid.ColAlignment(column))},
             {QStringLiteral("hidden"), grid.ColHidden(column)},

@@ -11,8 +11,7 @@ namespace kurbo {
 namespace {
 
 constexpr int points = 10;
-constexpr int twipsAnInch = 1440;
-constexpr int rowTwips = 315;
+constexpr Twips leastHeight{315};
 
 } // namespace
 
@@ -70,7 +69,7 @@ void Grid::setGrid(GridModel& grid, const Context& context) {
 void Grid::dress(QTableView& view, GridHeader& headings, GridDelegate& cells) {
     headings.setGrid(grid_);
     cells.setGrid(grid_, fontMetrics(), [this](const QString& text) { context_->prompts.exclaim(text); });
-    const int height = std::max(rowTwips * logicalDpiY() / twipsAnInch, fontMetrics().height() + 2);
+    const int height = std::max(dots(leastHeight, logicalDpiY()), fontMetrics().height() + 2);
     headings.setRowHeight(height);
     connect(&cells, &GridDelegate::goOn, this, &Grid::step);
     connect(&cells, &GridDelegate::typed, this, &Grid::ChangeEdit);
@@ -121,7 +120,7 @@ void Grid::applyTo(QTableView& view) const {
 int Grid::widthOf(int column) const {
     constexpr int room = 8;
     if (const auto own = ownWidths_.constFind(column); own != ownWidths_.cend()) return *own;
-    int width = grid_->ColWidth(column) * logicalDpiX() / twipsAnInch;
+    int width = dots(grid_->ColWidth(column), logicalDpiX());
     const auto fit = [&](const QString& text) {
         width = std::max(width, fontMetrics().horizontalAdvance(text) + room);
     };

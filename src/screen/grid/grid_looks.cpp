@@ -48,12 +48,12 @@ GridAlign GridModel::ColAlignment(int column) const {
     return columnAt(column).align;
 }
 
-void GridModel::ColWidth(int column, int twips) {
-    columnAt(column).width = twips;
+void GridModel::ColWidth(int column, Twips width) {
+    columnAt(column).width = width;
     lookChanged();
 }
 
-int GridModel::ColWidth(int column) const {
+Twips GridModel::ColWidth(int column) const {
     return columnAt(column).width;
 }
 

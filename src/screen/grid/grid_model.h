@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/units.h"
 #include "screen/grid/grid_list.h"
 #include "screen/grid/grid_rules.h"
 
@@ -26,8 +27,7 @@ enum class GridAlign { Left, Centre, Right };
 enum class GridStatus { None = 0, Updated = 1, Modified = 2 };
 
 // The cells of a screen's grid, without a window. The first FixedRows and FixedCols hold headings and are never edited;
-// the FrozenRows and FrozenCols behind them stay in view as well. Cells outside of the grid have no text. Widths are
-// twips (1440 an inch).
+// the FrozenRows and FrozenCols behind them stay in view as well. Cells outside of the grid have no text.
 class GridModel final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -100,8 +100,8 @@ class GridModel final : public QAbstractTableModel {
     [[nodiscard]] GridType ColDataType(int column) const;
     void ColAlignment(int column, GridAlign align);
     [[nodiscard]] GridAlign ColAlignment(int column) const;
-    void ColWidth(int column, int twips);
-    [[nodiscard]] int ColWidth(int column) const;
+    void ColWidth(int column, Twips width);
+    [[nodiscard]] Twips ColWidth(int column) const;
     void ColHidden(int column, bool hidden);
     [[nodiscard]] bool ColHidden(int column) const;
     void RowHidden(int row, bool hidden);
@@ -150,7 +150,7 @@ class GridModel final : public QAbstractTableModel {
         QHash<int, Look> looks;
     };
     struct Column {
-        int width = 960;
+        Twips width{960};
         GridType type = GridType::Text;
         GridAlign align = GridAlign::Left;
         bool hidden = false;

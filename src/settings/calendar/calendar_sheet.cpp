@@ -12,7 +12,9 @@ constexpr GridColour red{.red = 255, .green = 0, .blue = 0};
 constexpr GridColour blue{.red = 0, .green = 0, .blue = 255};
 
 void describeColumns(GridModel& grid, const QString& kinds) {
-    const auto width = [&grid](CalendarColumn column, int twips) { grid.ColWidth(static_cast<int>(column), twips); };
+    const auto width = [&grid](CalendarColumn column, int twips) {
+        grid.ColWidth(static_cast<int>(column), Twips(twips));
+    };
     width(CalendarColumn::No, 500);
     width(CalendarColumn::Date, 1500);
     width(CalendarColumn::Name, 4500);

@@ -57,26 +57,26 @@ void writeWeekdayRule(const HolidaySheet& sheet, int row, CalendarSheet& calenda
 // What belongs to each column behind the row's number.
 struct Entry {
     HolidayColumn column;
-    int twips;
+    Twips width;
     const char16_t* tip;
 };
 
 constexpr std::array entries{
     Entry{.column = HolidayColumn::Method,
-          .twips = 900,
+          .width = Twips(900),
           .tip = u"休日の指定方法を選択します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
     Entry{.column = HolidayColumn::Weekday,
-          .twips = 900,
+          .width = Twips(900),
           .tip = u"休日を設定する曜日を選択します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
     Entry{.column = HolidayColumn::From,
-          .twips = 900,
+          .width = Twips(900),
           .tip = u"休日を設定する期間の開始日(mm/dd)を入力します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
     Entry{.column = HolidayColumn::To,
-          .twips = 900,
+          .width = Twips(900),
           .tip = u"休日を設定する期間の終了日(mm/dd)を入力します(詳細はF1ｷｰを押してﾍﾙﾌﾟを参照して下さい)"},
-    Entry{.column = HolidayColumn::Name, .twips = 2800, .tip = u"休日名称を入力します(例：夏季休暇)"},
+    Entry{.column = HolidayColumn::Name, .width = Twips(2800), .tip = u"休日名称を入力します(例：夏季休暇)"},
     Entry{.column = HolidayColumn::Kind,
-          .twips = 900,
+          .width = Twips(900),
           .tip = u"休日種別を選択します(全日休日, 午前休日, 午後休日, 法定休日)"},
 };
 
@@ -92,9 +92,9 @@ void SetupGrid(HolidaySheet& sheet, const CalendarSheet& calendar) {
     sheet.year = calendar.year;
     grid.reset({.rows = 1 + holidayRules, .columns = holidayColumns});
     grid.FormatString(QStringLiteral("|^指定方法|^曜日|^開始日|^終了日|^休日名称|^休日種別"));
-    grid.ColWidth(static_cast<int>(HolidayColumn::No), 500);
+    grid.ColWidth(static_cast<int>(HolidayColumn::No), Twips(500));
     grid.ColAlignment(static_cast<int>(HolidayColumn::No), GridAlign::Centre);
-    for (const Entry& entry : entries) grid.ColWidth(static_cast<int>(entry.column), entry.twips);
+    for (const Entry& entry : entries) grid.ColWidth(static_cast<int>(entry.column), entry.width);
     grid.ColAlignment(static_cast<int>(HolidayColumn::Name), GridAlign::Left);
     grid.ColComboList(static_cast<int>(HolidayColumn::Method), methodList());
     grid.ColComboList(static_cast<int>(HolidayColumn::Weekday), weekdayList());

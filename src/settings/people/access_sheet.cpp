@@ -52,8 +52,8 @@ void writeSecondHeading(GridModel& grid) {
 }
 
 void describeColumns(GridModel& grid, const clsWorkTime& style) {
-    constexpr int sectionWidth = 1500;
-    constexpr int rightWidth = 500;
+    constexpr Twips sectionWidth{1500};
+    constexpr Twips rightWidth{500};
     for (const auto column : {AccessColumn::Code, AccessColumn::Name, AccessColumn::Order})
         grid.ColHidden(static_cast<int>(column), true);
     grid.ColWidth(static_cast<int>(AccessColumn::No), rightWidth);

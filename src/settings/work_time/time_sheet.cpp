@@ -9,7 +9,7 @@ namespace {
 
 constexpr GridColour navy{.red = 0, .green = 0, .blue = 128};
 constexpr int mostSlots = 4;
-constexpr int labelWidth = 1300;
+constexpr Twips labelWidth{1300};
 
 bool isStart(int column) {
     return column % 2 == 1;
@@ -20,7 +20,7 @@ QString refused(const QString& demand) {
 }
 
 void headBands(GridModel& grid) {
-    constexpr int width = 650;
+    constexpr Twips width{650};
     grid.MergeHeadings(true);
     for (int column = 1; column <= 2 * mostSlots; ++column) {
         grid.ColWidth(column, width);

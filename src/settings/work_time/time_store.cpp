@@ -45,7 +45,8 @@ void setLimit(RecordSet& record, const TimeSheet& sheet, int row, bool stored) {
     if (stored && !limit.isEmpty() && !isLimit(limit))
         throw Complaint(sheet.grid.TextMatrix(row, 0) +
                         QStringLiteral("の調整時間が不正です。時間をhh:mm形式で入力して下さい。"));
-    record.set(text(sheet.rowAt(row).field), stored && !limit.isEmpty() ? Value(ParseHours(limit, 1).count()) : Value());
+    record.set(text(sheet.rowAt(row).field),
+               stored && !limit.isEmpty() ? Value(ParseHours(limit, 1).count()) : Value());
 }
 
 void setTimes(RecordSet& record, const TimeSheet& sheet) {

@@ -15,20 +15,20 @@ namespace {
 struct Heading {
     const char16_t* text;
     const char16_t* tip;
-    int width; // twips
+    Twips width;
 };
 
 constexpr std::array before{
-    Heading{u"ﾌｧｲﾙ名", u"CSVﾌｧｲﾙ名", 2200},
-    Heading{u"氏名", u"", 1600},
-    Heading{u"部課", u"部課名", 1600},
-    Heading{u"年月", u"", 800},
-    Heading{u"年月", u"", 600},
+    Heading{u"ﾌｧｲﾙ名", u"CSVﾌｧｲﾙ名", Twips(2200)},
+    Heading{u"氏名", u"", Twips(1600)},
+    Heading{u"部課", u"部課名", Twips(1600)},
+    Heading{u"年月", u"", Twips(800)},
+    Heading{u"年月", u"", Twips(600)},
 };
 constexpr std::array behind{
-    Heading{u"本人", u"本人承認済", 600},
-    Heading{u"所長", u"所属長承認済", 600},
-    Heading{u"集計期間", u"集計期間", 2500},
+    Heading{u"本人", u"本人承認済", Twips(600)},
+    Heading{u"所長", u"所属長承認済", Twips(600)},
+    Heading{u"集計期間", u"集計期間", Twips(2500)},
 };
 
 constexpr auto headings = [] {
