@@ -1,7 +1,7 @@
 #include "card/edit/card_checks.h"
 
 #include "card/card_grid.h"
-#include "card/edit/card_entries.h"
+#include "card/edit/card_demands.h"
 #include "month/figure_texts.h"
 #include "screen/files/card_file.h"
 

@@ -1,6 +1,6 @@
 #include "card/edit/card_entry.h"
 
-#include "card/edit/card_entries.h"
+#include "base/system/code_page.h"
 #include "card/edit/card_times.h"
 #include "month/figure_texts.h"
 
@@ -14,7 +14,19 @@ QChar DayFacts::*leaveIn(CardColumn column) {
     return column == CardColumn::Compens ? &DayFacts::compens : nullptr;
 }
 
+bool isPlanText(const QString& text) {
+    constexpr int mostBytes = 30;
+    return byteLength(text) <= mostBytes;
+}
+
 } // namespace
+
+bool CardEntry::takes(CardColumn column, const QString& text) const {
+    CardEntry typed(day);
+    typed.read(column, text);
+    const bool time = column == CardColumn::Enter || column == CardColumn::Leave;
+    return typed.isReadable(column) || (time && timeOn(day.facts.date, text));
+}
 
 void CardEntry::read(CardColumn column, const QString& text) {
     bool readable = true;

@@ -28,6 +28,9 @@ struct CardEntry {
     [[nodiscard]] bool hasEnter() const { return day.facts.enter || !isReadable(CardColumn::Enter); }
     [[nodiscard]] bool hasLeave() const { return day.facts.leave || !isReadable(CardColumn::Leave); }
 
+    // Whether the column takes the text, which isn't empty. A time without its leading zero is taken while it is typed;
+    // the check before the card is written refuses it.
+    [[nodiscard]] bool takes(CardColumn column, const QString& text) const;
     // Takes over what was typed into a cell, trimmed; the empty text empties it. Columns that nobody types into are
     // passed over.
     void read(CardColumn column, const QString& text);

@@ -1,11 +1,9 @@
 #include "card/edit/card_rules.h"
 
 #include "base/failure.h"
-#include "base/field_tests.h"
 #include "card/card_cells.h"
 #include "card/card_grid.h"
-#include "card/edit/card_entries.h"
-#include "card/edit/card_times.h"
+#include "card/edit/card_demands.h"
 #include "month/figure_texts.h"
 
 #include <algorithm>
@@ -88,17 +86,10 @@ QString timeDemand(const QString& demand) {
     return lines(refused(QStringLiteral("時刻を入力して下さい。")), demand);
 }
 
-// A time without its leading zero is taken here, where the date it makes decides alone.
-bool isTimeOf(Day day, const QString& text) {
-    return IsSingleByte(text) && timeOn(day, text);
-}
-
-QString dayRefusal(CardColumn column, Day day, const QString& text) {
-    if (column == CardColumn::Plan && !isPlanText(text)) return refused(planDemand());
-    if (column == CardColumn::Enter && !isTimeOf(day, text)) return timeDemand(enterDemand());
-    if (column == CardColumn::Leave && !isTimeOf(day, text) && !leaveTime(day, text))
-        return timeDemand(lines(leaveDemand(), nextDayDemand()));
-    return isLeaveKind(column) && !isLeaveWord(text) ? refused(listDemand()) : QString();
+QString dayRefusal(CardColumn column) {
+    if (column == CardColumn::Plan) return refused(planDemand());
+    if (column == CardColumn::Enter) return timeDemand(enterDemand());
+    return column == CardColumn::Leave ? timeDemand(lines(leaveDemand(), nextDayDemand())) : refused(listDemand());
 }
 
 } // namespace
@@ -139,7 +130,7 @@ QString CardRules::refusal(int row, int column, const QString& text) const {
         return isSum(form, text) ? QString() : refused(sumDemand(form));
     }
     const CardEntry* const day = sheet_.dayAt(row);
-    return day ? dayRefusal(own, day->day.facts.date, text) : QString();
+    return !day || day->takes(own, text) ? QString() : dayRefusal(own);
 }
 
 void CardRules::edited(int row, int column) {

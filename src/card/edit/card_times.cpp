@@ -6,7 +6,7 @@ namespace kurbo {
 namespace {
 
 bool hasColon(const QString& text, qsizetype place) {
-    return text.size() >= place && text[place - 1] == u':' && IsSingleByte(text);
+    return text.size() >= place && text[place - 1] == u':';
 }
 
 std::optional<Moment> leaveOnDate(Day day, const QString& leave) {
@@ -41,7 +41,8 @@ std::optional<Moment> enterTime(Day day, const QString& enter) {
 std::optional<Moment> leaveTime(Day day, const QString& leave) {
     constexpr qsizetype longForm = 12;
     if (hasColon(leave, 3)) return timeOn(day, leave);
-    return leave.size() == longForm && hasColon(leave, 10) ? leaveOnDate(day, leave) : std::nullopt;
+    return leave.size() == longForm && hasColon(leave, 10) && IsSingleByte(leave) ? leaveOnDate(day, leave)
+                                                                                  : std::nullopt;
 }
 
 } // namespace kurbo

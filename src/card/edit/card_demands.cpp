@@ -1,19 +1,8 @@
-#include "card/edit/card_entries.h"
+#include "card/edit/card_demands.h"
 
 #include "base/failure.h"
-#include "base/system/code_page.h"
-#include "month/figure_texts.h"
 
 namespace kurbo {
-
-bool isPlanText(const QString& text) {
-    constexpr int mostBytes = 30;
-    return byteLength(text) <= mostBytes;
-}
-
-bool isLeaveWord(const QString& text) {
-    return !leaveCode(text).isEmpty();
-}
 
 QString planDemand() {
     return QStringLiteral("予定は全角15文字(半角30文字)以内で入力します。");
