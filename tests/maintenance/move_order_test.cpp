@@ -37,21 +37,10 @@ TEST_F(Order, BeginsWithAYearThatHasPassed) {
     EXPECT_EQ(firstRunningDay(connection, today), makeDay(2026, 4, 1)) << "the 11th has begun";
     desk.clock.set(at(*makeDay(2028, 5, 5), 9, 0));
     EXPECT_EQ(offered(), u"20260101 20261231 202512 202611"_q);
-    MoveOrder first = *firstMoveOrder(desk.context, connection);
-    EXPECT_FALSE(isFilledIn(first)) << "no destination";
-    first.destination = u" x"_q;
-    EXPECT_TRUE(isFilledIn(first));
-    first.endMonth = {};
-    EXPECT_TRUE(isFilledIn(first)) << "months do not count";
-    first.withMonths = true;
-    EXPECT_FALSE(isFilledIn(first));
     connection.execute(u"DELETE FROM T05_Approved"_q);
     connection.execute(u"DELETE FROM T01_Calendar WHERE (F_DateID < '20280501')"_q);
     insert("T01_Calendar", "DateID, Date", u"'20280502', #2028/05/02#"_q);
     EXPECT_EQ(offered(), u"20280502 20280505 202805 202805"_q) << "nothing else to offer";
-    connection.close();
-    desk.prompts.expect(u"エラー番号"_q);
-    EXPECT_FALSE(firstMoveOrder(desk.context, connection));
 }
 
 TEST_F(Order, IsCheckedInItsOrder) {
@@ -68,7 +57,6 @@ TEST_F(Order, IsCheckedInItsOrder) {
 20260105 | 20260228 | 20251201 | 20260401 |               |
 20260105 | 20260228 | 20251201 | 20260501 |               | 明日以降のデータ、すなわち未到来のデータを移動する事はできません。
 20260105 | 20260228 | 20251201 | 20260101 | /none/old.mdb | DBの移動先パスが見つかりません。
-20260105 | 20260228 | 20251201 | 20260101 | old.mdb       | DBの移動先パスが見つかりません。
 )")) {
         const MoveOrder given{parseDateId(row[0]), parseDateId(row[1]), true,
                               parseDateId(row[2]), parseDateId(row[3]), row[4].isEmpty() ? destination : row[4]};
@@ -77,7 +65,6 @@ TEST_F(Order, IsCheckedInItsOrder) {
 }
 
 TEST_F(Order, APlaceThatCantTakeTheCopyIsRefused) {
-    const QString noWriting = u"移動先DBに書き込む事ができません。"_q;
     ASSERT_TRUE(QFile::link(path, desk.file(u"link.mdb"_q)));
     ASSERT_TRUE(QFile::link(desk.folder.path(), desk.file(u"here"_q)));
     ASSERT_EQ(::link(path.toUtf8().constData(), desk.file(u"twin.mdb"_q).toUtf8().constData()), 0);
@@ -91,14 +78,12 @@ TEST_F(Order, APlaceThatCantTakeTheCopyIsRefused) {
           {". here/", u"移動先DBのファイル名が指定されていません。"_q}})
         for (const QString& name : QString::fromLatin1(names).split(u' '))
             EXPECT_EQ(refusedPlace(desk.file(QString(name).replace(u"%1"_q, parent))), refusal) << name;
-    EXPECT_EQ(refusedPlace(u"/dev/null"_q), u"移動先DBのファイル名が指定されていません。"_q);
     replaceFile(desk.file(u"kept.mdb"_q), "read only");
     QFile::setPermissions(desk.file(u"kept.mdb"_q), QFile::ReadOwner | QFile::ReadOther);
     {
         const AsNobody nobody;
-        EXPECT_EQ(refusedPlace(destination), noWriting);
-        EXPECT_EQ(refusedPlace(desk.file(u"kept.mdb"_q)), noWriting);
-        EXPECT_EQ(refusedPlace(QDir::tempPath() + u"/old.mdb"_q), QString());
+        for (const QString& place : {destination, desk.file(u"kept.mdb"_q)})
+            EXPECT_EQ(refusedPlace(place), u"移動先DBに書き込む事ができません。"_q);
     }
     connection.close();
     // A hole takes no room itself.
