@@ -26,14 +26,6 @@ TEST(Files, PathsAreTestedTrimmed) {
     for (const QString& folder : {u" /a/b "_q, u"/a/b//"_q}) EXPECT_EQ(addSlash(folder), u"/a/b/"_q);
 }
 
-TEST(Files, PathsAreTakenApart) {
-    for (const QStringList& row :
-         rowsOf("/a/b.mdb|b.mdb|/a\n/b.mdb|b.mdb|\nb.mdb|b.mdb|b.mdb")) {
-        EXPECT_EQ(FileNameOf(row[0]), row[1]);
-        EXPECT_EQ(FolderOf(row[0]), row[2]);
-    }
-}
-
 TEST(Files, AFailedReplaceKeepsTheOldFile) {
     const Desk desk;
     const QString path = desk.file(u"Parm.dat"_q);
