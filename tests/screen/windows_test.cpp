@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBrowser>
@@ -105,22 +104,11 @@ QMap<QString, QStringList> windows() {
     return all;
 }
 
-// The administrator's help speaks of every window, and so of those that people don't have.
-TEST(HelpTexts, SpeakOfEveryWindow) {
-    const QStringList administrators = u"frmCorp frmSection frmStaff frmWorkStyle frmAccess frmWorkTime frmAsign "
-                                       "frmCalendar frmHoliday frmMaintainance"_q.split(u' ');
-    const QStringList people = placesIn(u"Kurbo.hlp"_q);
-    const QStringList administrator = placesIn(u"KurboAdm.hlp"_q);
-    const QStringList forms = windows().keys();
-    ASSERT_GT(forms.size(), 15);
-    for (const QString& form : forms) {
-        EXPECT_TRUE(administrator.contains(form)) << form;
-        EXPECT_NE(people.contains(form), administrators.contains(form)) << form;
-    }
-}
-
 TEST(HelpTexts, LeadSomewhere) {
     const QMap<QString, QStringList> known = windows();
+    EXPECT_GT(known.size(), 15);
+    for (const QString& form : known.keys())
+        EXPECT_TRUE(placesIn(u"KurboAdm.hlp"_q).contains(form)) << form << " isn't told of";
     for (const QString& name : {u"Kurbo.hlp"_q, u"KurboAdm.hlp"_q}) {
         for (const QString& link : allOf(readText(helpFile(name)), u"href=\"([^\"]*)\""_q)) {
             const QString file = link.section(u'#', 0, 0);
@@ -168,10 +156,9 @@ TEST_F(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
     EXPECT_FALSE(viewer());
 }
 
-TEST_F(HelpViewer, FindsAroundTheEndAndGoesBack) {
+TEST_F(HelpViewer, FindsAroundTheEnd) {
     (void)shown();
-    QWidget* const help = viewer()->window();
-    auto* const words = help->findChild<QLineEdit*>(u"txtFind"_q);
+    auto* const words = viewer()->window()->findChild<QLineEdit*>(u"txtFind"_q);
     const auto findsAt = [&](const QString& text) {
         words->setText(text);
         QTest::keyClick(words, Qt::Key_Return);
@@ -181,10 +168,6 @@ TEST_F(HelpViewer, FindsAroundTheEndAndGoesBack) {
     EXPECT_GT(findsAt(u"交通費"_q), first);
     while (findsAt(u"交通費"_q) > first) {
     }
-    help->findChild<QPushButton*>(u"cmdContents"_q)->click();
-    EXPECT_EQ(viewer()->source().fragment(), QString());
-    help->findChild<QPushButton*>(u"cmdBack"_q)->click();
-    EXPECT_EQ(viewer()->source().fragment(), u"frmKurbo"_q);
 }
 
 } // namespace
