@@ -113,10 +113,4 @@ TEST_F(Locks, ALinkInItsPlaceIsNeverFollowed) {
     EXPECT_EQ(QFile::permissions(theirs) & (QFile::ReadOther | QFile::ReadGroup), QFile::Permissions());
 }
 
-TEST_F(Locks, AFolderWithoutTheRightToWriteHasNoLockFile) {
-    const AsNobody nobody;
-    EXPECT_FALSE(first.join(database, in(1000), {}));
-    EXPECT_TRUE(first.waitTurn(in(100), {}));
-}
-
 } // namespace kurbo::test
