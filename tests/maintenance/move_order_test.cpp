@@ -31,8 +31,6 @@ TEST_F(Order, BeginsWithAYearThatHasPassed) {
             .join(u' ');
     };
     EXPECT_EQ(offered(), u"20260101 20260331 202512 202604"_q) << "a year is not over yet, and April is worked on";
-    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 20 WHERE F_StaffCode = '1002'"_q);
-    EXPECT_EQ(offered().section(u' ', 1, 1), u"20260320"_q);
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 10 WHERE F_StaffCode = '1002'"_q);
     EXPECT_EQ(firstRunningDay(connection, today), makeDay(2026, 4, 1)) << "the 11th has begun";
     desk.clock.set(at(*makeDay(2028, 5, 5), 9, 0));
@@ -49,12 +47,10 @@ TEST_F(Order, IsCheckedInItsOrder) {
          | 20260228 | 20251201 | 20260101 |               | 移動するデータの期間に年月日が設定されていません。
 20260210 | 20260101 | 20251201 | 20260101 |               | 不正な入力です。終了年月日を開始年月日以降に設定して下さい。
 20260101 | 20260416 | 20251201 | 20260101 |               | 明日以降のデータ、すなわち未到来のデータを移動する事はできません。
-20260101 | 20260415 | 20251201 | 20260101 |               |
 20260101 | 20260131 | 20251201 | 20260101 |               | 移動するデータは31日以上必要です。
 20260101 | 20260201 | 20251201 | 20260101 |               |
 20260105 | 20260228 | 20251201 |          |               | 移動するデータの期間に年月が設定されていません。
 20260105 | 20260228 | 20260201 | 20260101 |               | 不正な入力です。終了年月を開始年月以降に設定して下さい。
-20260105 | 20260228 | 20251201 | 20260401 |               |
 20260105 | 20260228 | 20251201 | 20260501 |               | 明日以降のデータ、すなわち未到来のデータを移動する事はできません。
 20260105 | 20260228 | 20251201 | 20260101 | /none/old.mdb | DBの移動先パスが見つかりません。
 )")) {
@@ -78,12 +74,9 @@ TEST_F(Order, APlaceThatCantTakeTheCopyIsRefused) {
           {". here/", u"移動先DBのファイル名が指定されていません。"_q}})
         for (const QString& name : QString::fromLatin1(names).split(u' '))
             EXPECT_EQ(refusedPlace(desk.file(QString(name).replace(u"%1"_q, parent))), refusal) << name;
-    replaceFile(desk.file(u"kept.mdb"_q), "read only");
-    QFile::setPermissions(desk.file(u"kept.mdb"_q), QFile::ReadOwner | QFile::ReadOther);
     {
         const AsNobody nobody;
-        for (const QString& place : {destination, desk.file(u"kept.mdb"_q)})
-            EXPECT_EQ(refusedPlace(place), u"移動先DBに書き込む事ができません。"_q);
+        EXPECT_EQ(refusedPlace(destination), u"移動先DBに書き込む事ができません。"_q);
     }
     connection.close();
     // A hole takes no room itself.
