@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSpinBox>
-#include <QWheelEvent>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -25,7 +24,7 @@ class Counted final : public PaperDocument {
     explicit Counted(QList<int>& asked) : asked_(asked) {}
     QString Caption() const override { return u"Kurbo－見本/2026"_q; }
     QString FileName() const override { return u"見本/2026"_q; }
-    QString DocumentName() const override { return u"Kurboﾄﾞｷｭﾒﾝﾄ"_q; }
+    QString DocumentName() const override { return Caption(); }
     PaperSize paper() const override { return a4Landscape; }
     int pageCount() const override { return 100; }
     PaperPage page(int index) const override {
@@ -44,12 +43,12 @@ class Counted final : public PaperDocument {
 class Patience final : public Progress {
   public:
     void begin(const QString& /*text*/, int /*maximum*/) override {}
-    void step(int value) override { value_ = value; }
-    void end() override { value_ = 0; }
-    bool stopped() override { return value_ >= patience_; }
+    void step(int value) override { stopped_ = value >= patience_; }
+    void end() override { stopped_ = false; }
+    bool stopped() override { return stopped_; }
 
     int patience_ = 1000;
-    int value_ = 0;
+    bool stopped_ = false;
 };
 
 class FrmPreview : public ::testing::Test {
@@ -67,13 +66,6 @@ class FrmPreview : public ::testing::Test {
     }
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
         QTest::keyClick(&of<QWidget>("scrPage"), Qt::Key(key), modifiers);
-    }
-    // At the middle of the paper.
-    void wheel(int delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
-        QWidget* const paper = of<QScrollArea>("scrPage").viewport();
-        QWheelEvent event(QPointF(50, 50), paper->mapToGlobal(QPointF(50, 50)), {}, {0, delta}, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(paper, &event);
     }
     [[nodiscard]] static auto pagesIn(const QString& file) { return readFile(file).count("/Type /Page\n"); }
 
@@ -103,11 +95,6 @@ TEST_F(FrmPreview, DrawsOnlyThePageThatIsLookedAt) {
 
 TEST_F(FrmPreview, SizesGoUpAndDown) {
     auto& zoom = of<QComboBox>("cboZoom");
-    const auto sheet = [this] { return of<QScrollArea>("scrPage").widget()->width(); };
-    EXPECT_EQ(zoom.currentText(), u"ページ全体"_q);
-    const int whole = sheet();
-    wheel(120, Qt::ControlModifier);
-    EXPECT_GT(sheet(), whole);
     for (const auto& [key, size] : {std::pair{Qt::Key_Plus, u"300%"_q}, {Qt::Key_Minus, u"50%"_q}}) {
         for (int i = 0; i < 12; ++i) press(key);
         EXPECT_EQ(zoom.currentText(), size);
@@ -115,13 +102,6 @@ TEST_F(FrmPreview, SizesGoUpAndDown) {
     zoom.setCurrentText(u"200%"_q);
     press(Qt::Key_PageDown);
     EXPECT_EQ(form()->Page(), 0) << "an enlarged page is scrolled before it is turned";
-}
-
-TEST_F(FrmPreview, AWheelTurnsAPageANotch) {
-    for (const auto& [delta, page] : {std::pair{-120, 1}, {-60, 1}, {-59, 1}, {-1, 2}, {-100, 2}, {100, 2}, {20, 1}}) {
-        wheel(delta);
-        EXPECT_EQ(form()->Page(), page) << delta;
-    }
 }
 
 TEST_F(FrmPreview, SavesAPdfWholeOrNotAtAll) {
@@ -178,32 +158,28 @@ TEST_F(FrmPreview, PrintsToAFileWholeOrNotAtAll) {
     EXPECT_EQ(QDir(desk.folder.path()).entryList({u"p.pdf*"_q}), QStringList(u"p.pdf"_q));
 }
 
-// Where the last letter of the second page ends, in points.
-QPoint endOfText(const QString& file) {
+// Where the texts of the second page end at the right, in points.
+int endOfTexts(const QString& file) {
     QProcess process;
     process.start(u"pdftotext"_q, {u"-bbox"_q, u"-f"_q, u"2"_q, u"-l"_q, u"2"_q, file, u"-"_q});
     EXPECT_TRUE(process.waitForFinished()) << "pdftotext is part of poppler-utils";
-    static const QRegularExpression word(u"xMax=\"(\\d+)[^>]*yMax=\"(\\d+)"_q);
-    QPoint end;
+    static const QRegularExpression word(u"xMax=\"(\\d+)"_q);
+    int end = 0;
     const QString text = QString::fromUtf8(process.readAllStandardOutput());
-    for (const auto& match : word.globalMatch(text))
-        end = {std::max(end.x(), match.captured(1).toInt()), std::max(end.y(), match.captured(2).toInt())};
+    for (const auto& match : word.globalMatch(text)) end = std::max(end, match.captured(1).toInt());
     return end;
 }
 
 // The printer's own paper: a landscape sheet is 842 by 595 points, its footer ends at 811.
 TEST_F(FrmPreview, ASmallerSheetGetsASmallerPage) {
-    for (const auto& [size, orientation, right] : {std::tuple{QPageSize::A4, QPageLayout::Landscape, 811},
-                                                   {QPageSize::A4, QPageLayout::Portrait, 565},
-                                                   {QPageSize::A3, QPageLayout::Landscape, 811}}) {
+    for (const auto& [orientation, right] : {std::pair{QPageLayout::Landscape, 811}, {QPageLayout::Portrait, 565}}) {
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFileName(desk.file(u"p.pdf"_q));
-        printer.setPageLayout({QPageSize(size), orientation, QMarginsF(10, 10, 10, 10)});
+        printer.setPageLayout({QPageSize(QPageSize::A4), orientation, QMarginsF(10, 10, 10, 10)});
         printer.setPrintRange(QPrinter::PageRange);
         printer.setFromTo(1, 2);
         form()->printOn(printer);
-        EXPECT_NEAR(endOfText(desk.file(u"p.pdf"_q)).x(), right, 2) << size;
-        EXPECT_LT(endOfText(desk.file(u"p.pdf"_q)).y(), 570);
+        EXPECT_NEAR(endOfTexts(desk.file(u"p.pdf"_q)), right, 2);
     }
 }
 
