@@ -10,8 +10,6 @@ namespace {
 
 TEST(DayTexts, AreReadBackAsWritten) {
     const Moment moment = at(*makeDay(2024, 2, 29), 8, 5, 9);
-    EXPECT_EQ(dateId(dayOf(moment)), u"20240229"_q);
-    EXPECT_EQ(slashMoment(moment), u"2024/02/29 08:05:09"_q);
     EXPECT_EQ(isoText(moment), "2024-02-29 08:05:09");
     EXPECT_EQ(parseDateId(u"20240229"_q), dayOf(moment));
     EXPECT_EQ(parseSlashMoment(u"2024/2/29 8:05:09"_q), moment);
