@@ -14,6 +14,11 @@ TEST(ReportRecords, CutsFieldsByBytesAndNeverHalfACharacter) {
     EXPECT_EQ(list.text(0, u"F_A") + list.text(0, u"F_B"), u"漢12:3"_q);
 }
 
+TEST(Report, ItsFileIsNamedByWhomAndWhen) {
+    EXPECT_EQ(reportFileName(u"t"_q, u"1001"_q, u"2026/04/21"_q, u"2026/05/20"_q), u"t_1001_202605"_q);
+    EXPECT_EQ(reportFileName(u"t"_q, {}, u"2026/05/01"_q, u"2026/05/30"_q), u"t_20260501-20260530"_q);
+}
+
 constexpr std::array columns{ReportColumn{u"F_Group", 20, -1, 0}, ReportColumn{u"F_Name", 20, 3, 1000},
                              ReportColumn{u"F_A", 8, 4, 700}, ReportColumn{u"F_B", 8, 5, 600},
                              ReportColumn{u"F_C", 8, 6, 500}};

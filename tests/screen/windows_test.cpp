@@ -124,23 +124,11 @@ TEST(HelpTexts, LeadSomewhere) {
     }
 }
 
-struct HelpViewer : ::testing::Test, Desk {
-    HelpViewer() {
-        window.setObjectName(u"frmKurbo"_q);
-        window.show();
-    }
-    // The place that the help shows on F1.
-    QString shown() {
-        openHelp(prompts, helpFile(u"Kurbo.hlp"_q), window);
-        return viewer() ? viewer()->source().fragment() : u"none"_q;
-    }
-    [[nodiscard]] QTextBrowser* viewer() const { return window.findChild<QTextBrowser*>(); }
-    void close() const { delete viewer()->window(); }
-
+TEST(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
+    Desk desk;
     QWidget window;
-};
-
-TEST_F(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
+    window.setObjectName(u"frmKurbo"_q);
+    window.show();
     for (const auto& [name, place] : {std::pair{u"mskStart"_q, u"frmKurbo.mskStart"_q},
                                       {u"optMonth_3"_q, u"frmKurbo.optMonth"_q},
                                       {u"nameless"_q, u"frmKurbo"_q}}) {
@@ -148,26 +136,15 @@ TEST_F(HelpViewer, OpensAtTheActiveControlOrWhatHoldsIt) {
         control.setObjectName(name);
         control.show();
         control.setFocus();
-        EXPECT_EQ(shown(), place);
-        close();
+        openHelp(desk.prompts, helpFile(u"Kurbo.hlp"_q), window);
+        auto* const viewer = window.findChild<QTextBrowser*>();
+        ASSERT_TRUE(viewer);
+        EXPECT_EQ(viewer->source().fragment(), place);
+        delete viewer->window();
     }
-    prompts.expect(lines(u"ヘルプファイル"_q, file(u"Kurbo.hlp"_q), u"が見つかりません。"_q));
-    openHelp(prompts, file(u"Kurbo.hlp"_q), window);
-    EXPECT_FALSE(viewer());
-}
-
-TEST_F(HelpViewer, FindsAroundTheEnd) {
-    (void)shown();
-    auto* const words = viewer()->window()->findChild<QLineEdit*>(u"txtFind"_q);
-    const auto findsAt = [&](const QString& text) {
-        words->setText(text);
-        QTest::keyClick(words, Qt::Key_Return);
-        return viewer()->textCursor().selectionStart();
-    };
-    const int first = findsAt(u"交通費"_q);
-    EXPECT_GT(findsAt(u"交通費"_q), first);
-    while (findsAt(u"交通費"_q) > first) {
-    }
+    const QString missing = desk.file(u"Kurbo.hlp"_q);
+    desk.prompts.expect(lines(u"ヘルプファイル"_q, missing, u"が見つかりません。"_q));
+    openHelp(desk.prompts, missing, window);
 }
 
 } // namespace

@@ -55,8 +55,6 @@ TEST_F(FrmAsign, ADeletedSettingShowsBlank) {
     desk.prompts.expect(question);
     trigger("mnuDelete");
     EXPECT_EQ(text("txtCloseDay") + text("dcbAccess") + text("txtPassword"), QString());
-    trigger("mnuPrint");
-    EXPECT_TRUE(desk.prompts.shownTexts().first().contains(u"         ﾊﾟｽﾜｰﾄﾞ：\n"_q));
 }
 
 // One person's values must never stand under another one's name.

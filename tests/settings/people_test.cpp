@@ -44,7 +44,6 @@ constexpr auto refusals = R"(
 2 | x           | 有給休暇残数が不正です。数値を入力して下さい。
 2 | -1.5        |
 3 | 1000        | 出社時刻調整時間が不正です。出社時刻調整時間は0～999(秒)の範囲で入力します。
-4 | -1          | 退社時刻調整時間が不正です。退社時刻調整時間は0～999(秒)の範囲で入力します。
 )";
 
 TEST_F(StaffSettingsTest, TheFirstRuleThatFailsIsTold) {

@@ -179,7 +179,6 @@ TEST_F(RecordListTest, NewRecordsDifferFromAllOthers) {
     for (const QStringList& row : rowsOf(R"(
 F_SectionName | 総務部    | 部課名を変更して下さい。/n同じ部課名が既に登録されています。
 F_SectionCode | s01       | 部課コードを変更して下さい。/n同じ部課コードが既に登録されています。
-F_SectionCode | MYSECTION | 部課コードが不正です。「MySection」はシステム予約コードです。
 F_StaffName   | 山田太郎  | 氏名を変更して下さい。/n同じ氏名が既に登録されています。
 F_StaffCode   | 1001      | 社員コードを変更して下さい。/n同じ社員コードが既に登録されています。
 )"))

@@ -171,8 +171,6 @@ TEST_F(FrmStaff, PeopleAreTypedCheckedAndStored) {
 
 TEST_F(FrmWorkStyle, ControlsFollowEachOther) {
     open();
-    click("chkFlex");
-    EXPECT_TRUE(of<QWidget>("mskTime").isEnabled());
     click("optMethod_1");
     EXPECT_FALSE(of<QWidget>("optEnter_0").isEnabled());
     click("chkAmFlex");

@@ -74,6 +74,7 @@ TEST_F(Locks, AnotherClientsFileIsLeftAlone) {
     first.leave();
     EXPECT_TRUE(there());
     EXPECT_FALSE(first.claim(database));
+    EXPECT_EQ(LockFile::nameFor(u"/a.mdb/STORE.MDB"_q), u"/a.mdb/STORE.LDB"_q) << "it is beside it, in its case";
 }
 
 TEST_F(Locks, ClaimIsForOneAloneAndOthersWait) {

@@ -101,6 +101,7 @@ TEST_F(Readers, SpansOfRecords) {
     addCard(1, *makeDay(2026, 1, 1), u"09:00"_q, QString());
     addCard(2, *makeDay(2026, 12, 31), u"09:00"_q, QString());
     EXPECT_EQ(RecordedDays(desk.context, connection), 364);
+    EXPECT_EQ(GetFirstMonth(desk.context, connection), makeDay(2026, 4, 1));
     insert("T05_Approved", "Year, Month", u"'2025', '11'), ('2026', '02'"_q);
     EXPECT_EQ(GetFirstMonth(desk.context, connection), makeDay(2025, 11, 1));
 }
