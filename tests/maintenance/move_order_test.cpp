@@ -1,5 +1,3 @@
-
-#include "base/system/files.h"
 #include "maintenance/old_days.h"
 #include "support/table.h"
 

@@ -9,7 +9,6 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QScrollArea>
 #include <QSpinBox>
 
 #include <csignal>
