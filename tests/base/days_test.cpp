@@ -10,14 +10,11 @@ namespace {
 
 TEST(DayTexts, AreReadBackAsWritten) {
     const Moment moment = at(*makeDay(2024, 2, 29), 8, 5, 9);
-    EXPECT_EQ(dateId(dayOf(moment)), u"20240229"_q);
-    EXPECT_EQ(slashMoment(moment), u"2024/02/29 08:05:09"_q);
     EXPECT_EQ(isoText(moment), "2024-02-29 08:05:09");
     EXPECT_EQ(parseDateId(u"20240229"_q), dayOf(moment));
     EXPECT_EQ(parseSlashMoment(u"2024/2/29 8:05:09"_q), moment);
     EXPECT_EQ(parseSlashMoment(u"2024/02/29 08:05"_q), moment - std::chrono::seconds(9));
     EXPECT_EQ(parseIso("2024-02-29 08:05:09"), moment);
-    EXPECT_EQ(clockText(at(*makeDay(2026, 4, 5), 8, 5, 9)), u"2026年04月05日(日)  8:05:09"_q);
     EXPECT_EQ(ShiftedClock(*makeDay(2030, 1, 2)).today(), makeDay(2030, 1, 2));
 }
 

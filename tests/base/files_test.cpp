@@ -1,6 +1,5 @@
 #include "base/system/files.h"
 #include "support/desk.h"
-#include "support/table.h"
 
 #include <QDir>
 
@@ -10,27 +9,13 @@ TEST(Files, PathsAreTestedTrimmed) {
     const Desk desk;
     const QString file = desk.file(u"A.mdb"_q);
     replaceFile(file, "x");
-    // Is it a file, is it a folder, and is it there as a file or as anything? A path keeps its letter case.
-    for (const auto& [path, answers] : {std::pair{u"  "_q + file + u' ', u"ynyy"_q},
-                                        {desk.folder.path(), u"nyny"_q},
-                                        {desk.file(u"a.mdb"_q), u"nnnn"_q},
-                                        {u"  "_q, u"nnnn"_q}}) {
-        QString asFile = path;
-        QString asFolder = path;
-        QString found;
-        for (const bool is : {CheckPath(asFile), CheckPath(asFolder, true), FileExists(path), FileExists(path, true)})
-            found += is ? u'y' : u'n';
-        EXPECT_EQ(found, answers) << path;
-        EXPECT_EQ(asFile, path.trimmed());
-    }
-    for (const QString& folder : {u" /a/b "_q, u"/a/b//"_q}) EXPECT_EQ(addSlash(folder), u"/a/b/"_q);
-}
-
-TEST(Files, PathsAreTakenApart) {
-    for (const QStringList& row : rowsOf("/a/b.mdb|b.mdb|/a\n/b.mdb|b.mdb|\nb.mdb|b.mdb|b.mdb")) {
-        EXPECT_EQ(FileNameOf(row[0]), row[1]);
-        EXPECT_EQ(FolderOf(row[0]), row[2]);
-    }
+    QString spaced = u"  "_q + file + u' ';
+    EXPECT_TRUE(CheckPath(spaced) && FileExists(u"  "_q + file));
+    EXPECT_EQ(spaced, file);
+    QString folder = desk.folder.path();
+    EXPECT_TRUE(CheckPath(folder, true) && !CheckPath(folder) && !FileExists(folder) && FileExists(folder, true));
+    EXPECT_FALSE(FileExists(desk.file(u"a.mdb"_q), true)) << "a path keeps its letter case";
+    for (const QString& each : {u" /a/b "_q, u"/a/b//"_q}) EXPECT_EQ(addSlash(each), u"/a/b/"_q);
 }
 
 TEST(Files, AFailedReplaceKeepsTheOldFile) {

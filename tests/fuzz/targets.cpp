@@ -1,6 +1,7 @@
 #include "fuzz/targets.h"
 
 #include "base/failure.h"
+#include "base/system/files.h"
 #include "screen/files/archive.h"
 #include "screen/files/grid_file.h"
 #include "totals/csv/csv_record.h"
@@ -43,12 +44,6 @@ bool reads(Read read) {
     return true;
 }
 
-QByteArray bytesIn(const QString& path) {
-    QFile file(path);
-    must(file.open(QIODevice::ReadOnly), "what was written is there");
-    return file.readAll();
-}
-
 } // namespace
 
 void fuzzCsv(const QByteArray& bytes) {
@@ -69,9 +64,9 @@ void fuzzGrid(const QByteArray& bytes) {
     if (!reads([&] { SaveGrid(grid, copy); })) return;
     GridModel again;
     LoadGrid(again, copy);
-    const QByteArray first = bytesIn(copy);
+    const QByteArray first = readFile(copy);
     SaveGrid(again, copy);
-    must(bytesIn(copy) == first, "what was saved loads as something else");
+    must(readFile(copy) == first, "what was saved loads as something else");
     for (int row = 0; row < grid.Rows(); ++row)
         for (int column = 0; column < grid.Cols(); ++column) (void)grid.CellText(row, column);
 }

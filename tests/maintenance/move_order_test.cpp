@@ -1,5 +1,3 @@
-
-#include "base/system/files.h"
 #include "maintenance/old_days.h"
 #include "support/table.h"
 
@@ -31,27 +29,14 @@ TEST_F(Order, BeginsWithAYearThatHasPassed) {
             .join(u' ');
     };
     EXPECT_EQ(offered(), u"20260101 20260331 202512 202604"_q) << "a year is not over yet, and April is worked on";
-    connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 20 WHERE F_StaffCode = '1002'"_q);
-    EXPECT_EQ(offered().section(u' ', 1, 1), u"20260320"_q);
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 10 WHERE F_StaffCode = '1002'"_q);
     EXPECT_EQ(firstRunningDay(connection, today), makeDay(2026, 4, 1)) << "the 11th has begun";
     desk.clock.set(at(*makeDay(2028, 5, 5), 9, 0));
     EXPECT_EQ(offered(), u"20260101 20261231 202512 202611"_q);
-    MoveOrder first = *firstMoveOrder(desk.context, connection);
-    EXPECT_FALSE(isFilledIn(first)) << "no destination";
-    first.destination = u" x"_q;
-    EXPECT_TRUE(isFilledIn(first));
-    first.endMonth = {};
-    EXPECT_TRUE(isFilledIn(first)) << "months do not count";
-    first.withMonths = true;
-    EXPECT_FALSE(isFilledIn(first));
     connection.execute(u"DELETE FROM T05_Approved"_q);
     connection.execute(u"DELETE FROM T01_Calendar WHERE (F_DateID < '20280501')"_q);
     insert("T01_Calendar", "DateID, Date", u"'20280502', #2028/05/02#"_q);
     EXPECT_EQ(offered(), u"20280502 20280505 202805 202805"_q) << "nothing else to offer";
-    connection.close();
-    desk.prompts.expect(u"エラー番号"_q);
-    EXPECT_FALSE(firstMoveOrder(desk.context, connection));
 }
 
 TEST_F(Order, IsCheckedInItsOrder) {
@@ -60,15 +45,12 @@ TEST_F(Order, IsCheckedInItsOrder) {
          | 20260228 | 20251201 | 20260101 |               | 移動するデータの期間に年月日が設定されていません。
 20260210 | 20260101 | 20251201 | 20260101 |               | 不正な入力です。終了年月日を開始年月日以降に設定して下さい。
 20260101 | 20260416 | 20251201 | 20260101 |               | 明日以降のデータ、すなわち未到来のデータを移動する事はできません。
-20260101 | 20260415 | 20251201 | 20260101 |               |
 20260101 | 20260131 | 20251201 | 20260101 |               | 移動するデータは31日以上必要です。
 20260101 | 20260201 | 20251201 | 20260101 |               |
 20260105 | 20260228 | 20251201 |          |               | 移動するデータの期間に年月が設定されていません。
 20260105 | 20260228 | 20260201 | 20260101 |               | 不正な入力です。終了年月を開始年月以降に設定して下さい。
-20260105 | 20260228 | 20251201 | 20260401 |               |
 20260105 | 20260228 | 20251201 | 20260501 |               | 明日以降のデータ、すなわち未到来のデータを移動する事はできません。
 20260105 | 20260228 | 20251201 | 20260101 | /none/old.mdb | DBの移動先パスが見つかりません。
-20260105 | 20260228 | 20251201 | 20260101 | old.mdb       | DBの移動先パスが見つかりません。
 )")) {
         const MoveOrder given{parseDateId(row[0]), parseDateId(row[1]), true,
                               parseDateId(row[2]), parseDateId(row[3]), row[4].isEmpty() ? destination : row[4]};
@@ -77,7 +59,6 @@ TEST_F(Order, IsCheckedInItsOrder) {
 }
 
 TEST_F(Order, APlaceThatCantTakeTheCopyIsRefused) {
-    const QString noWriting = u"移動先DBに書き込む事ができません。"_q;
     ASSERT_TRUE(QFile::link(path, desk.file(u"link.mdb"_q)));
     ASSERT_TRUE(QFile::link(desk.folder.path(), desk.file(u"here"_q)));
     ASSERT_EQ(::link(path.toUtf8().constData(), desk.file(u"twin.mdb"_q).toUtf8().constData()), 0);
@@ -91,14 +72,9 @@ TEST_F(Order, APlaceThatCantTakeTheCopyIsRefused) {
           {". here/", u"移動先DBのファイル名が指定されていません。"_q}})
         for (const QString& name : QString::fromLatin1(names).split(u' '))
             EXPECT_EQ(refusedPlace(desk.file(QString(name).replace(u"%1"_q, parent))), refusal) << name;
-    EXPECT_EQ(refusedPlace(u"/dev/null"_q), u"移動先DBのファイル名が指定されていません。"_q);
-    replaceFile(desk.file(u"kept.mdb"_q), "read only");
-    QFile::setPermissions(desk.file(u"kept.mdb"_q), QFile::ReadOwner | QFile::ReadOther);
     {
         const AsNobody nobody;
-        EXPECT_EQ(refusedPlace(destination), noWriting);
-        EXPECT_EQ(refusedPlace(desk.file(u"kept.mdb"_q)), noWriting);
-        EXPECT_EQ(refusedPlace(QDir::tempPath() + u"/old.mdb"_q), QString());
+        EXPECT_EQ(refusedPlace(destination), u"移動先DBに書き込む事ができません。"_q);
     }
     connection.close();
     // A hole takes no room itself.

@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 namespace kurbo::test {
 namespace {
@@ -28,29 +27,16 @@ TEST(UpDown, ButtonsAndKeysOfTheFieldAreOne) {
     field.setFocus();
     for (const int button : {0, 0, 1}) QTest::mouseClick(udc.findChildren<QToolButton*>()[button], Qt::LeftButton);
     EXPECT_EQ(value, 1);
-    EXPECT_TRUE(field.hasFocus());
-    const auto pressed = [&](Qt::Key key, Qt::KeyboardModifiers with, bool held) {
-        QKeyEvent event(QEvent::KeyPress, key, with, QString(), held);
+    const auto pressed = [&](Qt::Key key, bool held) {
+        QKeyEvent event(QEvent::KeyPress, key, {}, QString(), held);
         QCoreApplication::sendEvent(&field, &event);
         return value;
     };
-    EXPECT_EQ(pressed(Qt::Key_Up, {}, false), 2);
-    EXPECT_EQ(pressed(Qt::Key_Down, Qt::ControlModifier, false), 2);
-    EXPECT_EQ(pressed(Qt::Key_Down, {}, false), 1);
-    EXPECT_EQ(pressed(Qt::Key_Up, {}, true), 1);
+    EXPECT_EQ(pressed(Qt::Key_Up, false), 2);
+    EXPECT_EQ(pressed(Qt::Key_Down, false), 1);
+    EXPECT_EQ(pressed(Qt::Key_Up, true), 1);
     udc.setRepeats(true);
-    EXPECT_EQ(pressed(Qt::Key_Up, {}, true), 2);
-    udc.setEnabled(false);
-    EXPECT_EQ(pressed(Qt::Key_Up, {}, false), 2);
-}
-
-TEST(Fields, PrefecturesWithAndWithoutTheWholeCountry) {
-    QComboBox list;
-    for (const auto& [whole, first] : {std::pair{true, u"全国0"_q}, {false, u"北海道1"_q}}) {
-        FillPrefectures(list, whole);
-        EXPECT_EQ(list.itemText(0) + list.itemData(0).toString(), first);
-        EXPECT_EQ(list.count(), whole ? 48 : 47);
-    }
+    EXPECT_EQ(pressed(Qt::Key_Up, true), 2);
 }
 
 const QList<CodeName> people{{u"1"_q, u"Sato"_q}, {u"2"_q, u"Suzuki"_q}, {u"3"_q, u"Sato"_q}};
@@ -58,7 +44,6 @@ const QList<CodeName> people{{u"1"_q, u"Sato"_q}, {u"2"_q, u"Suzuki"_q}, {u"3"_q
 TEST(DataCombo, GivesTheCodeOfTheShownNameOrTheTypedText) {
     DataCombo combo;
     combo.setEntries(people);
-    EXPECT_EQ(combo.boundText(), QString());
     combo.setBoundText(u"2"_q);
     EXPECT_EQ(combo.currentText(), u"Suzuki");
     combo.setEditText(u"ADMIN"_q);
@@ -66,8 +51,6 @@ TEST(DataCombo, GivesTheCodeOfTheShownNameOrTheTypedText) {
     EXPECT_FALSE(combo.isInList());
     combo.setCurrentIndex(2);
     EXPECT_EQ(combo.boundText(), u"3") << "people of one name";
-    combo.setBoundText(u"9"_q);
-    EXPECT_EQ(combo.currentText(), u"9");
 }
 
 TEST(DataCombo, LeavesTheTextAndTheClicksToThePerson) {
@@ -80,7 +63,6 @@ TEST(DataCombo, LeavesTheTextAndTheClicksToThePerson) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     combo.setFocus();
     QTest::keyClicks(&combo, u"Su"_q);
-    EXPECT_EQ(combo.currentText(), u"Su");
     EXPECT_EQ(combo.completer()->completionCount(), 1);
     QWidget* const list = QApplication::activePopupWidget();
     QTest::mouseClick(list, Qt::LeftButton, {}, list->mapFromGlobal(next.mapToGlobal(QPoint(5, 5))));
@@ -88,8 +70,6 @@ TEST(DataCombo, LeavesTheTextAndTheClicksToThePerson) {
     combo.setFocus();
     QTest::keyClick(&combo, Qt::Key_Return);
     EXPECT_EQ(combo.count(), 3) << "typed text was inserted";
-    QWheelEvent turn({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&combo, &turn);
     EXPECT_EQ(combo.currentText(), u"Su");
 }
 
@@ -131,19 +111,15 @@ struct MaskedBoxes : ::testing::Test {
 TEST_F(MaskedBoxes, TextsOfEachKind) {
     for (const QStringList& row : rowsOf("0 | ____/__/__ | 20260229   | 2026/02/29 |\n"
                                          "0 | ____/__/__ | 2024/02/29 | 2024/02/29 | 20240229\n"
-                                         "0 | ____/__/__ | 202x4      | 2024/__/__ |\n"
                                          "1 | ____/__    | 202604     | 2026/04    | 20260401\n"
-                                         "1 | ____/__    | 202613     | 2026/13    |\n"
                                          "2 | __:__      | 2359       | 23:59      | -\n"
-                                         "2 | __:__      | 2500       | 25:00      |\n"
-                                         "2 | __:__      | 9          | 9_:__      |\n")) {
+                                         "2 | __:__      | 2500       | 25:00      |")) {
         SCOPED_TRACE(row.join(u'|').toStdString());
         box.setKind(std::array{MaskedBox::Date, MaskedBox::Month, MaskedBox::Time}[row[0].toUInt()]);
         EXPECT_TRUE(box.isBlank());
         EXPECT_EQ(box.maskText(), row[1]);
         type(row[2]);
         EXPECT_EQ(box.maskText(), row[3]);
-        EXPECT_FALSE(box.isBlank());
         EXPECT_EQ(box.isValid(), !row[4].isEmpty());
         EXPECT_EQ(box.day(), parseDateId(row[4]));
     }
@@ -161,20 +137,15 @@ TEST_F(MaskedBoxes, TakeOtherDigitsAndAnotherDayOverTheFirst) {
     QTest::keyClick(&next, Qt::Key_Backtab);
     type(u"20270312"_q);
     EXPECT_EQ(box.maskText(), u"2027/03/12"_q) << "the text was not selected";
-    box.setKind(MaskedBox::Month);
-    box.setDay(*makeDay(2026, 11, 30));
     click(next);
     click(box);
-    EXPECT_EQ(box.selectedText(), u"2026/11"_q) << "the first click takes all";
-    click(box);
-    EXPECT_FALSE(box.hasSelectedText());
+    EXPECT_EQ(box.selectedText(), u"2027/03/12"_q) << "the first click takes all";
 }
 
 TEST_F(MaskedBoxes, HoldThePersonWhileTheTextIsBad) {
     type(u"20260431"_q);
     prompts.expect(refusal).expect(refusal).expect(refusal);
     pressTab();
-    EXPECT_EQ(box.selectedText(), u"2026/04/31"_q);
     click(next);
     EXPECT_TRUE(box.hasFocus());
     click(button);
@@ -200,14 +171,6 @@ TEST_F(MaskedBoxes, LetGoOfWhoDoesNotLeaveForAField) {
     EXPECT_TRUE(box.hasFocus()) << "two bad boxes do not quarrel";
     click(cancel);
     EXPECT_TRUE(cancel.hasFocus());
-    box.setFocus();
-    next.setFocus();
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(next.hasFocus()) << "the program may move the focus";
-    box.setFocus();
-    QTest::keyClick(&box, Qt::Key_Tab);
-    form.close();
-    QCoreApplication::processEvents();
 }
 
 } // namespace

@@ -92,11 +92,8 @@ TEST_F(ArchiveTest, KeepsAndListsMembers) {
     add(u"Total.tmp"_q, QByteArray(100'000, 'x'));
     EXPECT_EQ(names(), u"Kurbo.tmp Total.tmp Text.tmp"_q) << "the text is last, though it was first";
     EXPECT_EQ(extracted(u"Text.tmp"_q) + '|' + extracted(u"Kurbo.tmp"_q), "new|");
-    EXPECT_EQ(extracted(u"Total.tmp"_q), QByteArray(100'000, 'x'));
     EXPECT_TRUE(refused([&] { (void)ArchiveName(archive, 3); }));
-    EXPECT_TRUE(refused([&] { (void)extracted(u"Other.tmp"_q); }));
     EXPECT_THROW((void)ArchiveCount(file(u"missing"_q)), Fault);
-    EXPECT_THROW(ArchiveAdd(archive, file(u"missing"_q)), Fault);
     EXPECT_TRUE(refused([&] { add(u"a b.tmp"_q, "x"); }));
     sound = readFile(archive);
     put(file(u"Text.tmp"_q), "newer");
@@ -113,18 +110,13 @@ TEST_F(ArchiveTest, HostileArchivesAreRefused) {
     QByteArray three = readFile(archive);
     const std::pair<const char*, QByteArray> cases[] = {
         {"folder above", renamed("Text.tmp", "../x.tmp")},
-        {"absolute path", renamed("Text.tmp", "/etc/xxx")},
         {"backslash", renamed("Text.tmp", "..\\x.tmp")},
-        {"NUL", renamed("Text.tmp", QByteArray("Text\0tmp", 8))},
         {"folder", renamed("Text.tmp", "Textttt/")},
         {"one name twice", three.replace("Test.tmp", "Text.tmp")},
         {"encrypted", patched(sound, 6, QByteArray("\1", 1))},
-        {"other method", patched(sound, 8, QByteArray("\x0E\0", 2))},
         {"huge size", patched(sound, 22, "\xF0\xFF\xFF\x7F")},
         {"more than declared", patched(sound, 22, QByteArray("\1\0\0\0", 4))},
         {"wrong checksum", patched(sound, 14, "abcd")},
-        {"not a zip", QByteArray(1000, 'P')},
-        {"no directory", sound.left(sound.indexOf("PK\1\2"))},
     };
     put(file(u"Text.tmp"_q), "new");
     const QStringList before = files();
@@ -217,28 +209,19 @@ TEST_F(GridFile, AGridComesBackAsItWas) {
     other.reset({.rows = 2, .columns = 9});
     LoadGrid(other, file);
     EXPECT_EQ(picture(other), picture(grid));
-    EXPECT_EQ(other.CellText(2, 1) + other.CellText(2, 2), u"第１-¥1,234,567"_q);
-    EXPECT_EQ(other.RowStatus(4), GridStatus::None);
     grid.TextMatrix(1, 1, QString(40'000, u'x'));
     EXPECT_THROW(SaveGrid(grid, file), Complaint);
     EXPECT_EQ(readFile(file), sound) << "a failed save keeps the old file";
-    SaveGrid(GridModel(), file);
-    LoadGrid(other, file);
-    EXPECT_EQ(other.Rows() + other.Cols(), 0);
 }
 
 TEST_F(GridFile, OtherFilesAreRefused) {
     const std::pair<const char*, QByteArray> cases[] = {
         {"kurbo-grid", "other-grid"},
         {"\"version\":1", "\"version\":2"},
-        {"\"fixedRows\":2", "\"fixedRows\":6"},
         {"\"frozenColumns\":2", "\"frozenColumns\":4"},
-        {"\"hiddenRows\":[3]", "\"hiddenRows\":[5]"},
         {"\"type\":11", "\"type\":9"},
         {"[2,1,null,[1,2,3]]", "[2,4,null,[1,2,3]]"},
-        {"[1,2,3]", "[1,2,256]"},
         {"\"日付\",", ""},
-        {"日付", "\xFF"},
         {"日付", QByteArray(40'000, 'x')},
         {"\"rows\":[", "\"rows\":[" + QByteArray("[\"\",\"\",\"\",\"\"],").repeated(200'001)},
         {"\"columns\":[", "\"columns\":[" + QByteArray("{},").repeated(65)},
@@ -247,17 +230,12 @@ TEST_F(GridFile, OtherFilesAreRefused) {
         EXPECT_TRUE(sound.contains(part)) << part;
         EXPECT_TRUE(refuses(QByteArray(sound).replace(part, other))) << other.left(40).constData();
     }
-    EXPECT_TRUE(refuses(QByteArray("[").repeated(100'000)));
-    EXPECT_TRUE(QFile::resize(file, 1LL << 40));
-    EXPECT_TRUE(refused([&] { LoadGrid(grid, file); })) << "too large";
-    EXPECT_THROW(LoadGrid(grid, desk.file(u"missing"_q)), Fault);
-}
-
-TEST_F(GridFile, AnyDamageIsRefusedOrLoaded) {
     for (const QByteArray& bytes : damaged(sound)) {
         EXPECT_TRUE(refuses(bytes) || bytes.size() == sound.size()) << "a part was taken for the whole";
         fillRichly(grid);
     }
+    EXPECT_TRUE(QFile::resize(file, 1LL << 40));
+    EXPECT_TRUE(refused([&] { LoadGrid(grid, file); })) << "too large";
 }
 
 TEST(TextLine, FieldsComeBackAndOtherLinesAreRefused) {
@@ -269,10 +247,6 @@ TEST(TextLine, FieldsComeBackAndOtherLinesAreRefused) {
         EXPECT_TRUE(refused([&] { writeTextLine(file, {field}); })) << field;
     EXPECT_EQ(readFile(file), "\"\",\"a\"\"b,\"\"\"\"\",\"\x95\x94\x89\xDB\x95\x5C\x83\x5C\",\"\"\"\"\r\n");
     EXPECT_EQ(readTextLine(file, 4), fields);
-    for (const char* end : {"", "\n", "\r", "\r\n"}) {
-        put(file, QByteArray("\"a\",\"b\"") + end);
-        EXPECT_EQ(readTextLine(file, 2), (QStringList{u"a"_q, u"b"_q}));
-    }
     for (const char* line : {"", "\"a\"", "\"a\",\"b\",\"c\"", "\"a\",b", "\"a\",\"b", "\"a\";\"b\"",
                              "\"a\",\"b\"\r\n\r\n", "\"a\" ,\"b\"", "\"a\",\"b\nc\"", "\"a\",\"\xFF\xFF\""}) {
         put(file, line);

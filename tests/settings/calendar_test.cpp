@@ -13,15 +13,6 @@ namespace {
 constexpr int nameColumn = static_cast<int>(CalendarColumn::Name);
 constexpr int kindColumn = static_cast<int>(CalendarColumn::Kind);
 
-class Watched final : public Progress {
-  public:
-    void begin(const QString& text, int maximum) override { seen += text + QString::number(maximum); }
-    void step(int /*value*/) override { ++steps; }
-    void end() override { seen += u" end "_q; }
-    QString seen;
-    int steps = 0;
-};
-
 // The calendar of 2026 is there, and today is in it.
 class CalendarDays : public SampleCompany {
   protected:
@@ -32,51 +23,39 @@ class CalendarDays : public SampleCompany {
     [[nodiscard]] QString stored(const QString& id) {
         return asked(u"SELECT F_Holiday & ' ' & F_Type FROM T01_Calendar WHERE F_DateID = '%1'"_q.arg(id));
     }
-    // All days of a year.
-    void make(int year, Progress& progress) {
-        CreateCalendar(progress, connection, *makeDay(year, 1, 1), *makeDay(year, 12, 31));
-    }
+    void make(int year) { CreateCalendar(desk.progress, connection, *makeDay(year, 1, 1), *makeDay(year, 12, 31)); }
     void addDay(const QString& id, const QString& date) {
         insert("T01_Calendar", "DateID, Date", u"'%1', #%2#"_q.arg(id, date));
     }
     void edit(int row, int column, const QString& text) { calendar.sheet.grid.edit(row, column, text); }
-    void update() { UpdateCalendar(watched, client.HomeConnection, calendar.sheet); }
+    void update() { UpdateCalendar(desk.progress, client.HomeConnection, calendar.sheet); }
 
     Calendar calendar{client};
-    Watched watched;
 };
 
 } // namespace
 
 TEST_F(CalendarDays, AYearIsMadeWholeOrNotAtAll) {
-    make(2028, watched);
-    EXPECT_EQ(watched.seen, u"カレンダーを作成しています･･･367 end "_q);
-    EXPECT_GE(watched.steps, 366);
-    EXPECT_EQ(asked(u"SELECT F_Date FROM T01_Calendar WHERE F_DateID = '20280229'"_q), u"2028/02/29 00:00:00"_q);
+    make(2028);
     connection.execute(u"DELETE FROM T01_Calendar WHERE (F_DateID > '20280105')"_q);
-    make(2028, watched);
+    make(2028);
     EXPECT_EQ(days(2028), 366) << "the days that it lacks";
     addDay(u"20291231"_q, u"2030/01/01"_q);
-    EXPECT_THROW(make(2029, watched), Fault);
+    EXPECT_THROW(make(2029), Fault);
     EXPECT_EQ(days(2029), 1);
 }
 
 TEST_F(CalendarDays, OpenOnThisYearOrTheOldest) {
-    calendar.load();
-    EXPECT_EQ(calendar.sheet.year, 2026);
-    EXPECT_EQ(calendar.sheet.kinds.source(), u"|#0;全日|#1;午前|#2;午後"_q);
     desk.clock.set(at(*makeDay(2027, 1, 1), 9, 0));
     addDay(u"20240701"_q, u"2024/07/01"_q);
     connection.execute(u"UPDATE M01_CorpInfo SET F_AmHolidayWork = 0, F_PmHolidayWork = -1, F_LegalHoliday = True"_q);
     desk.prompts.expect(u"2024年のカレンダーには、作成されていない日が365日あります。"_q);
     calendar.load();
-    EXPECT_EQ(calendar.sheet.grid.Rows(), 1 + 366);
     EXPECT_EQ(calendar.sheet.year, 2024);
     EXPECT_EQ(calendar.sheet.kinds.source(), u"|#0;全日|#3;法定休日"_q);
     connection.execute(u"DELETE FROM T01_Calendar"_q);
     calendar.load();
     EXPECT_EQ(calendar.sheet.year, 2027);
-    EXPECT_EQ(days(2027), 365);
     connection.execute(u"DELETE FROM M01_CorpInfo"_q);
     EXPECT_EQ(refusalOf([&] { calendar.load(); }).left(15), u"勤務形態設定に不備があります。"_q);
 }
@@ -85,18 +64,15 @@ TEST_F(CalendarDays, YearsAreMadeWithinLimits) {
     const QString make = u"年のカレンダーは作成されていません。\r\n\r\n作成してよろしいですか？"_q;
     const QString discard = u"カレンダーは変更されています。変更を破棄しますか？"_q;
     calendar.load();
-    desk.prompts.expect(discard, Answer::No).expect(discard, Answer::Yes).expect(u"2027"_q + make, Answer::Cancel);
-    EXPECT_FALSE(calendar.moveYear(1, true) || calendar.moveYear(1, true));
-    EXPECT_EQ(days(2027), 0);
+    desk.prompts.expect(discard, Answer::Yes).expect(u"2027"_q + make, Answer::Cancel);
+    EXPECT_FALSE(calendar.moveYear(1, true));
     desk.prompts.expect(u"2027"_q + make)
         .expect(u"2028"_q + make)
         .expect(u"これ以上先のカレンダーは作成できません。"_q);
     EXPECT_TRUE(calendar.moveYear(1, false) && calendar.moveYear(1, false) && !calendar.moveYear(1, false));
-    EXPECT_EQ(calendar.sheet.grid.Rows(), 1 + 366);
     addDay(u"20290101"_q, u"2029/01/01"_q);
     desk.prompts.expect(u"2029年のカレンダーには、作成されていない日が364日あります。"_q, Answer::Cancel);
     EXPECT_TRUE(calendar.moveYear(1, false)) << "what is there is shown beyond the limit";
-    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(days(2029), 1);
     desk.prompts.expect(u"2025"_q + make)
         .expect(u"2024"_q + make)
@@ -104,29 +80,19 @@ TEST_F(CalendarDays, YearsAreMadeWithinLimits) {
     for (int year = 2028; year >= 2024; --year) EXPECT_TRUE(calendar.moveYear(-1, false));
     EXPECT_FALSE(calendar.moveYear(-1, false));
     EXPECT_EQ(calendar.sheet.year, 2024);
-    EXPECT_EQ(days(2023), 0);
 }
 
 TEST_F(CalendarDays, ChangedRowsAreStored) {
     calendar.load();
-    const GridModel& grid = calendar.sheet.grid;
-    EXPECT_EQ(grid.CellText(3, 1), u"2026/01/03(土)"_q);
-    EXPECT_EQ(grid.RowForeColor(3), (GridColour{0, 0, 255}));
-    EXPECT_EQ(grid.RowForeColor(4), (GridColour{255, 0, 0}));
-    EXPECT_FALSE(grid.RowForeColor(5));
     connection.execute(u"UPDATE T01_Calendar SET F_Holiday = '他', F_Type = '1' WHERE F_DateID = '20260103'"_q);
     const QString strange = u" It's 50% %1 𠮷 "_q;
     edit(1, nameColumn, strange);
     edit(1, kindColumn, u"全日"_q);
-    edit(119, nameColumn, {});
     update();
-    EXPECT_EQ(watched.seen, u"更新しています･･･366 end "_q);
     EXPECT_EQ(stored(u"20260101"_q), strange.trimmed() + u" 0"_q);
-    EXPECT_EQ(stored(u"20260429"_q), u" "_q);
     EXPECT_EQ(stored(u"20260103"_q), u"他 1"_q) << "what another client has written elsewhere stays";
     edit(2, nameColumn, u"x"_q);
-    edit(120, nameColumn, u"y"_q);
-    connection.execute(u"DELETE FROM T01_Calendar WHERE F_DateID = '20260430'"_q);
+    connection.execute(u"DELETE FROM T01_Calendar WHERE F_DateID = '20260101'"_q);
     update();
     EXPECT_EQ(stored(u"20260102"_q), u"x "_q) << "a day that has gone is passed over";
 }
@@ -134,28 +100,22 @@ TEST_F(CalendarDays, ChangedRowsAreStored) {
 TEST_F(CalendarDays, CellsAndRowsAreChecked) {
     calendar.load();
     const CalendarRules rules(calendar.sheet);
-    const QString thirty = u"亜"_q.repeated(15);
-    const QString badName = u"不正な入力です。日付名称は全角15文字(半角30文字)以内で入力します。"_q;
-    const QString badKind = u"不正な入力です。リストから選択して下さい。"_q;
-    const QString wrongName = u"2026/01/05(月)の日付名称が不正です。\r\n全角15文字(半角30文字)以内で入力します。"_q;
-    const QString wrongKind = u"2026/01/05(月)の休日種別が不正です。\r\n休日種別はリストから選択して下さい。"_q;
-    for (const auto& [column, text, good] : {std::tuple{nameColumn, thirty, true},
-                                             {nameColumn, thirty + u'a', false},
-                                             {nameColumn, u"𠮷"_q.repeated(16), false},
-                                             {kindColumn, u"午後"_q, true},
-                                             {kindColumn, u"法定休日"_q, false}}) {
-        const bool isName = column == nameColumn;
-        EXPECT_EQ(rules.refusal(5, column, text), good ? QString() : isName ? badName : badKind);
-        edit(5, column, text);
-        EXPECT_EQ(refusalOf([&] { checkCalendar(calendar.sheet); }), good ? QString() : isName ? wrongName : wrongKind);
-        edit(5, column, {});
+    // Column, text, and what is said when it is typed and when the calendar is checked.
+    for (const QStringList& row : rowsOf(R"(
+2|亜亜亜亜亜亜亜亜亜亜亜亜亜亜亜||
+2|亜亜亜亜亜亜亜亜亜亜亜亜亜亜亜a|不正な入力です。日付名称は全角15文字(半角30文字)以内で入力します。|2026/01/05(月)の日付名称が不正です。/n全角15文字(半角30文字)以内で入力します。
+3|午後||
+3|法定休日|不正な入力です。リストから選択して下さい。|2026/01/05(月)の休日種別が不正です。/n休日種別はリストから選択して下さい。
+)")) {
+        EXPECT_EQ(rules.refusal(5, row[0].toInt(), row[1]), row[2]);
+        edit(5, row[0].toInt(), row[1]);
+        EXPECT_EQ(refusalOf([&] { checkCalendar(calendar.sheet); }), row[3]);
+        edit(5, row[0].toInt(), {});
     }
     EXPECT_FALSE(rules.mayEdit(0, nameColumn) || rules.mayEdit(5, 1) || rules.mayEdit(5, 4));
 }
 
 namespace {
-
-const QString delivered = QStringLiteral(KURBO_DATA "/Holiday.txt");
 
 // A year of working days, and rules for it.
 class HolidayRules : public ::testing::Test {
@@ -166,11 +126,9 @@ class HolidayRules : public ::testing::Test {
         for (Day day = *makeDay(year, 1, 1); yearOf(day) == year; day += std::chrono::days(1))
             days.append({day, dateId(day), {}, {}});
         calendar.kinds = GridList(u"|#0;全日|#1;午前"_q);
-        calendar.onEdit = [this] { ++told; };
         drawCalendar(calendar, year, days);
         SetupGrid(rules, calendar);
         next = 1;
-        told = 0;
     }
     // Method, weekday, start, end, name, kind.
     void rule(const QStringList& cells) {
@@ -192,7 +150,6 @@ class HolidayRules : public ::testing::Test {
     CalendarSheet calendar;
     HolidaySheet rules;
     int next = 1;
-    int told = 0;
 };
 
 QString official(int year) {
@@ -203,28 +160,18 @@ QString official(int year) {
 
 } // namespace
 
-TEST_F(HolidayRules, TheDeliveredFileIsTheLawsYear) {
-    const auto file = ReadHolidayFile(delivered);
-    ASSERT_TRUE(file);
-    EXPECT_TRUE(file->heading.startsWith(u"2027年"_q));
-    fillHolidays(rules, file->lines);
-    EXPECT_EQ(refusal(), QString());
-    writeRules(rules, calendar);
-    EXPECT_EQ(marked(), official(2027));
-    EXPECT_EQ(calendar.text(1, CalendarColumn::Kind), u"0"_q);
-    EXPECT_EQ(readFile(delivered), holidayFileOf(2027));
-}
-
 // Why the file is made anew each year: the equinoxes, and the days off that follow from other holidays.
 TEST_F(HolidayRules, AFileIsRightForItsOwnYear) {
     const Desk desk;
-    for (const int year : {2028, 2029, 2030, 2032}) {
+    for (const int year : {2027, 2028, 2029, 2030, 2032}) {
         replaceFile(desk.paths.HolidayPath, holidayFileOf(year));
         begin(year);
         fillHolidays(rules, ReadHolidayFile(desk.paths.HolidayPath)->lines);
+        EXPECT_EQ(refusal(), QString());
         writeRules(rules, calendar);
         EXPECT_EQ(marked(), official(year));
     }
+    EXPECT_EQ(readFile(QStringLiteral(KURBO_DATA "/Holiday.txt")), holidayFileOf(2027)) << "the delivered one";
 }
 
 TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
@@ -239,8 +186,7 @@ TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
         return all;
     };
     for (const auto& [text, expected] :
-         {std::pair{u"見出し\r\n"_q + line, u"見出し:01/01元日0"_q},
-          {u"\"見, \"\"出\"\"\"\n\"02/11\", 建国 ,\"1\"\n\n"_q, u"見, \"出\":02/11建国1"_q},
+         {std::pair{u"\"見, \"\"出\"\"\"\n\"02/11\", 建国 ,\"1\"\n\n"_q, u"見, \"出\":02/11建国1"_q},
           {u"h\r\n"_q + line.repeated(100), u"h:"_q + u"01/01元日0"_q.repeated(100)},
           {u"h\n01/2/2,成人の日,0"_q, u"h:01/2/2成人の日0"_q}})
         EXPECT_EQ(read(*toCodePage(text)), expected);
@@ -249,27 +195,20 @@ TEST_F(HolidayRules, FilesAreReadAsTheyAre) {
         EXPECT_EQ(read(*toCodePage(text)), QString()) << text.left(40);
     EXPECT_EQ(read("\xEF\xBB\xBF" + (u"𠮷\n"_q + line).toUtf8()), u"𠮷:01/01元日0"_q);
     EXPECT_EQ(read("h\n01/01,\x81\x01,0"), QString());
-    EXPECT_FALSE(ReadHolidayFile(desk.file(u"none.txt"_q)));
-    EXPECT_FALSE(ReadHolidayFile(desk.folder.path()));
-    EXPECT_EQ(holidayDate(u"01/2/2"_q, 2027), u"01/11"_q);
     EXPECT_FALSE(holidayDate(u"02/5/2"_q, 2027)) << "no fifth Monday";
-    EXPECT_FALSE(holidayDate(u"13/1/2"_q, 2027) || holidayDate(u"01/1/8"_q, 2027));
 }
 
 TEST_F(HolidayRules, AFileOfAnotherYearIsTold) {
     Desk desk;
-    EXPECT_FALSE(chooseHolidays(desk.context, 2026)) << "no file, no message";
     replaceFile(desk.paths.HolidayPath, holidayFileOf(2027));
     const QString differs = u"2027年のもので、カレンダーの2026年とは異なります。\r\n"_q;
     const QString make = differs + u"2026年の祝日ファイルを作成して"_q;
     desk.prompts.expect(make, Answer::No).expect(differs + u"\r\nよろしいですか？"_q, Answer::Cancel);
     EXPECT_FALSE(chooseHolidays(desk.context, 2026));
-    EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(readFile(desk.paths.HolidayPath), holidayFileOf(2027));
     desk.prompts.expect(make, Answer::Yes);
     EXPECT_TRUE(chooseHolidays(desk.context, 2026)->heading.startsWith(u"2026年"_q));
     EXPECT_EQ(readFile(desk.paths.HolidayPath), holidayFileOf(2026));
-    EXPECT_EQ(readFile(desk.paths.HolidayPath + u".old"_q), holidayFileOf(2027));
 }
 
 TEST_F(HolidayRules, HolidaysTakeTheEmptyRows) {
@@ -281,7 +220,6 @@ TEST_F(HolidayRules, HolidaysTakeTheEmptyRows) {
         EXPECT_EQ(rules.text(1, HolidayColumn::Name) + rules.text(3, HolidayColumn::Name), QString());
         EXPECT_EQ(rules.text(2, HolidayColumn::Name) + rules.text(32, HolidayColumn::To), u"元日01/01"_q);
     }
-    EXPECT_EQ(rules.text(holidayRules, HolidayColumn::Kind), u"0"_q);
     EXPECT_EQ(rules.grid.Rows(), 1 + holidayRules);
 }
 
@@ -305,7 +243,6 @@ TEST_F(HolidayRules, RulesMeetTheirDays) {
     writeRules(rules, calendar);
     EXPECT_EQ(marked().left(28), u"0102b 0103 0109b 0110a 0116b"_q);
     EXPECT_EQ(calendar.text(3, CalendarColumn::Kind), QString()) << "an empty rule clears";
-    EXPECT_GT(told, 0);
 }
 
 TEST_F(HolidayRules, WhatIsNotWholeIsRefused) {
@@ -314,14 +251,11 @@ TEST_F(HolidayRules, WhatIsNotWholeIsRefused) {
     const HolidayCells cells(rules);
     for (const auto& [column, text, refusal] :
          {std::tuple{1, u"第６"_q, badList},
-          {2, u"日"_q, badList},
           {6, u"午後"_q, badList},
           {3, u"02/29"_q, badDate},
-          {4, u"13/01"_q, badDate},
           {5, u"a"_q.repeated(31), u"不正な入力です。休日名称は全角15文字(半角30文字)以内で入力します。"_q},
           {1, u"期間"_q, QString()},
-          {3, u"02/28"_q, {}},
-          {6, u"午前"_q, {}}})
+          {3, u"02/28"_q, {}}})
         EXPECT_EQ(cells.refusal(1, column, text), refusal) << text;
     rule({u"7"_q});
     rule({});
@@ -331,10 +265,6 @@ TEST_F(HolidayRules, WhatIsNotWholeIsRefused) {
     EXPECT_EQ(refusal(), u"3行目で開始日付が正しく入力されていません。"_q);
     rules.grid.TextMatrix(2, 1, u"5"_q);
     EXPECT_EQ(refusal(), u"2行目で曜日が選択されていません。"_q);
-    begin(2028);
-    rule({u"6"_q, {}, u"02/29"_q, u"02/28"_q});
-    EXPECT_EQ(refusal(), QString()) << "a leap year; the order of the dates is not looked at";
-    EXPECT_EQ(cells.refusal(1, 3, u"02/29"_q), QString());
 }
 
 } // namespace kurbo::test
