@@ -19,7 +19,7 @@ constexpr auto displayFields = [] {
     std::ranges::transform(dayQuantities, fields.begin() + 1, &QuantityFacts::field);
     return fields;
 }();
-static_assert(displayFields.size() == WorkStyle::displays);
+static_assert(displayFields.size() == WorkStyle::displays, "the window needs a box for each");
 
 bool isBlank(const QString& time) {
     return time == u"__:__";
