@@ -1,16 +1,14 @@
 #include "card/edit/card_update.h"
 #include "card/monthly.h"
 #include "card/sheet.h"
-#include "store/file/database_file.h"
-#include "support/disaster.h"
-#include "support/sample_company.h"
+#include "support/database_disaster.h"
 
 namespace kurbo::test {
 namespace {
 
 constexpr int changedDays = 31;
 
-class CardDisaster : public SampleCompany {
+class CardDisaster : public DatabaseDisaster {
   protected:
     // A month of rows, far apart in the file; its last days have none yet.
     CardDisaster() {
@@ -29,43 +27,9 @@ class CardDisaster : public SampleCompany {
             if (day < stored) sheet.days[static_cast<std::size_t>(day)].day.kurboId = (day + 1) * rowsBetween;
             type(sheet, day, CardColumn::Plan, u"変更"_q);
         }
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        before = file.readAll();
-    }
-
-    void restore() {
-        QFile::remove(path + u"-journal"_q);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        EXPECT_EQ(file.write(before), before.size());
-    }
-    using Write = std::function<bool(const Context&, Connection&)>;
-    int countedAfterwards(const QStringList& counts) {
-        EXPECT_TRUE(checkDatabase(path).isEmpty());
-        connection.open(path, databasePassword());
-        int sum = 0;
-        for (const QString& statement : counts) sum += asked(statement).toInt();
-        connection.close();
-        return sum;
-    }
-    // What is counted is 0 before the writing and `all` after it.
-    void failAll(const Write& body, const QStringList& counts, int all, int fewestCalls) {
-        const auto write = [&](const Context& context) {
-            Connection own;
-            own.open(path, databasePassword());
-            return body(context, own);
-        };
-        const auto isWritten = [&] {
-            const int changed = countedAfterwards(counts);
-            EXPECT_TRUE(changed == 0 || changed == all);
-            return changed > 0;
-        };
-        failEverywhere(desk, {[this] { restore(); }, write, isWritten}, fewestCalls);
     }
 
     CardSheet sheet;
-    QByteArray before;
 };
 
 } // namespace
