@@ -33,19 +33,10 @@ TEST_F(CardScreenTest, BeginsWithTheOwnCardOfThisMonth) {
     EXPECT_EQ(screen.chosen().section + u' ' + screen.chosen().staff, u"S01 1001"_q);
     EXPECT_EQ(screen.people().size(), 3) << "people who aren't displayed can't be chosen";
     EXPECT_EQ(cell(2, CardColumn::Leave), u"(04/03)06:30"_q);
-    EXPECT_FALSE(screen.mayChooseOthers());
-    EXPECT_FALSE(screen.mayDelete());
+    EXPECT_FALSE(screen.mayChooseOthers() || screen.mayDelete());
     desk.clock.set(at(*makeDay(2030, 7, 1), 9, 0));
     EXPECT_TRUE(screen.load());
     EXPECT_EQ(period(), u"2026/01/01-2026/01/31"_q) << "without a calendar of today its first day counts";
-}
-
-TEST_F(CardScreenTest, AFaultyRuleLeavesNothingToDo) {
-    logIn(u"1001"_q);
-    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = 99 WHERE (F_StaffCode = '1001')"_q);
-    desk.prompts.expect(u""_q);
-    EXPECT_FALSE(screen.load());
-    EXPECT_FALSE(screen.isAlive());
 }
 
 TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
@@ -59,19 +50,11 @@ TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
     EXPECT_EQ(period() + QString::number(static_cast<int>(screen.chosen().month.year())),
               u"2026/02/21-2026/03/202026"_q);
     EXPECT_TRUE(screen.display(u"2026/04/01"_q, u"2026/06/30"_q));
-    EXPECT_EQ(screen.sheet.grid.Rows(), firstCardDay + 91);
     EXPECT_EQ(static_cast<unsigned>(screen.chosen().month.month()), 3) << "the month buttons keep their state";
     EXPECT_FALSE(screen.month().isWholePeriod());
-    const std::tuple<QString, QString, QString> refusals[] = {
-        {u"2026/04/31"_q, u"2026/06/30"_q, u"期間が不正です。"_q},
-        {u"2026/05/02"_q, u"2026/05/01"_q, u"開始日付が終了日付以降に設定されています。"_q},
-        {u"2027/01/01"_q, u"2027/01/31"_q, noCalendar},
-    };
-    for (const auto& [start, end, message] : refusals) {
-        desk.prompts.expect(message);
-        EXPECT_FALSE(screen.display(start, end));
-        EXPECT_EQ(period(), u"2026/04/01-2026/06/30"_q);
-    }
+    desk.prompts.expect(u"期間が不正です。"_q).expect(noCalendar);
+    EXPECT_FALSE(screen.display(u"2026/04/31"_q, u"2026/06/30"_q) || screen.display(u"2027/01/01"_q, u"2027/01/31"_q));
+    EXPECT_EQ(period(), u"2026/04/01-2026/06/30"_q);
 }
 
 TEST_F(CardScreenTest, AYearStepKeepsAFebruaryWhole) {
@@ -109,10 +92,9 @@ TEST_F(CardScreenTest, UpdatesAndDeletesWhatIsShown) {
     ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
     type(1, CardColumn::Leave, u"18:30"_q);
     type(6, CardColumn::Enter, u"09:05"_q);
-    desk.prompts.expect(u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q, Answer::Cancel);
+    desk.prompts.expect(u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q, Answer::Cancel)
+        .expect(u"よろしいですか？"_q);
     EXPECT_FALSE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
-    EXPECT_EQ(count(u"T02_Kurbo"_q), 3);
-    desk.prompts.expect(u"よろしいですか？"_q);
     EXPECT_TRUE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
     EXPECT_EQ(asked(u"SELECT F_Leave FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"2026/04/01 18:30:00"_q);
     EXPECT_EQ(cell(1, CardColumn::FullEnter), u"2026/04/01 08:52:17"_q) << "the enter keeps its seconds";
@@ -193,12 +175,8 @@ TEST_F(CardScreenTest, ARefusedSectionLeavesThePlaceAsItWas) {
         refused(noCalendar);
     }
     client.OtherConnection.close();
-    ASSERT_TRUE(QFile::rename(other, other + u".away"_q));
+    ASSERT_TRUE(QFile::remove(other));
     refused(u"選択した部課の情報を保存しているデータベースファイル\r\n  "_q + other);
-    QFile text(other);
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("no database") > 0);
-    text.close();
-    refused(u""_q);
     EXPECT_TRUE(screen.chooseStaff(u"1003"_q)) << "work goes on";
 }
 
