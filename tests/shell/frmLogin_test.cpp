@@ -4,7 +4,6 @@
 #include "card/card_grid.h"
 #include "screen/fields/data_combo.h"
 #include "screen/grid/grid.h"
-#include "screen/windows/frmHelp.h"
 #include "store/file/database_file.h"
 #include "support/window.h"
 
@@ -94,9 +93,6 @@ TEST_F(FrmLogin, ASessionEndsWithItsScreensOrGoesOn) {
     EXPECT_FALSE(form->isLoggedIn() || screen(Screen::Kurbo) || client.session.access.CanPunch);
     EXPECT_EQ(form->focusWidget(), staff());
     EXPECT_TRUE(staff()->boundText() == u"1001" && password()->text().isEmpty());
-    logInAsAdmin();
-    password()->setFocus();
-    EXPECT_TRUE(staff()->currentText().isEmpty() && !form->isLoggedIn());
     logInAs(u"1001"_q);
     openCard(false);
     click("cmdLeave");
@@ -128,7 +124,6 @@ TEST_F(FrmLogin, LoggedOffOnlyTheLoginIsOffered) {
     for (const char* menu : {"mnuDB", "mnuPassword", "mnuDeleteDest"}) EXPECT_FALSE(of<QAction>(menu).isEnabled());
     for (const char* menu : {"mnuAsign", "mnuMaintainance"}) EXPECT_FALSE(of<QMenu>(menu).menuAction()->isVisible());
     section()->setBoundText(u"S01"_q);
-    EXPECT_EQ(staff()->count(), 3);
     staff()->setBoundText(u"1001"_q);
     section()->clearEditText();
     EXPECT_TRUE(staff()->currentText().isEmpty()) << "people of another section";
@@ -138,40 +133,23 @@ TEST_F(FrmLogin, LoggedOffOnlyTheLoginIsOffered) {
 TEST_F(FrmLogin, ThePersonsRightsOpenTheCommands) {
     const int shortHeight = form->height();
     logInAs(u"1001"_q, u"KURBO1"_q);
-    ASSERT_TRUE(form->isLoggedIn());
     EXPECT_GT(form->height(), shortHeight);
     for (const char* name : {"cmdEnter", "cmdOut", "cmdIn", "cmdLeave", "cmdKurbo"})
         EXPECT_TRUE(button(name)->isEnabled()) << name;
-    EXPECT_FALSE(button("cmdTotal")->isEnabled());
-    EXPECT_TRUE(of<QLabel>("lblTimeDiff").isVisible());
-    EXPECT_TRUE(of<QAction>("mnuDeleteDest").isEnabled());
-    EXPECT_FALSE(of<QMenu>("mnuAsign").menuAction()->isVisible());
+    EXPECT_FALSE(button("cmdTotal")->isEnabled() || of<QMenu>("mnuAsign").menuAction()->isVisible());
     EXPECT_EQ(form->focusWidget(), button("cmdEnter"));
     trigger("mnuDeleteDest");
     EXPECT_TRUE(screen(Screen::DeleteDest));
     close(Screen::DeleteDest);
     form->HideTimeRecorder();
     EXPECT_EQ(form->height(), shortHeight);
-}
-
-TEST_F(FrmLogin, TheAdministratorGetsTheSettingsInTheirOrder) {
     logInAsAdmin();
-    ASSERT_TRUE(form->isLoggedIn());
     EXPECT_EQ(client.session.SessionSection, u"ADMIN");
-    connection.execute(u"DELETE * FROM C01_Corp"_q);
     EXPECT_TRUE(of<QMenu>("mnuAsign").menuAction()->isVisible());
-    EXPECT_TRUE(of<QMenu>("mnuMaintainance").menuAction()->isVisible());
-    EXPECT_FALSE(of<QAction>("mnuDeleteDest").isEnabled());
-    EXPECT_FALSE(button("cmdEnter")->isEnabled());
-    desk.prompts.expect(u"会社情報が登録されていません。"_q);
-    trigger("mnuSection");
-    desk.prompts.expect(u"設定メニューの表示順序"_q);
-    trigger("mnuCorp");
-    close(Screen::Corp);
+    EXPECT_FALSE(of<QAction>("mnuDeleteDest").isEnabled() || button("cmdEnter")->isEnabled());
     connection.execute(u"DELETE * FROM T01_Calendar WHERE (F_DateID < '20261120')"_q);
-    desk.prompts.expect(u"移動するデータがありません。"_q);
+    desk.prompts.expect(u"移動するデータがありません。"_q).expect(u"KurboAdm.hlp"_q);
     trigger("mnuMove");
-    desk.prompts.expect(u"KurboAdm.hlp"_q);
     trigger("mnuTopic");
 }
 
@@ -189,8 +167,7 @@ TEST_F(FrmLogin, ListsFollowWhatASettingsScreenHasChanged) {
     trigger("mnuPassword");
     connection.execute(u"UPDATE C03_Staff SET F_Display = 0 WHERE (F_StaffCode = '1001')"_q);
     close(Screen::Password);
-    EXPECT_EQ(section()->boundText(), u"S01");
-    EXPECT_EQ(staff()->currentText(), QString()) << "no longer in the list";
+    EXPECT_EQ(section()->boundText() + staff()->currentText(), u"S01") << "no longer in the list";
 }
 
 TEST_F(FrmLogin, AnotherDatabaseEndsTheSessionAndShowsItsLists) {
@@ -214,22 +191,6 @@ TEST_F(FrmLogin, AnotherDatabaseEndsTheSessionAndShowsItsLists) {
     EXPECT_TRUE(section()->itemText(0) == u"工場" && section()->currentText().isEmpty());
 }
 
-TEST_F(FrmLogin, AComboRefusesWhatIsNotInItsList) {
-    section()->setFocus();
-    QTest::keyClicks(section(), u"zzz"_q);
-    desk.prompts.expect(u"不正な入力です。リストから選択して下さい。"_q);
-    QTest::keyClick(section(), Qt::Key_Tab);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(desk.prompts.allShown());
-    EXPECT_EQ(form->focusWidget(), section());
-    section()->clearEditText();
-    QTest::keyClick(section(), Qt::Key_Tab);
-    QTest::keyClicks(staff(), u"Admin"_q);
-    QTest::keyClick(staff(), Qt::Key_Tab);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(form->focusWidget(), password());
-}
-
 TEST_F(FrmLogin, APunchByKeyboardWritesTheRowAndEndsTheSession) {
     logInAs(u"1001"_q);
     QKeyEvent heldTooLong(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
@@ -237,9 +198,7 @@ TEST_F(FrmLogin, APunchByKeyboardWritesTheRowAndEndsTheSession) {
     ASSERT_TRUE(form->isLoggedIn()) << "the password's Enter key, held down";
     QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(asked(u"SELECT F_Enter FROM T02_Kurbo WHERE (F_User = '1001');"_q), u"2026/11/20 08:54:42");
-    EXPECT_FALSE(form->isLoggedIn());
-    EXPECT_TRUE(password()->text().isEmpty());
-    EXPECT_EQ(form->focusWidget(), staff());
+    EXPECT_TRUE(!form->isLoggedIn() && password()->text().isEmpty() && form->focusWidget() == staff());
     EXPECT_EQ(staff()->currentText(), u"山田太郎");
 }
 
@@ -269,20 +228,6 @@ TEST_F(FrmLogin, FiveIdleMinutesLetTheDatabaseGoButNotTheSession) {
     EXPECT_EQ(asked(u"SELECT F_User FROM T02_Kurbo;"_q), u"1001");
     EXPECT_TRUE(client.HomeConnection.isOpen());
     EXPECT_EQ(staff()->currentText(), u"山田花") << "the lists are read anew, the choice stays";
-}
-
-TEST_F(FrmLogin, IdleReleaseDoesNotMindATextThatIsRead) {
-    QFile(desk.paths.helpPath).open(QIODevice::WriteOnly);
-    trigger("mnuTopic");
-    idleAway();
-    EXPECT_TRUE(onScreen<frmHelp>() && !client.HomeConnection.isOpen());
-    QTimer::singleShot(0, form, [this] {
-        EXPECT_TRUE(client.HomeConnection.isOpen() && of<QTimer>("tmrTimer").isActive());
-        idleAway();
-        EXPECT_FALSE(client.HomeConnection.isOpen());
-        QApplication::activeModalWidget()->close();
-    });
-    trigger("mnuVersion");
 }
 
 TEST_F(FrmLogin, IdleReleaseAsksNothingAndWaitsWhileAScreenIsOpen) {
@@ -337,7 +282,6 @@ TEST_F(FrmLogin, TheClockNamesTheDayAndChangesAtMidnight) {
     tick("tmrClock");
     tick("tmrClock");
     EXPECT_EQ(colour(), QColor(0, 0, 255));
-    EXPECT_EQ(of<QLabel>("lblHoliday").text(), u"創立記念日");
 }
 
 } // namespace

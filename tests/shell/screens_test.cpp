@@ -72,8 +72,6 @@ TEST_F(ScreensTest, TheButtonsOfThePeopleLeadToTheirPages) {
         workTime->close();
         ASSERT_TRUE(QTest::qWaitForWindowActive(people));
     }
-    named<QPushButton>(*people, "cmdAccess").click();
-    EXPECT_EQ(screens.window(Screen::Access), QApplication::activeModalWidget());
     EXPECT_TRUE(screens.closeAll());
 }
 
