@@ -46,30 +46,28 @@ const QString orderLines = u"の出退社時刻が不正です。\r\n退社時�
 } // namespace
 
 TEST_F(CardChecks, EachChangedDay) {
-    const struct {
-        QString plan, enter, leave;
-        CardColumn kindColumn;
-        QString kind, refusal;
-    } cases[] = {
-        {QString(15, u'予'), u"08:48"_q, u"08:48"_q, CardColumn::Paid, u"午前"_q, {}},
-        {QString(30, u'a'), {}, u"18:12"_q, CardColumn::Special, u"全日"_q, {}},
-        {{}, u"22:00"_q, u"(04/13)05:00"_q, CardColumn::Compens, u"午後"_q, {}},
-        {QString(16, u'予'), u"x"_q, {}, CardColumn::Paid, {}, planLine},
-        {{}, u"8:48"_q, u"x"_q, CardColumn::Paid, {}, enterLines},
-        {{}, u"08:48"_q, u"08:47"_q, CardColumn::Paid, u"x"_q, orderLines},
-        {{}, u"08:48"_q, u"1８:12"_q, CardColumn::Paid, {}, leaveLines},
-        {{}, {}, u"(04/31)18:12"_q, CardColumn::Paid, {}, leaveLines},
-        {{}, {}, {}, CardColumn::Paid, u"終日"_q, u"の有給休暇が不正です。\r\nリストから選択して下さい。"_q},
-        {{}, {}, {}, CardColumn::Special, u"0"_q, u"の特別休暇が不正です。\r\nリストから選択して下さい。"_q},
-        {{}, {}, {}, CardColumn::Compens, u"PM"_q, u"の代休が不正です。\r\nリストから選択して下さい。"_q},
-    };
-    for (const auto& c : cases) {
+    const QMap<QString, QString> refusals{
+        {u"plan"_q, planLine}, {u"enter"_q, enterLines}, {u"leave"_q, leaveLines}, {u"order"_q, orderLines}};
+    // Plan, enter and leave, a column of leaves and what stands there, and what is wrong.
+    for (const QStringList& row : rowsOf(R"(
+予予予予予予予予予予予予予予予   | 08:48 | 08:48        | 15 | 午前 |
+aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa   |       | 18:12        | 16 | 全日 |
+                                 | 22:00 | (04/13)05:00 | 17 | 午後 |
+予予予予予予予予予予予予予予予予 | x     |              | 15 |      | plan
+                                 | 8:48  | x            | 15 |      | enter
+                                 | 08:48 | 08:47        | 15 | x    | order
+                                 | 08:48 | 1８:12       | 15 |      | leave
+                                 |       | (04/31)18:12 | 15 |      | leave
+                                 |       |              | 15 | 終日 | の有給休暇が不正です。/nリストから選択して下さい。
+                                 |       |              | 16 | 0    | の特別休暇が不正です。/nリストから選択して下さい。
+                                 |       |              | 17 | PM   | の代休が不正です。/nリストから選択して下さい。
+)")) {
         drawDays(sheet, *makeDay(2026, 4, 10), 5);
-        type(sheet, 2, CardColumn::Plan, c.plan);
-        type(sheet, 2, CardColumn::Enter, c.enter);
-        type(sheet, 2, CardColumn::Leave, c.leave);
-        type(sheet, 2, c.kindColumn, c.kind);
-        EXPECT_EQ(dayly(), c.refusal.isEmpty() ? QString() : u"26/04/12(日)"_q + c.refusal);
+        type(sheet, 2, CardColumn::Plan, row[0]);
+        type(sheet, 2, CardColumn::Enter, row[1]);
+        type(sheet, 2, CardColumn::Leave, row[2]);
+        type(sheet, 2, static_cast<CardColumn>(row[3].toInt()), row[4]);
+        EXPECT_EQ(dayly(), row[5].isEmpty() ? QString() : u"26/04/12(日)"_q + refusals.value(row[5], row[5]));
     }
     sheet.grid.RowStatus(firstCardDay + 2, GridStatus::Updated);
     type(sheet, 3, CardColumn::Plan, u"会議"_q);

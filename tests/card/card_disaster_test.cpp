@@ -64,10 +64,7 @@ TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {
         }
         return failures;
     };
-    std::vector<pid_t> running;
-    running.reserve(clients);
-    for (int i = 0; i < clients; ++i) running.push_back(startChild([&] { return work(i); }));
-    for (const pid_t child : running) EXPECT_EQ(endOf(child), 0);
+    EXPECT_TRUE(runAtOnce(clients, work));
     EXPECT_TRUE(checkDatabase(path).isEmpty());
     connection.open(path, databasePassword());
     const QString added = u"FROM T02_Kurbo WHERE F_Plan = '追加'"_q;

@@ -64,10 +64,8 @@ TEST_F(CardFile, AFileOfNobodyKnownIsShownAndNoWayToOthersCards) {
     logIn(u"1003"_q);
     ASSERT_TRUE(screen.load());
     ASSERT_TRUE(load(file));
-    desk.prompts.expect(u"アクセス権がありません。"_q);
-    EXPECT_FALSE(screen.display(april, endOfApril));
-    desk.prompts.expect(u"アクセス権がありません。"_q);
-    EXPECT_FALSE(screen.chooseMonth(3));
+    desk.prompts.expect(u"アクセス権がありません。"_q).expect(u"アクセス権がありません。"_q);
+    EXPECT_FALSE(screen.display(april, endOfApril) || screen.chooseMonth(3));
     EXPECT_TRUE(screen.sheet.blnFileMode);
     saveCardFile(file, u"Kurbo.tmp"_q, grid, {u"S99"_q, u"9999"_q, selection[2], selection[3]});
     ASSERT_TRUE(load(file));

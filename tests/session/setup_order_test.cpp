@@ -47,16 +47,6 @@ User      | アクセス権が設定されていません。/n | M08_Access (F_A
     EXPECT_FALSE(allowed(Setting::User)) << "a failed test is reported once, and nothing is said to be missing";
 }
 
-TEST_F(SetupOrder, ANewSiteIsToldOfItsAdministrator) {
-    desk.prompts.expect(u"部課を空のままにして、氏名に ADMIN、パスワードに ADMIN と入力します。"_q);
-    greetNewSite(desk.context, connection);
-    connection.execute(u"UPDATE M02_StaffInfo SET F_Password = 'other'"_q);
-    greetNewSite(desk.context, connection);
-    connection.execute(u"UPDATE M02_StaffInfo SET F_Password = 'ADMIN'"_q);
-    connection.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName) VALUES ('1', '山田')"_q);
-    greetNewSite(desk.context, connection);
-}
-
 TEST_F(SetupOrder, TheCardNeedsMoreThanThirtyDaysInItsFirstMonth) {
     const auto fill = [this](Day from, int days) {
         connection.execute(u"DELETE * FROM T01_Calendar"_q);

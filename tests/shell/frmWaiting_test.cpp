@@ -36,8 +36,6 @@ TEST(FrmWaiting, AStepThatAsksIsStoppedByAClickOnTheBoxAlone) {
     EXPECT_EQ(pressed, 0);
     EXPECT_TRUE(clickIsSeen(&window));
     EXPECT_FALSE(window.isVisible());
-    window.begin(QString(), 3);
-    EXPECT_FALSE(window.stopped());
 }
 
 // Whoever works behind the box would lose its ground.
@@ -56,7 +54,6 @@ TEST(FrmWaiting, NoOtherWindowClosesAndTheOwnCrossStops) {
     EXPECT_FALSE(closed(other));
     EXPECT_TRUE(other && other->isVisible());
     EXPECT_TRUE(closed(&window));
-    EXPECT_TRUE(window.stopped());
     window.end();
     other->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -143,15 +143,6 @@ class NewSite : public ::testing::Test {
     void setPeople() {
         QWidget* const form = open("mnuUser", Screen::Asign);
 
-        // Who keeps the changes there keeps the session: the window would be left to the next person.
-        typeInto(&named<QWidget>(*form, "txtPaid"), u"11"_q);
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
-        named<QWidget>(window, "txtPassWord").setFocus();
-        QCoreApplication::processEvents();
-        EXPECT_TRUE(form->isVisible() && window.isLoggedIn());
-
         const auto set = [&](int row) {
             named<DataList>(*form, "dtsStaff").setCurrentRow(row);
             QCoreApplication::processEvents();

@@ -140,13 +140,6 @@ TEST_F(CsvExchange, AFailureStoresNothing) {
     desk.prompts.expect(u"エラー番号："_q).expect(failed);
     EXPECT_EQ(add({march, savedMonth(u"1002"_q, u"202603"_q)}).end, End::Failed);
     EXPECT_EQ(u"%1 %2"_q.arg(count(u"T05_Approved"_q)).arg(balance()), u"1 20"_q);
-    Connection other;
-    other.open(path, databasePassword());
-    const Transaction writing(other);
-    connection.setTimeout(std::chrono::milliseconds{200});
-    desk.prompts.expect(u"エラー番号：3260"_q).expect(failed);
-    EXPECT_EQ(add({march}).end, End::Failed);
-    EXPECT_EQ(count(u"T05_Approved"_q), 1);
 }
 
 TEST_F(CsvExchange, AFailingDiskStoresAllOrNothing) {

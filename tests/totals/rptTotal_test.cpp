@@ -60,30 +60,6 @@ TEST_F(RptTotal, GroupsAreMonthsOrPeople) {
               QStringList({u"一二三四五六七八九十 (1001)"_q, u"一二三四五六七八九十 (1002)"_q}));
 }
 
-TEST_F(RptTotal, CellsAreCutToTheirFields) {
-    fill({u"一二三四五六七八九xyz"_q, u"一二三四五六七八九xy"_q}, 1, true);
-    grid.TextMatrix(1, 4, u"123456:789"_q);
-    grid.TextMatrix(3, 4, u"1000:00(+12:00)"_q);
-    grid.TextMatrix(1, 3, u"12345"_q);
-    grid.TextMatrix(4, 3, u"21860"_q);
-    grid.TextMatrix(2, 4, u"21860:00(+2:00)"_q);
-    const PaperPage page = report().page(0);
-    EXPECT_FALSE(linesOf(page).join(u'|').contains(u'z')) << "21 bytes";
-    for (const QString& cut : {u"一二三四五六七八九xy"_q, u"123456:7"_q, u"1000:00"_q, u"1234"_q}) itemOf(page, cut);
-    for (const QString& sum : {u"21860"_q, u"21860:00(+2:00)"_q}) EXPECT_TRUE(itemOf(page, sum).bold) << "whole";
-}
-
-TEST_F(RptTotal, OnlyColumnsThatAreShownTakeRoom) {
-    fill({u"佐藤"_q}, 2, true);
-    for (int column = 6; column <= 20; ++column) grid.ColHidden(column, column != 19);
-    const rptTotal narrow = report();
-    const PaperPage page = narrow.page(0);
-    EXPECT_EQ(itemOf(page, u"遅刻"_q).left, itemOf(page, u"有給残数"_q).right());
-    EXPECT_FALSE(linesOf(page).join(u'|').contains(u"普通残業"_q));
-    EXPECT_EQ(itemOf(page, u"佐藤"_q).right(), itemOf(page, u"遅刻"_q).right());
-    expectClean(narrow);
-}
-
 TEST_F(RptTotal, AYearOfASectionGoesOverPages) {
     QStringList names;
     for (int i = 0; i < 20; ++i) names.append(u"社員%1"_q.arg(i));

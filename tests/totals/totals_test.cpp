@@ -77,12 +77,6 @@ TEST_F(TotalsTest, HaveSubTotalsByStaffAndByMonth) {
               QStringList({u"2026年 04月|山田太郎|8:30|20.0"_q, u"2026年 04月|鈴木花子|100:00|12.5"_q,
                            u"2026年 04月 小計||108:30|32.5"_q, u"2026年 05月|山田太郎|0:00|20.0"_q,
                            u"2026年 05月|鈴木花子||"_q, u"2026年 05月 小計||0:00|20.0"_q, u"合計||108:30|52.5"_q}));
-    // Over the turn of a year as well; without a calendar a month is a row of zeros.
-    everybody.from = 2026y / 12;
-    everybody.to = 2027y / 1;
-    EXPECT_EQ(shown(everybody).first(4),
-              QStringList({u"2026年 12月|山田太郎|0:00|20.0"_q, u"2026年 12月|鈴木花子|0:00|20.0"_q,
-                           u"2026年 12月 小計||0:00|40.0"_q, u"2027年 01月|山田太郎|0:00|20.0"_q}));
 }
 
 TEST_F(TotalsTest, CarryAShiftOverTheStartOfAMonth) {
@@ -96,10 +90,8 @@ TEST_F(TotalsTest, CarryAShiftOverTheStartOfAMonth) {
         return shown(everybody).filter(u"山田太郎|2026年 04月"_q);
     };
     const QStringList carried{u"山田太郎|2026年 04月|2:00|20.0"_q};
-    for (const year_month from : {april(), year_month(2026y / 3), year_month(2026y / 2)}) {
-        EXPECT_EQ(ofApril(from, {}), carried);
-        EXPECT_EQ(ofApril(from, u"1001"_q), carried);
-    }
+    for (const year_month from : {april(), year_month(2026y / 3)})
+        for (const QString& staff : {QString(), u"1001"_q}) EXPECT_EQ(ofApril(from, staff), carried);
     // The row before the month lies in a month that is saved.
     save(u"1001"_q, u"202603"_q, u"60"_q, u"1"_q);
     EXPECT_EQ(ofApril(2026y / 2, {}), carried);
