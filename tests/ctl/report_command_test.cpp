@@ -53,14 +53,11 @@ TEST_F(ReportCommand, RefusesAndFailsByItsExit) {
     // The exit, the file, the arguments, and what is told.
     for (const QStringList& row : rowsOf(R"(
 1 | r.pdf     | card --staff 9999 --month 2026/04 |
-2 | r.pdf     | goout --staff 1001 |
-2 | r.pdf     | card --month 2026/04 |
 2 | r.pdf     | novel --staff 1001 |
 2 | store.mdb | card --staff 1001 --month 2026/04 |
 3 | no/r.pdf  | card --staff 1001 --month 2026/04 | パスが見つかりません。
 2 | r.pdf     | goout --staff 1001 --from 2026/04/30 --to 2026/04/01 | --to lies before --from
 2 | r.pdf     | card --staff 1001 --month 2026/04 --from 2026/04/01 --to 2026/04/30 |
-2 | r.pdf     | totals --staff 1001 --from 2026/04 --to 2026/04 --month 2026/04 |
 1 |           | card --staff 1001 --month 2026/04 | ファイルではないため
 )")) {
         const Outcome outcome = report(row[2], row[1]);

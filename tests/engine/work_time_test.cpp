@@ -1,6 +1,5 @@
 #include "engine/work_time.h"
 
-#include "base/failure.h"
 #include "support/desk.h"
 #include "support/table.h"
 

@@ -1,6 +1,5 @@
 #include "month/day_loop.h"
 
-#include "base/failure.h"
 #include "month/quantities.h"
 #include "support/desk.h"
 #include "support/table.h"

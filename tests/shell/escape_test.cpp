@@ -1,6 +1,5 @@
 #include "card/card_office.h"
 #include "card/frmKurbo.h"
-#include "settings/calendar/frmCalendar.h"
 #include "settings/records/frmStaff.h"
 #include "shell/login/frmLogin.h"
 #include "support/typing.h"
@@ -35,7 +34,6 @@ TEST_F(CardOffice, EscClosesAListBeforeItsWindow) {
     leaveLists(new frmKurbo(client));
     leaveLists(new frmTotal(client));
     leaveLists(new frmStaff(client));
-    leaveLists(new frmCalendar(client));
 }
 
 } // namespace kurbo::test

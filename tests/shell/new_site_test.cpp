@@ -95,7 +95,6 @@ class NewSite : public ::testing::Test {
             fill(form, {{"txtName", name}, {"txtKana", u"ｶﾅ"_q}, {"txtCode", code}, {"dcbSection", section}});
             tick(form, {"chkDisplay"});
             update(form);
-            EXPECT_TRUE(form->findChild<QStatusBar*>()->currentMessage().contains(u"社員設定"_q));
         }
         close(form);
     }

@@ -2,7 +2,6 @@
 #include "shell/login/frmLogin.h"
 #include "support/sample_company.h"
 
-#include <QFile>
 #include <QTest>
 
 namespace kurbo::test {

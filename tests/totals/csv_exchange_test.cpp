@@ -8,15 +8,6 @@ namespace {
 
 using End = CsvAdded::End;
 
-// Counts the steps.
-class Steps final : public Progress {
-  public:
-    void begin(const QString& /*text*/, int maximum) override { log += u"(%1"_q.arg(maximum); }
-    void step(int value) override { log += u" %1"_q.arg(value); }
-    void end() override { log += u')'; }
-    QString log;
-};
-
 // Another client writes while a message stands on the screen.
 class WritingPrompts final : public Prompts {
   public:
@@ -40,7 +31,7 @@ class CsvExchange : public DatabaseDisaster {
     CsvAdded add(
         const QList<MonthRecord>& months, OnExisting onExisting = OnExisting::Overwrite,
         const TakeStop& takeStop = [] { return false; }) {
-        return addToDatabase(context, connection, months, onExisting, takeStop);
+        return addToDatabase(desk.context, connection, months, onExisting, takeStop);
     }
     QList<MonthRecord> saved(const QString& staff = {}) {
         return savedMonths(connection, {u"S01"_q, staff, u"202601"_q, u"202612"_q});
@@ -49,8 +40,6 @@ class CsvExchange : public DatabaseDisaster {
         return asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '%1')"_q.arg(staff));
     }
 
-    Steps steps;
-    Context context{desk.prompts, desk.clock, desk.paths, steps};
     const MonthRecord march = savedMonth(u"1001"_q, u"202603"_q);
 };
 
@@ -121,7 +110,8 @@ TEST_F(CsvExchange, AStopUndoesAllBeforeItAsks) {
     const auto stopOnce = [&] { return ++calls == 3; };
     WritingPrompts prompts(path);
     EXPECT_EQ(
-        addToDatabase({prompts, desk.clock, desk.paths, steps}, connection, months, OnExisting::Skip, stopOnce).end,
+        addToDatabase({prompts, desk.clock, desk.paths, desk.progress}, connection, months, OnExisting::Skip, stopOnce)
+            .end,
         End::Abandoned);
     EXPECT_EQ(prompts.written, 2) << "nobody waits for the answers to the question and the message";
     EXPECT_EQ(u"%1 %2"_q.arg(count(u"T05_Approved"_q)).arg(balance()), u"0 20"_q);
@@ -129,7 +119,6 @@ TEST_F(CsvExchange, AStopUndoesAllBeforeItAsks) {
     desk.prompts.expect(u"処理を中止しますか？"_q, Answer::Cancel);
     EXPECT_EQ(add(months, OnExisting::Skip, stopOnce).stored, 3) << "from the beginning again";
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
-    EXPECT_EQ(steps.log, u"(3 1 2 3)(3 1 2 3)(3 1 2 3)"_q);
 }
 
 TEST_F(CsvExchange, AFailureStoresNothing) {

@@ -4,7 +4,6 @@
 #include "paper/frmPreview.h"
 #include "screen/fields/data_combo.h"
 #include "screen/fields/masked_box.h"
-#include "screen/grid/grid.h"
 #include "support/window.h"
 #include "totals/csv/csv_file.h"
 

@@ -39,7 +39,6 @@ class RptTotal : public ::testing::Test {
     }
 
     TotalSheet sheet;
-    GridModel& grid = sheet.grid;
 };
 
 TEST_F(RptTotal, GroupsAreMonthsOrPeople) {
@@ -76,10 +75,6 @@ TEST_F(RptTotal, AYearOfASectionGoesOverPages) {
         EXPECT_EQ(begins(year, year.pageCount() - 1).last(), u"14400|240:00|1560.0|240:00"_q);
         expectClean(year);
     }
-    grid.Rows(1);
-    const rptTotal none = report();
-    EXPECT_EQ(none.pageCount(), 1);
-    EXPECT_EQ(begins(none, 0), QStringList());
 }
 
 } // namespace

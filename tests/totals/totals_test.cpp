@@ -142,8 +142,6 @@ TEST_F(TotalsTest, FillTheGridWithRecordsAndCalculatedMonths) {
 }
 
 TEST_F(TotalsTest, RecordsBelongToTheirSectionAndCalculatedMonthsToItsPeopleOfToday) {
-    connection.execute(
-        u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_Display) VALUES ('S02', 'x', True)"_q);
     connection.execute(u"UPDATE C03_Staff SET F_Section = 'S02' WHERE (F_StaffCode IN ('1002', '1003'))"_q);
     connection.execute(u"UPDATE C03_Staff SET F_Display = True WHERE (F_StaffCode = '1004')"_q);
     save(u"1004"_q, u"202604"_q, u"60"_q, u"1"_q);
@@ -156,9 +154,6 @@ TEST_F(TotalsTest, RecordsBelongToTheirSectionAndCalculatedMonthsToItsPeopleOfTo
     EXPECT_EQ(shown(everybody).filter(u"高橋三郎|"_q), QStringList{u"高橋三郎|2026年 05月|0:00|20.0"_q});
     everybody.staff = u"1004"_q;
     EXPECT_EQ(shown(everybody).filter(u"年"_q), QStringList{u"高橋三郎|2026年 05月|2:00|1.0"_q});
-    // Nobody, and no month.
-    EXPECT_EQ(shown({u"S09"_q, {}, april(), april(), true}), QStringList());
-    EXPECT_EQ(shown({u"S01"_q, {}, 2026y / 5, april(), true}), QStringList());
 }
 
 TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
@@ -173,17 +168,13 @@ TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
     for (const int step : {0, 1, 2}) {
         ClosedAt progress(step);
         EXPECT_FALSE(ShowTotal({desk.prompts, desk.clock, desk.paths, progress}, connection, other, sheet));
-        EXPECT_TRUE(isOld()) << step;
-        EXPECT_EQ(progress.open, 0);
+        EXPECT_TRUE(isOld() && progress.open == 0) << step;
     }
     // A leave before its enter is told by the calculation itself.
     connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 08:00:00#"_q);
     desk.prompts.expect(u"退社時刻が出社時刻より前に設定されています。"_q);
     EXPECT_FALSE(ShowTotal(desk.context, connection, other, sheet));
     EXPECT_EQ(desk.prompts.last().title, u"clsWorkTime－ShowTotal"_q);
-    connection.execute(u"UPDATE M01_CorpInfo SET F_RoundUnit = Null"_q);
-    desk.prompts.expect(u"時間計算方法設定に不備があります。"_q);
-    EXPECT_FALSE(ShowTotal(desk.context, connection, other, sheet));
     EXPECT_TRUE(isOld());
 }
 
@@ -191,10 +182,10 @@ TEST_F(TotalsTest, NameThoseWhoseRulesAreAtFaultAndShowTheOthers) {
     // Those of a person whose months are all saved are not asked for.
     connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode IN ('1002', '1003'))"_q);
     desk.prompts.expect(u"次の社員の月次集計は計算できません。\r\n\r\n佐藤次郎 (1003)\r\n平日勤務時間設定に不備が"_q);
-    const QStringList rows = shown(everybody);
-    EXPECT_EQ(rows, QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎 小計||8:30|20.0"_q,
-                                 u"鈴木花子|2026年 04月|100:00|12.5"_q, u"鈴木花子 小計||100:00|12.5"_q,
-                                 u"佐藤次郎|2026年 04月||"_q, u"佐藤次郎 小計|||"_q, u"合計||108:30|32.5"_q}));
+    EXPECT_EQ(shown(everybody),
+              QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎 小計||8:30|20.0"_q,
+                           u"鈴木花子|2026年 04月|100:00|12.5"_q, u"鈴木花子 小計||100:00|12.5"_q,
+                           u"佐藤次郎|2026年 04月||"_q, u"佐藤次郎 小計|||"_q, u"合計||108:30|32.5"_q}));
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = Null WHERE (F_StaffCode = '1001')"_q);
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 29 WHERE (F_StaffCode = '1003')"_q);
     everybody.to = 2026y / 5;
