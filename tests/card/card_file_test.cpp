@@ -43,9 +43,7 @@ TEST_F(CardFile, ShowsAgainWhatWasSavedAndForbidsTheRest) {
     insert("T05_Approved", "Staff, Year, Month, PersonalApproval, SuperiorApproval",
            u"'1003', '2026', '03', True, True"_q);
     ASSERT_TRUE(screen.chooseStaff(u"1003"_q) && screen.chooseMonth(3) && screen.month().superiorApproval());
-    const int before = screen.chosen().periodChanges;
     ASSERT_TRUE(load(file));
-    EXPECT_GT(screen.chosen().periodChanges, before) << "the boxes show the file's dates";
     EXPECT_FALSE(screen.month().personalApproval() || screen.month().superiorApproval()) << "marks of the card before";
     EXPECT_EQ(shown(), u"S01 1001 2026/04/01 08:52"_q);
     EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, 4) || screen.month().mayUpdate());
@@ -60,6 +58,11 @@ TEST_F(CardFile, AFileOfNobodyKnownIsShownAndNoWayToOthersCards) {
     saved();
     GridModel grid;
     const QStringList selection = loadCardFile(file, u"Kurbo.tmp"_q, cardColumns, grid);
+    saveCardFile(file, u"Kurbo.tmp"_q, grid, {u"S01"_q, u"1004"_q, selection[2], selection[3]});
+    ASSERT_TRUE(load(file));
+    desk.prompts.expect(u"アクセス権がありません。"_q);
+    EXPECT_FALSE(screen.display(april, endOfApril)) << "whom the list doesn't hold";
+    saveCardFile(file, u"Kurbo.tmp"_q, grid, selection);
     connection.execute(u"UPDATE M02_StaffInfo SET F_Access = 1 WHERE (F_StaffCode = '1003')"_q);
     logIn(u"1003"_q);
     ASSERT_TRUE(screen.load());

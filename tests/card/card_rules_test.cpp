@@ -68,7 +68,6 @@ TEST_F(CardRulesTest, JudgesAnEntry) {
     for (const QStringList& row : rowsOf(R"(
 4 | 3  | あいうえおかきくけこさしすせそ  |
 4 | 3  | あいうえおかきくけこさしすせそa | 全角15文字
-4 | 4  | 8:48         |
 4 | 4  | ０８:48      | 時刻を入力して下さい。/n出社時刻は
 4 | 5  | (02/01)06:00 |
 4 | 5  | (13/01)06:00 | (01/31)18:12
@@ -77,7 +76,6 @@ TEST_F(CardRulesTest, JudgesAnEntry) {
 3 | 3  | ２０         | 数値(半角)
 3 | 4  | 170:30       |
 3 | 4  | 170.5        | 時間はh:mm形式(半角)
-3 | 14 | -1:30        |
 )")) {
         const QString refusal = cells.refusal(row[0].toInt(), row[1].toInt(), row[2]);
         EXPECT_TRUE(refusal.isEmpty() == row[3].isEmpty() && refusal.contains(row[3])) << row[2] << refusal;

@@ -147,15 +147,5 @@ TEST_F(FrmGoOut, ItGoesBeforeOutingsThatMayNotBeSeen) {
     EXPECT_FALSE(outings());
 }
 
-// Not only when the form is opened anew.
-TEST_F(FrmGoOut, ItsPreviewGoesWithIt) {
-    open();
-    named<QPushButton>(*outings(), "cmdPrint").click();
-    const QPointer<frmPreview> preview = outings()->findChild<frmPreview*>();
-    ASSERT_TRUE(preview && preview->isVisible());
-    EXPECT_TRUE(outings()->close());
-    EXPECT_FALSE(preview && preview->isVisible());
-}
-
 } // namespace
 } // namespace kurbo::test

@@ -78,16 +78,12 @@ TEST_F(GoOutTest, CellsTakeTimesShortNamesAndMoney) {
     };
     for (const QStringList& row : rowsOf(R"(
 3 | 09:05    |
-4 | 23:59:59 |
 3 | 9:05     | time
-4 | 24:00    | time
 4 | 09：05   | time
 5 | あいうえおかきくけこさしすせそ  |
 5 | あいうえおかきくけこさしすせそa | place
 6 | 1,200    |
-6 | -50      |
 6 | 千円     | money
-6 | 1e12     | money
 )"))
         EXPECT_EQ(grid().rules()->refusal(2, row[0].toInt(), row[1]), refusals.value(row[2])) << row[1];
 }
@@ -210,7 +206,9 @@ TEST_F(SampleCompany, TheSameNewPlaceIsTypedByManyAtOnce) {
         }
         return 0;
     };
-    EXPECT_TRUE(runAtOnce(people, person));
+    std::vector<pid_t> running;
+    for (int i = 0; i < people; ++i) running.push_back(startChild([&] { return person(i); }));
+    for (const pid_t child : running) EXPECT_EQ(endOf(child), 0);
     connection.open(path, databasePassword());
     EXPECT_EQ(asked(u"SELECT Count(*) FROM T04_Destination INNER JOIN (T02_Kurbo INNER JOIN T03_GoOut ON "
                     "T02_Kurbo.F_KurboID = T03_GoOut.F_KurboID) ON T04_Destination.F_DestCode = "

@@ -47,9 +47,7 @@ sql @store.mdb --format xml
 punch @store.mdb enter
 punch @store.mdb dance --staff 1 --password x
 punch @store.mdb enter --at noon
-card @store.mdb --staff 1001
 totals @store.mdb --from 2026/03 --to 2026/04
-totals @store.mdb --from 2026/03 --to 2026/04 --section S01 --staff 1001
 holidays @h.txt --year 2021
 move @store.mdb --dest @old.mdb --from 2026/01/01 --to 2026/02/28 --month-from 2026/01
 )")) {

@@ -79,7 +79,6 @@ Work 09:00-12:00                                           | 09:00 +10:00 0     
 Work 22:00-00:00                                           | 23:00 +01:00 0     | WorkTime 60
 Work 09:00-12:00                                           | 11:59:01 12:00 0   | WorkTime 0
 Work 09:00-12:00 13:00-18:00                               | 11:59:30 13:00:30 0 | WorkTime 1
-Work 09:00-12:00                                           | 10:00 10:00 0      | WorkTime 0
                                                            | 09:00 18:00 0      | WorkTime 0
 Late 22:00-00:00 00:00-05:00                               | 18:00 +03:00 0     | LateWork 300
 Over 18:00-22:00; AfterLate 05:00-09:00                    | 18:00 +07:00 0     | OverWork 360
@@ -87,7 +86,6 @@ Over 18:00-22:00; AfterLate 05:00-09:00                    | 18:00 +04:00 0     
 Over 18:00-22:00; AfterLate 05:00-09:00                    | 18:00 +07:00 5     | OverWork 240
 AfterLate 22:00-00:00                                      | 18:00 ++01:00 0    | OverWork 120
 HolidayAfterLate 05:00-08:00; AfterLate 05:00-09:00        | 18:00 +09:00 1     | OverWork 180
-AmAfterLate 05:00-07:00                                    | 18:00 +09:00 2     | OverWork 120
 PmHolidayAfterLate 05:00-06:00                             | 18:00 +09:00 3     | OverWork 60
 AmAfterLate 05:00-07:00                                    | 18:00 +09:00 2     | AmOverWork 120
 AmAfterLate 05:00-07:00                                    | 18:00 +09:00 2     | PmOverWork 0
@@ -98,7 +96,6 @@ Early 05:00-09:00                                          | 06:00 +06:00 0     
 AmHolidayEarly 05:00-09:00                                 | 23:30 +06:00 0     | AmEarlyWork 60
 PmHolidayEarly 05:00-09:00                                 | 23:30 +06:00 0     | PmEarlyWork 60
 HolidayWork 09:00-22:00; HolidayEarly 05:00-09:00          | 08:00 10:00 0      | HolidayWork 120
-HolidayLate 22:00-00:00                                    | 20:00 +02:00 0     | HolidayLateWork 120
 HolidayLate 22:00-00:00 00:00-05:00                        | 20:00 +02:00 0     | HolidayLateWork 240
 Work 09:00-12:00 13:00-18:00                               | 08:00 19:00 0      | AbsentHour 0
 Work 09:00-12:00 13:00-18:00                               | 09:30 17:00:30 0   | AbsentHour 89

@@ -83,7 +83,6 @@ TEST_F(Loaders, HalfDaysThatTheCompanyLacksAreNotRead) {
 TEST_F(Loaders, FaultsOfTheSettingsAreTold) {
     for (const QStringList& row : rowsOf(R"(
 M01_CorpInfo SET F_RoundLeave = Null         | 時間計算方法設定に不備があります。/n管理者に勤務形態設定
-M01_CorpInfo SET F_CountUnit = Null          | 時間計算方法設定に不備があります。
 M01_CorpInfo SET F_AmFlex = True, F_AmFlexStandard = Null | 勤務形態設定に不備があります。
 M01_CorpInfo SET F_WorkStyle = Null          | 勤務形態設定に不備があります。/n管理者に勤務形態設定
 M01_CorpInfo SET F_RoundUnit = 0             | 端数処理単位が設定されていません。

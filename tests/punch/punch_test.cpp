@@ -158,7 +158,6 @@ TEST_F(PunchClock, TheStateIsReadFromTheRows) {
 0414 - - 0                     | none 0                  | none 0 20260414/99
 0414 09:00 - 0                 | none 0                  | none 0 20260414/99
 0414 09:00 - 1                 | none 0 20260414/99      | none 0 20260414/99
-0414 09:00 12:00 2             | none 0                  | none 0
 0415 - -                       | blank 100               | blank 100
 0415 - -, 0414 09:00 -         | blank 100 20260414/99   | blank 100 20260414/99
 0415 - - 0, 0414 09:00 -       | blank 100 20260414/99   | blank 100 20260414/99

@@ -59,16 +59,6 @@ TEST_F(FrmParm, AGoodFileIsTakenOverHoweverTheFormIsLeft) {
     EXPECT_EQ(readFile(desk.paths.ParmPath), '"' + chosenPath.toLocal8Bit() + "\"\r\n");
 }
 
-TEST_F(FrmParm, WhatParmDatCannotHoldLeavesTheOldDatabase) {
-    client.openHome();
-    box().setText(other(u"😀.mdb"_q));
-    desk.prompts.expect(u"使用できない文字"_q).expect(u"フォルダ設定に失敗しました。"_q);
-    press("cmdOK");
-    EXPECT_FALSE(client.DbUsable);
-    EXPECT_EQ(client.DbPath, path);
-    EXPECT_FALSE(client.HomeConnection.isOpen());
-}
-
 TEST_F(FrmParm, WithoutAPathThereIsNothingToGoOnWith) {
     show({});
     box().setText(u"  "_q);

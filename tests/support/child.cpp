@@ -66,15 +66,6 @@ int endOf(pid_t child) {
     return WEXITSTATUS(status);
 }
 
-bool runAtOnce(int processes, const std::function<int(int)>& body) {
-    std::vector<pid_t> running;
-    running.reserve(static_cast<std::size_t>(processes));
-    for (int i = 0; i < processes; ++i) running.push_back(startChild([&body, i] { return body(i); }));
-    bool good = true;
-    for (const pid_t child : running) good = endOf(child) == 0 && good;
-    return good;
-}
-
 void failAtCall(DiskFailure kind, int n) {
     failure = kind;
     callsLeft = n;

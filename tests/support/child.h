@@ -10,9 +10,6 @@ namespace kurbo::test {
 // Waits for the end of it: the result, or -1 where it was killed.
 [[nodiscard]] int endOf(pid_t child);
 
-// Runs body(0), body(1) ... in as many processes at once; whether all of them end with 0.
-[[nodiscard]] bool runAtOnce(int processes, const std::function<int(int)>& body);
-
 // What becomes of this process when the engine writes, truncates or deletes.
 enum class DiskFailure {
     Killed,        // just before the call
