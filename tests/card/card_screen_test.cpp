@@ -3,8 +3,6 @@
 #include "card/card_grid.h"
 #include "card/card_office.h"
 
-#include <QFile>
-
 namespace kurbo::test {
 namespace {
 
@@ -23,35 +21,25 @@ class CardScreenTest : public CardOffice {
         screen.sheet.grid.edit(firstCardDay + day - 1, static_cast<int>(column), text);
     }
 
+    // Somebody looks at somebody's card, or at the own one.
+    void look(const QString& reader, const QString& person = {}) {
+        logIn(reader);
+        ASSERT_TRUE(screen.load() && (person.isEmpty() || screen.chooseStaff(person)));
+    }
+
     CardScreen screen{client};
 };
 
-TEST_F(CardScreenTest, BeginsWithTheOwnCardOfThisMonth) {
-    logIn(u"1001"_q);
-    ASSERT_TRUE(screen.load());
-    EXPECT_EQ(period(), u"2026/04/01-2026/04/30"_q);
-    EXPECT_EQ(screen.chosen().section + u' ' + screen.chosen().staff, u"S01 1001"_q);
-    EXPECT_EQ(screen.people().size(), 3) << "people who aren't displayed can't be chosen";
-    EXPECT_EQ(cell(2, CardColumn::Leave), u"(04/03)06:30"_q);
-    EXPECT_FALSE(screen.mayChooseOthers());
-    EXPECT_FALSE(screen.mayDelete());
+TEST_F(CardScreenTest, WithoutACalendarOfTodayItsFirstDayCounts) {
     desk.clock.set(at(*makeDay(2030, 7, 1), 9, 0));
-    EXPECT_TRUE(screen.load());
-    EXPECT_EQ(period(), u"2026/01/01-2026/01/31"_q) << "without a calendar of today its first day counts";
-}
-
-TEST_F(CardScreenTest, AFaultyRuleLeavesNothingToDo) {
-    logIn(u"1001"_q);
-    connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = 99 WHERE (F_StaffCode = '1001')"_q);
-    desk.prompts.expect(u""_q);
-    EXPECT_FALSE(screen.load());
-    EXPECT_FALSE(screen.isAlive());
+    look(u"1001"_q);
+    EXPECT_EQ(period(), u"2026/01/01-2026/01/31"_q);
+    EXPECT_EQ(screen.people().size(), 3) << "people who aren't displayed can't be chosen";
+    EXPECT_FALSE(screen.mayChooseOthers() || screen.mayDelete());
 }
 
 TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
-    logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load());
-    EXPECT_EQ(period(), u"2026/03/21-2026/04/20"_q);
+    look(u"1002"_q);
     EXPECT_TRUE(screen.chooseMonth(3));
     EXPECT_EQ(period(), u"2026/02/21-2026/03/20"_q);
     desk.prompts.expect(noCalendar);
@@ -59,19 +47,11 @@ TEST_F(CardScreenTest, MonthYearAndRangeAreShownOrPutBack) {
     EXPECT_EQ(period() + QString::number(static_cast<int>(screen.chosen().month.year())),
               u"2026/02/21-2026/03/202026"_q);
     EXPECT_TRUE(screen.display(u"2026/04/01"_q, u"2026/06/30"_q));
-    EXPECT_EQ(screen.sheet.grid.Rows(), firstCardDay + 91);
     EXPECT_EQ(static_cast<unsigned>(screen.chosen().month.month()), 3) << "the month buttons keep their state";
     EXPECT_FALSE(screen.month().isWholePeriod());
-    const std::tuple<QString, QString, QString> refusals[] = {
-        {u"2026/04/31"_q, u"2026/06/30"_q, u"期間が不正です。"_q},
-        {u"2026/05/02"_q, u"2026/05/01"_q, u"開始日付が終了日付以降に設定されています。"_q},
-        {u"2027/01/01"_q, u"2027/01/31"_q, noCalendar},
-    };
-    for (const auto& [start, end, message] : refusals) {
-        desk.prompts.expect(message);
-        EXPECT_FALSE(screen.display(start, end));
-        EXPECT_EQ(period(), u"2026/04/01-2026/06/30"_q);
-    }
+    desk.prompts.expect(u"期間が不正です。"_q).expect(noCalendar);
+    EXPECT_FALSE(screen.display(u"2026/04/31"_q, u"2026/06/30"_q) || screen.display(u"2027/01/01"_q, u"2027/01/31"_q));
+    EXPECT_EQ(period(), u"2026/04/01-2026/06/30"_q);
 }
 
 TEST_F(CardScreenTest, AYearStepKeepsAFebruaryWhole) {
@@ -86,8 +66,7 @@ TEST_F(CardScreenTest, AYearStepKeepsAFebruaryWhole) {
 }
 
 TEST_F(CardScreenTest, AnotherPersonHasAnotherPeriodAndOtherRights) {
-    logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load());
+    look(u"1002"_q);
     EXPECT_FALSE(screen.mayDelete()) << "only others' data";
     EXPECT_TRUE(screen.chooseStaff(u"1001"_q));
     EXPECT_EQ(period(), u"2026/04/01-2026/04/30"_q);
@@ -105,31 +84,25 @@ TEST_F(CardScreenTest, AnotherPersonHasAnotherPeriodAndOtherRights) {
 }
 
 TEST_F(CardScreenTest, UpdatesAndDeletesWhatIsShown) {
-    logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
-    type(1, CardColumn::Leave, u"18:30"_q);
+    look(u"1002"_q, u"1001"_q);
     type(6, CardColumn::Enter, u"09:05"_q);
-    desk.prompts.expect(u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q, Answer::Cancel);
+    desk.prompts.expect(u"追加・変更を更新します。\r\n\r\nよろしいですか？"_q, Answer::Cancel)
+        .expect(u"よろしいですか？"_q);
     EXPECT_FALSE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
-    EXPECT_EQ(count(u"T02_Kurbo"_q), 3);
-    desk.prompts.expect(u"よろしいですか？"_q);
     EXPECT_TRUE(screen.update(u"2026/04/01"_q, u"2026/04/30"_q));
-    EXPECT_EQ(asked(u"SELECT F_Leave FROM T02_Kurbo WHERE (F_KurboID = 1)"_q), u"2026/04/01 18:30:00"_q);
-    EXPECT_EQ(cell(1, CardColumn::FullEnter), u"2026/04/01 08:52:17"_q) << "the enter keeps its seconds";
-    EXPECT_EQ(cell(6, CardColumn::Id), u"4"_q);
     EXPECT_FALSE(screen.sheet.blnCardChanged);
     type(7, CardColumn::Plan, u"出張"_q);
-    desk.prompts.expect(discard, Answer::No);
+    desk.prompts.expect(discard, Answer::No)
+        .expect(discard, Answer::Yes)
+        .expect(u"表示期間(2026/04/01～2026/04/02)の"_q);
     EXPECT_FALSE(screen.deletePeriod(u"2026/04/01"_q, u"2026/04/02"_q));
-    desk.prompts.expect(discard, Answer::Yes).expect(u"表示期間(2026/04/01～2026/04/02)の"_q);
     EXPECT_TRUE(screen.deletePeriod(u"2026/04/01"_q, u"2026/04/02"_q));
     EXPECT_EQ(desk.prompts.last().preset, Answer::Cancel);
     EXPECT_EQ(count(u"T02_Kurbo"_q), 2);
 }
 
 TEST_F(CardScreenTest, APunchBesideTheOpenCardIsNotDoubled) {
-    logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    look(u"1002"_q, u"1001"_q);
     type(6, CardColumn::Plan, u"出張"_q);
     addCard(9, *makeDay(2026, 4, 6), u"09:00"_q, {});
     desk.prompts.expect(u"よろしいですか？"_q).expect(u"2026/04/06のデータは"_q).expect(u"更新できませんでした。"_q);
@@ -139,8 +112,7 @@ TEST_F(CardScreenTest, APunchBesideTheOpenCardIsNotDoubled) {
 }
 
 TEST_F(CardScreenTest, WhatIsStoredIsNotWrittenAgainWhenItCannotBeDrawn) {
-    logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    look(u"1002"_q, u"1001"_q);
     type(6, CardColumn::Plan, u"出張"_q);
     connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 01:00:00# WHERE (F_KurboID = 1)"_q);
     desk.prompts.expect(u"よろしいですか？"_q).expect(u"退社時刻が出社時刻より前"_q);
@@ -158,8 +130,7 @@ TEST_F(CardScreenTest, AnotherSitesSectionIsReadAndWrittenThere) {
     EXPECT_EQ(screen.chosen().staff + screen.people().first().code, u"2001"_q);
     EXPECT_FALSE(screen.month().mayApprovePersonal() || screen.month().mayAdjust() || screen.month().mayUpdate())
         << "no name is chosen";
-    EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, static_cast<int>(CardColumn::Enter)))
-        << "the old card is only seen";
+    EXPECT_FALSE(screen.sheet.grid.Editable(firstCardDay, 4)) << "the old card is only seen";
     ASSERT_TRUE(screen.chooseStaff(u"2001"_q));
     type(1, CardColumn::Enter, u"08:00"_q);
     desk.prompts.expect(u"よろしいですか？"_q);
@@ -168,13 +139,11 @@ TEST_F(CardScreenTest, AnotherSitesSectionIsReadAndWrittenThere) {
     EXPECT_TRUE(client.OtherConnection.hasRow(u"SELECT F_KurboID FROM T02_Kurbo WHERE (F_User = '2001')"_q));
     screen.leave();
     EXPECT_TRUE(client.CurrentConnection == &client.HomeConnection && !client.OtherConnection.isOpen());
-    EXPECT_TRUE(client.session.access.has(Right::DeleteOtherData)) << "the own section's rights again";
 }
 
 TEST_F(CardScreenTest, ARefusedSectionLeavesThePlaceAsItWas) {
     const QString other = addOtherSite();
-    logIn(u"1002"_q);
-    ASSERT_TRUE(screen.load() && screen.chooseStaff(u"1001"_q));
+    look(u"1002"_q, u"1001"_q);
     const auto refused = [this](const QString& message) {
         desk.prompts.expect(message);
         EXPECT_FALSE(screen.chooseSection(u"S02"_q)) << message;
@@ -189,16 +158,10 @@ TEST_F(CardScreenTest, ARefusedSectionLeavesThePlaceAsItWas) {
         site.open(other, databasePassword());
         site.execute(u"DELETE * FROM M08_Access WHERE (F_Section = 'S02')"_q);
         refused(u"アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。"_q);
-        site.execute(u"DELETE * FROM T01_Calendar"_q);
-        refused(noCalendar);
     }
     client.OtherConnection.close();
-    ASSERT_TRUE(QFile::rename(other, other + u".away"_q));
+    ASSERT_TRUE(QFile::remove(other));
     refused(u"選択した部課の情報を保存しているデータベースファイル\r\n  "_q + other);
-    QFile text(other);
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("no database") > 0);
-    text.close();
-    refused(u""_q);
     EXPECT_TRUE(screen.chooseStaff(u"1003"_q)) << "work goes on";
 }
 

@@ -1,41 +1,20 @@
-#include "card/card_cells.h"
-#include "demo/demo_company.h"
-#include "month/loaders.h"
-#include "store/file/database_file.h"
-#include "support/sample_company.h"
+#include "card/demo_site.h"
 
 #include <QRegularExpression>
 
 namespace kurbo::test {
 namespace {
 
-class DemoCards : public ::testing::Test {
+class DemoCards : public DemoSite {
   protected:
-    explicit DemoCards(bool flexible = false) {
-        const QString path = desk.file(u"demo.mdb"_q);
-        createDatabase(path);
-        connection.open(path, databasePassword());
-        DemoOptions options;
-        options.until = *makeDay(2026, 6, 17);
-        options.flexible = flexible;
-        makeDemoCompany(connection, options);
-        desk.clock.set(at(options.until, 8, 0));
-    }
-    std::optional<Card> card(const QString& staff, int month) {
-        clsWorkTime rules;
-        if (!GetWorkStyle(desk.context, connection, rules) || !GetStaffInfo(desk.context, connection, rules, staff) ||
-            !GetWorkTime(desk.context, connection, rules, staff))
-            return {};
-        return makeCard(desk.context, connection, rules, staff,
-                        *periodOfMonth(std::chrono::year(2026) / month, rules.plngCloseDay()));
-    }
+    using DemoSite::DemoSite;
     // Every month of everybody; where a month is saved, the days must add up to it.
     void compareAll() {
         int saved = 0;
         Rows people = connection.rows(u"SELECT F_StaffCode FROM M02_StaffInfo WHERE F_StaffCode <> 'ADMIN'"_q);
         while (people.next()) {
             for (int month = 1; month <= 12; ++month) {
-                const auto made = card(people.text(0), month);
+                const auto made = monthOf(people.text(0), std::chrono::year(2026) / month);
                 ASSERT_TRUE(made) << people.text(0) << " " << month;
                 if (!made->saved) continue;
                 ++saved;
@@ -46,9 +25,6 @@ class DemoCards : public ::testing::Test {
         }
         EXPECT_GT(saved, 30);
     }
-
-    Desk desk;
-    Connection connection;
 };
 
 class FlexibleDemoCards : public DemoCards {
@@ -88,13 +64,8 @@ TEST_F(DemoCards, ThreeFortnightsWorkedOutByHand) {
                      u"12:02 - - - - 代午後 3:00"_q, u"12:06 - - - - 代午後 3:00"_q, u"- - - - - 全日 -"_q,
                      u"17:44 - - - - - 7:30"_q, u"17:37 - - - - - 7:30"_q},
                     u"9 58:30 1:30 3:30 0:00 0:00 1.0"}}) {
-        clsWorkTime rules;
         const QString code = QString::fromUtf16(staff);
-        ASSERT_TRUE(GetWorkStyle(desk.context, connection, rules) &&
-                    GetStaffInfo(desk.context, connection, rules, code) &&
-                    GetWorkTime(desk.context, connection, rules, code));
-        const auto made =
-            makeCard(desk.context, connection, rules, code, {*makeDay(2026, 5, 11), *makeDay(2026, 5, 22)});
+        const auto made = cardOf(desk.context, connection, code, {*makeDay(2026, 5, 11), *makeDay(2026, 5, 22)});
         ASSERT_TRUE(made);
         for (qsizetype i = 0; i < days.size(); ++i) {
             const QStringList& row = made->days[i];

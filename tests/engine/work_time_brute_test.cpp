@@ -71,48 +71,4 @@ TEST_F(Brute, EverySecondIsCountedOnce) {
     }
 }
 
-// Cutting a stay in two moves no more than the rounding down of each part.
-TEST_F(Brute, ASplitStayAddsUp) {
-    for (int round = 0; round < 2000; ++round) {
-        clsWorkTime rules;
-        rules.plngRoundMethod = 1;
-        set(rules, DayType::Weekday, BandKind::Work, randomBands());
-        const Moment enter = at(*makeDay(2026, 4, 15), 0, 0) + std::chrono::seconds(dice(0, 86399));
-        const int length = dice(0, 40 * 3600);
-        const auto work = [&](Moment from, Moment to) {
-            rules.pdtmEnter(from);
-            rules.pdtmLeave(to);
-            return rules.WorkTime();
-        };
-        const Moment leave = enter + std::chrono::seconds(length);
-        const Moment cut = enter + std::chrono::seconds(dice(0, length));
-        const Minutes whole = work(enter, leave);
-        const Minutes parts = work(enter, cut) + work(cut, leave);
-        EXPECT_LE(whole, Minutes(length / 60)) << "work never exceeds the stay";
-        EXPECT_LE(parts, whole);
-        EXPECT_GE(parts, whole - 1min);
-    }
-}
-
-// A rounded stay's work is that of the rounded times.
-TEST_F(Brute, RoundingComesBeforeTheBands) {
-    for (int round = 0; round < 500; ++round) {
-        clsWorkTime rules;
-        set(rules, DayType::Weekday, BandKind::Work, randomBands());
-        rules.plngRoundEnter = dice(0, 2);
-        rules.plngRoundLeave = dice(0, 2);
-        rules.plngRoundUnit(Minutes(dice(1, 60)));
-        clsWorkTime raw = rules;
-        raw.plngRoundMethod = 1;
-        const Moment enter = at(*makeDay(2026, 4, 15), 0, 0) + std::chrono::seconds(dice(0, 86399));
-        const Moment leave = enter + std::chrono::seconds(dice(7200, 20 * 3600));
-        rules.pdtmEnter(enter);
-        rules.pdtmLeave(leave);
-        raw.pdtmEnter(RoundPunch(enter, rules.plngRoundEnter, rules.plngRoundUnit()));
-        raw.pdtmLeave(RoundPunch(leave, rules.plngRoundLeave, rules.plngRoundUnit()));
-        EXPECT_EQ(rules.WorkTime(), raw.WorkTime());
-        EXPECT_EQ(rules.AbsentHour(), raw.AbsentHour());
-    }
-}
-
 } // namespace kurbo::test

@@ -1,7 +1,8 @@
 #include "month/day_loop.h"
 
-#include "base/failure.h"
+#include "month/quantities.h"
 #include "support/desk.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
@@ -29,6 +30,19 @@ std::vector<DayFacts> week(const QString& text) {
         date += std::chrono::days(1);
     }
     return days;
+}
+
+// What isn't 0 of a day, under the names of its fields.
+QString text(const Figures& day) {
+    QString words;
+    const auto add = [&words](const QString& name, int amount) {
+        if (amount != 0) words += u" %1 %2"_q.arg(name).arg(amount);
+    };
+    forEachOfDay([&](const QuantityFacts& facts, auto member) {
+        add(QString::fromUtf16(facts.field).mid(2), (day.*member).count());
+    });
+    add(u"Diff"_q, day.difference.count());
+    return words.mid(1);
 }
 
 class DayLoop : public ::testing::Test {
@@ -75,163 +89,71 @@ class DayLoop : public ::testing::Test {
 
 } // namespace
 
-TEST_F(DayLoop, CodesOfDays) {
-    for (const auto& [day, code] : {std::pair{u"- - -"_q, DayCode::WD},
-                                    {u"0 - -"_q, DayCode::OH},
-                                    {u"1 - -"_q, DayCode::OA},
-                                    {u"2 - -"_q, DayCode::OP},
-                                    {u"3 - -"_q, DayCode::LH},
-                                    {u"9 - -"_q, DayCode::LH},
-                                    {u"3 - - 0--"_q, DayCode::PH},
-                                    {u"- - - 1--"_q, DayCode::PA},
-                                    {u"- - - 2--"_q, DayCode::PP},
-                                    {u"- - - -0-"_q, DayCode::SH},
-                                    {u"- - - -1-"_q, DayCode::SA},
-                                    {u"- - - -2-"_q, DayCode::SP},
-                                    {u"0 - - --0"_q, DayCode::CH},
-                                    {u"- - - --1"_q, DayCode::CA},
-                                    {u"- - - --2"_q, DayCode::CP},
-                                    {u"- - - 210"_q, DayCode::PP}})
-        EXPECT_EQ(dayCodeOf(week(day).front()), code) << day;
-}
-
-TEST_F(DayLoop, AWorkingDay) {
-    const Figures day = first(u"- 08:00 23:00, - - -"_q);
-    EXPECT_EQ(day.work, 450min);
-    EXPECT_EQ(day.workDays, Count(1));
-    EXPECT_EQ(day.early, 60min);
-    EXPECT_EQ(day.legalOver, 30min);
-    EXPECT_EQ(day.over, 240min);
-    EXPECT_EQ(day.late, 60min);
-    EXPECT_EQ(day.absent, 0min);
-    EXPECT_EQ(day.absentDays + day.lateEnters + day.earlyLeaves, Count(0));
-    const Figures late = first(u"- 09:30 17:00"_q);
-    EXPECT_EQ(late.absent, 60min);
-    EXPECT_EQ(late.lateEnters, Count(1));
-    EXPECT_EQ(late.earlyLeaves, Count(1));
-    const Figures outside = first(u"- 18:00 20:00"_q);
-    EXPECT_EQ(outside.absentDays, Count(1)) << "punches outside every band are an absence";
-    EXPECT_EQ(outside.workDays + outside.lateEnters, Count(0));
-    EXPECT_EQ(outside.over, 120min);
-    EXPECT_EQ(outside.absent, 450min);
+// A company's rule for half holidays, the days, and the figures of each.
+TEST_F(DayLoop, FiguresOfDays) {
+    for (const QStringList& row : rowsOf(R"(
+  | - 08:00 23:00                        | WorkDay 1 Work 450 LegalOver 30 Over 240 Late 60 Early 60
+  | - 09:30 17:00                        | WorkDay 1 Work 390 Absent 60 LateEnter 1 EarlyLeave 1
+  | - 18:00 20:00                        | Over 120 Absent 450 AbsentDay 1
+  | 0 20:00 23:00                        | WorkDay 1 Holiday 120 HolidayLate 60
+  | 3 20:00 23:00                        | WorkDay 1 LegalHoliday 120 LegalLate 60
+  | 9 20:00 23:00                        | WorkDay 1 LegalHoliday 120 LegalLate 60
+  | 0 - -                                |
+1 | 1 10:00 23:00                        | WorkDay 1 Work 270 LegalOver 30 Over 240 Late 60 Early 180
+2 | 1 10:00 23:00                        | WorkDay 1 Work 270 LegalOver 30 Over 240 Late 60 Holiday 180
+3 | 1 10:00 23:00                        | WorkDay 1 Work 270 LegalOver 30 Over 240 Late 60
+1 | 2 08:00 23:00                        | WorkDay 1 Work 180 LegalOver 60 Over 540 Late 60 Early 60
+2 | 2 08:00 23:00                        | WorkDay 1 Work 180 LegalOver 60 Early 60 Holiday 540 HolidayLate 60
+3 | 2 08:00 23:00                        | WorkDay 1 Work 180 LegalOver 60 Early 60
+  | - 09:00 17:30 0--                    | Paid 2
+  | - 10:00 23:00 -1-                    | WorkDay 1 Work 270 LegalOver 30 Over 240 Late 60 Special 1
+  | - 08:00 23:00 --2                    | WorkDay 1 Work 180 Early 60 Compens 1
+  | 3 - - 0--                            | Paid 2
+  | 0 20:00 23:00 --0                    | Compens 2
+  | - - - 1--                            | Absent 270 Paid 1 AbsentDay 1
+  | - - - -2-                            | Absent 180 Special 1 AbsentDay 1
+  | - - - --1                            | Absent 270 Compens 1 AbsentDay 1
+  | - - - 01-                            | Paid 2
+  | - - - 210                            | Absent 180 Paid 1 AbsentDay 1
+  | - - -                                | Absent 450 AbsentDay 1
+  | - 09:00 -                            |
+  | - - 17:00                            |
+  | - 09:00 +10:00, - - -, - - - | WorkDay 1 Work 450 LegalOver 30 Over 480 Late 120, WorkDay 1 Work 60 Absent 390 EarlyLeave 1, Absent 450 AbsentDay 1
+  | - 09:00 +10:00, - 13:00 17:30, - - - | WorkDay 1 Work 450 LegalOver 30 Over 480 Late 120, WorkDay 1 Work 270 Absent 180 LateEnter 1, Absent 450 AbsentDay 1
+  | - 09:00 ++10:00, 0 - -, - - - | WorkDay 1 Work 450 LegalOver 30 Over 240 Late 120, WorkDay 1 Holiday 900 HolidayLate 120, WorkDay 1 Work 60 Absent 390 EarlyLeave 1
+  | - 09:00 +10:00, - - - 0--, - - - | WorkDay 1 Work 450 LegalOver 30 Over 480 Late 120, Paid 2, Absent 450 AbsentDay 1
+)")) {
+        rules.plngAmHolidayWork = rules.plngPmHolidayWork = row[0].isEmpty() ? 1 : row[0].toInt();
+        QStringList figures;
+        for (const Figures& day : card(row[1]).days) figures.append(text(day));
+        EXPECT_EQ(figures.join(u", "_q), row[2]) << row[1];
+    }
 }
 
 TEST_F(DayLoop, SwitchesDecideWhatIsAsked) {
     rules.pbleEnableOver = rules.pbleEnableLate = rules.pbleEnableEarly = rules.pbleEnableLegalOver = false;
-    const Figures day = first(u"- 08:00 23:00"_q);
-    EXPECT_EQ(day.over + day.late + day.early + day.legalOver, 0min);
-    EXPECT_EQ(day.work, 450min);
+    EXPECT_EQ(text(first(u"- 08:00 23:00"_q)), u"WorkDay 1 Work 450"_q);
     rules.pbleEnableHolidayLate = false;
-    EXPECT_EQ(first(u"3 20:00 23:00"_q).legalHoliday, 120min);
-    EXPECT_EQ(first(u"3 20:00 23:00"_q).legalLate, 0min) << "under the ordinary holiday's switch";
+    EXPECT_EQ(text(first(u"3 20:00 23:00"_q)), u"WorkDay 1 LegalHoliday 120"_q)
+        << "under the ordinary holiday's switch";
     rules.pbleEnableHoliday = false;
     EXPECT_EQ(first(u"3 20:00 23:00"_q), Figures());
 }
 
-TEST_F(DayLoop, Holidays) {
-    const Figures ordinary = first(u"0 20:00 23:00"_q);
-    EXPECT_EQ(ordinary.holiday, 120min);
-    EXPECT_EQ(ordinary.holidayLate, 60min);
-    EXPECT_EQ(ordinary.workDays, Count(1)) << "once, also when both count";
-    EXPECT_EQ(ordinary.work, 0min);
-    const Figures legal = first(u"3 20:00 23:00"_q);
-    EXPECT_EQ(legal.legalHoliday, 120min);
-    EXPECT_EQ(legal.legalLate, 60min);
-    EXPECT_EQ(first(u"0 - -"_q), Figures()) << "no absence on a holiday";
-}
-
-TEST_F(DayLoop, HalfHolidays) {
-    const QString am = u"1 10:00 23:00"_q;
-    EXPECT_EQ(first(am).work, 270min);
-    EXPECT_EQ(first(am).early, 180min) << "counted as early work";
-    EXPECT_EQ(first(am).over, 240min);
-    rules.plngAmHolidayWork = 2;
-    EXPECT_EQ(first(am).holiday, 180min);
-    EXPECT_EQ(first(am).early, 0min);
-    rules.plngAmHolidayWork = 3;
-    EXPECT_EQ(first(am).holiday + first(am).early, 0min);
-
-    const QString pm = u"2 08:00 23:00"_q;
-    EXPECT_EQ(first(pm).work, 180min);
-    EXPECT_EQ(first(pm).early, 60min);
-    EXPECT_EQ(first(pm).legalOver, 60min);
-    EXPECT_EQ(first(pm).over, 540min);
-    EXPECT_EQ(first(pm).late, 60min);
-    rules.plngPmHolidayWork = 2;
-    EXPECT_EQ(first(pm).holiday, 540min);
-    EXPECT_EQ(first(pm).holidayLate, 60min);
-    EXPECT_EQ(first(pm).over + first(pm).late, 0min);
-    rules.plngPmHolidayWork = 3;
-    EXPECT_EQ(first(pm).over + first(pm).holiday, 0min);
-}
-
-TEST_F(DayLoop, Leaves) {
-    const Figures whole = first(u"- 09:00 17:30 0--"_q);
-    EXPECT_EQ(whole.paid, HalfDays(2));
-    EXPECT_EQ(whole.workDays, Count(0)) << "the punches of a whole day's leave are ignored";
-    const Figures morning = first(u"- 10:00 23:00 -1-"_q);
-    EXPECT_EQ(morning.special, HalfDays(1));
-    EXPECT_EQ(morning.work, 270min);
-    EXPECT_EQ(morning.early, 0min) << "no early work behind a morning's leave";
-    EXPECT_EQ(morning.over, 240min);
-    EXPECT_EQ(morning.late, 60min);
-    const Figures afternoon = first(u"- 08:00 23:00 --2"_q);
-    EXPECT_EQ(afternoon.compens, HalfDays(1));
-    EXPECT_EQ(afternoon.early, 60min);
-    EXPECT_EQ(afternoon.legalOver + afternoon.over + afternoon.late, 0min) << "no overtime behind an afternoon's leave";
-    const Figures two = first(u"- - - 01-"_q);
-    EXPECT_EQ(two.paid, HalfDays(2));
-    EXPECT_EQ(two.special, HalfDays(0)) << "the first leave alone counts";
-}
-
 TEST_F(DayLoop, AbsenceIsThePastsOnly) {
-    EXPECT_EQ(first(u"- - -"_q).absent, 450min);
-    EXPECT_EQ(first(u"- - -"_q).absentDays, Count(1));
     setBand(u"AmHolidayWork", 0, u"13:00", u"19:00");
-    setBand(u"PmHolidayWork", 0, u"08:00", u"12:00");
     EXPECT_EQ(first(u"1 - -"_q).absent, 270min) << "no more than the weekday's business hours";
-    EXPECT_EQ(first(u"- - - 2--"_q).absent, 180min);
-    EXPECT_EQ(first(u"- 09:00 -"_q), Figures()) << "half a stay shows nothing";
-    EXPECT_EQ(first(u"- - 17:00"_q), Figures());
     today = monday;
     EXPECT_EQ(first(u"- - -"_q), Figures());
     today = monday + std::chrono::days(1);
     EXPECT_EQ(first(u"- - -"_q).absentDays, Count(1));
+    EXPECT_EQ(card(u"- - -"_q, {}, at(monday, 10, 0)).days[0].work, 60min) << "a shift goes on";
     clsWorkTime evening;
     evening.plngRoundMethod = 1;
     evening.setBand(u"pstrStartWork", 0, u"15:00");
     evening.setBand(u"pstrEndWork", 0, u"00:00");
     rules = evening;
     EXPECT_EQ(first(u"- - -"_q).absent, 540min) << "business hours end with the day";
-}
-
-TEST_F(DayLoop, AShiftIsCutWhereTheNextDayBegins) {
-    const CardFigures days = card(u"- 09:00 +10:00, - - -, - - -"_q);
-    EXPECT_EQ(days.days[0].work, 450min);
-    EXPECT_EQ(days.days[0].over, 480min) << "the evening, and the morning behind it";
-    EXPECT_EQ(days.days[1].work, 60min) << "09:00 to 10:00 on the next row";
-    EXPECT_EQ(days.days[1].absent, 390min);
-    EXPECT_EQ(days.days[1].absentDays, Count(0));
-    EXPECT_EQ(days.days[2].absentDays, Count(1)) << "the carry is used up";
-    EXPECT_EQ(days.sum.work, 510min);
-
-    const CardFigures punched = card(u"- 09:00 +10:00, - 13:00 17:30, - - -"_q);
-    EXPECT_EQ(punched.days[1].work, 270min) << "a punched row ignores the carry";
-    EXPECT_EQ(punched.days[2].absentDays, Count(1));
-}
-
-TEST_F(DayLoop, ACarryReachesOverSeveralDaysAndKinds) {
-    const CardFigures days = card(u"- 09:00 ++10:00, 0 - -, - - -"_q);
-    EXPECT_EQ(days.days[0].work, 450min);
-    EXPECT_EQ(days.days[1].holiday, Minutes(15 * 60))
-        << "from the holiday's own start at 08:00 to the next day's at 09:00";
-    EXPECT_EQ(days.days[1].holidayLate, 120min);
-    EXPECT_EQ(days.days[2].work, 60min);
-    const CardFigures spent = card(u"- 09:00 +10:00, - - - 0--, - - -"_q);
-    EXPECT_EQ(spent.days[1].work, 0min);
-    EXPECT_EQ(spent.days[2].absentDays, Count(1)) << "a carry that ended before the day is spent";
-    EXPECT_EQ(spent.days[2].absent, 450min);
-    EXPECT_EQ(card(u"- - -"_q, {}, at(monday, 10, 0)).days[0].work, 60min) << "into the first row";
 }
 
 // A shift cut at the border and its continuation are the shift in one piece.
@@ -253,17 +175,10 @@ TEST_F(DayLoop, FlexibleDaysShowTheDifference) {
     setBand(u"Core", 0, u"10:00", u"15:00");
     setBand(u"Flex", 0, u"07:00", u"10:00");
     setBand(u"Flex", 1, u"15:00", u"22:00");
-    const Figures day = first(u"- 09:00 18:30"_q);
-    EXPECT_EQ(day.work, 570min);
-    EXPECT_EQ(day.difference, 90min);
-    EXPECT_EQ(day.legalOver, 0min) << "not on flexible days";
-    EXPECT_EQ(first(u"- 10:00 17:00"_q).difference, -60min);
+    EXPECT_EQ(text(first(u"- 09:00 18:30"_q)), u"WorkDay 1 Work 570 Over 30 Diff 90"_q) << "no legal overtime";
     EXPECT_EQ(card(u"- 09:00 18:30, - 10:00 17:00"_q).sum.difference, 30min);
     EXPECT_EQ(first(u"- 22:00 23:00"_q).difference, 0min) << "no working time, no difference";
-}
-
-TEST_F(DayLoop, AStoredRowThatTheRulesRefuseEndsTheCard) {
-    EXPECT_THROW((void)card(u"- 17:00 09:00"_q), Fault);
+    EXPECT_THROW((void)card(u"- 17:00 09:00"_q), Fault) << "a stored row that the rules refuse";
 }
 
 } // namespace kurbo::test

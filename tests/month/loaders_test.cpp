@@ -1,6 +1,7 @@
 #include "month/loaders.h"
 
 #include "support/sample_company.h"
+#include "support/table.h"
 
 namespace kurbo::test {
 namespace {
@@ -9,23 +10,21 @@ class Loaders : public SampleCompany {
   protected:
     Loaders() {
         run(u"DELETE * FROM M01_CorpInfo"_q);
-        run(u"INSERT INTO M01_CorpInfo (F_WorkStyle, F_FlexStandard, F_AmHolidayWork, F_AmFlexStandard, "
-            u"F_PmHolidayWork, "
-            "F_RoundMethod, F_RoundEnter, F_RoundLeave, F_RoundHour, F_RoundUnit, F_CountUnit, F_Diff, F_Early) "
-            "VALUES (0, '07:30', 2, '04:00', 3, 0, 0, 1, 1, 15, 0, True, True)"_q);
+        insert("M01_CorpInfo",
+               "WorkStyle, FlexStandard, AmHolidayWork, AmFlexStandard, PmHolidayWork, RoundMethod, RoundEnter, "
+               "RoundLeave, RoundHour, RoundUnit, CountUnit, Diff, Early",
+               u"0, '07:30', 2, '04:00', 3, 0, 0, 1, 1, 15, 0, True, True"_q);
         run(u"UPDATE M02_StaffInfo SET F_AmHoliday = 1, F_PmHoliday = 1"_q);
-        run(u"DELETE * FROM M03_WeekdayStyle WHERE F_WeekdayCode = 1"_q);
-        run(u"INSERT INTO M03_WeekdayStyle (F_WeekdayCode, F_WeekdayName, F_StartWork0, F_EndWork0, F_StartWork2, "
-            u"F_EndWork2, "
-            "F_StartFlex0, F_EndFlex0, F_StartFlex2, F_EndFlex2, F_StartLegalOver0, F_EndLegalOver0, F_StartOver0, "
-            "F_EndOver0, F_StartOver2, F_EndOver2, F_StartEarly0) VALUES (1, '日勤', '09:00', '12:00', '13:00', "
-            "'17:30', "
-            "'07:00', '09:00', '18:00', '20:00', '17:30', '18:00', '18:00', '22:00', '22:00', '00:00', '05:00')"_q);
-        run(u"INSERT INTO M04_HolidayStyle (F_HolidayCode, F_StartWork1, F_EndWork1) VALUES (1, '09:00', '17:00')"_q);
-        run(u"INSERT INTO M05_AmHolidayStyle (F_AmHolidayCode, F_StartWork0, F_EndWork0, F_StartEarly1, F_EndEarly1) "
-            "VALUES (1, '13:00', '17:30', '06:00', '08:00')"_q);
-        run(u"INSERT INTO M06_PmHolidayStyle (F_PmHolidayCode, F_StartWork0, F_EndWork0, F_StartOver3, F_EndOver3) "
-            "VALUES (1, '09:00', '12:00', '15:00', '16:00')"_q);
+        run(u"UPDATE M03_WeekdayStyle SET F_EndWork0 = '12:00', F_StartWork2 = '13:00', F_EndWork2 = '17:30', "
+            "F_StartFlex0 = '07:00', F_EndFlex0 = '09:00', F_StartFlex2 = '18:00', F_EndFlex2 = '20:00', "
+            "F_StartLegalOver0 = '17:30', F_EndLegalOver0 = '18:00', F_StartOver0 = '18:00', F_EndOver0 = '22:00', "
+            "F_StartOver2 = '22:00', F_EndOver2 = '00:00', "
+            "F_StartEarly0 = '05:00'"_q);
+        insert("M04_HolidayStyle", "HolidayCode, StartWork1, EndWork1", u"1, '09:00', '17:00'"_q);
+        insert("M05_AmHolidayStyle", "AmHolidayCode, StartWork0, EndWork0, StartEarly1, EndEarly1",
+               u"1, '13:00', '17:30', '06:00', '08:00'"_q);
+        insert("M06_PmHolidayStyle", "PmHolidayCode, StartWork0, EndWork0, StartOver3, EndOver3",
+               u"1, '09:00', '12:00', '15:00', '16:00'"_q);
     }
     void run(const QString& statement) { connection.execute(statement); }
     bool load() {
@@ -44,27 +43,20 @@ class Loaders : public SampleCompany {
 
 TEST_F(Loaders, AFixedCompany) {
     ASSERT_TRUE(load());
-    EXPECT_FALSE(rules.pbleFlexTime);
-    EXPECT_EQ(rules.plngAmHolidayWork, 2);
-    EXPECT_EQ(rules.plngPmHolidayWork, 3);
-    EXPECT_EQ(rules.plngRoundEnter, 0);
-    EXPECT_EQ(rules.plngRoundLeave, 1);
-    EXPECT_EQ(rules.plngRoundHour, 0) << "not read";
-    EXPECT_EQ(rules.plngRoundUnit(), 15min);
-    EXPECT_EQ(rules.plngCountUnit, 0);
-    EXPECT_TRUE(rules.pbleEnableDiff && rules.pbleEnableEarly && !rules.pbleEnableOver);
-    EXPECT_EQ(rules.plngEnterDelay, 30s);
-    EXPECT_EQ(rules.plngLeaveGain, 60s);
-    EXPECT_EQ(rules.psngPaidTotal, 20.0F);
+    EXPECT_TRUE(!rules.pbleFlexTime && rules.pbleEnableDiff && rules.pbleEnableEarly && !rules.pbleEnableOver);
+    const int numbers[] = {rules.plngAmHolidayWork,      rules.plngPmHolidayWork, rules.plngRoundEnter,
+                           rules.plngRoundLeave,         rules.plngRoundHour,     rules.plngCountUnit,
+                           rules.plngRoundUnit().count()};
+    EXPECT_EQ(std::vector(std::begin(numbers), std::end(numbers)), (std::vector{2, 3, 0, 1, 0, 0, 15}))
+        << "rounding by the month is not read";
+    EXPECT_TRUE(rules.plngEnterDelay == 30s && rules.plngLeaveGain == 60s && rules.psngPaidTotal == 20.0F);
     EXPECT_TRUE(has(DayType::Weekday, BandKind::Work, 0));
     EXPECT_FALSE(has(DayType::Weekday, BandKind::Work, 2)) << "a gap ends the work bands";
     EXPECT_TRUE(has(DayType::Weekday, BandKind::Over, 2)) << "and is skipped in the others";
     EXPECT_FALSE(has(DayType::Weekday, BandKind::Flex, 0));
     EXPECT_FALSE(has(DayType::Weekday, BandKind::Early, 0)) << "half a pair";
-    EXPECT_TRUE(has(DayType::Weekday, BandKind::LegalOver, 0));
-    EXPECT_TRUE(has(DayType::Holiday, BandKind::Work, 1));
-    EXPECT_TRUE(has(DayType::AmHoliday, BandKind::Early, 1));
-    EXPECT_TRUE(has(DayType::PmHoliday, BandKind::Over, 3));
+    EXPECT_TRUE(has(DayType::Weekday, BandKind::LegalOver, 0) && has(DayType::Holiday, BandKind::Work, 1));
+    EXPECT_TRUE(has(DayType::AmHoliday, BandKind::Early, 1) && has(DayType::PmHoliday, BandKind::Over, 3));
 }
 
 TEST_F(Loaders, AFlexibleCompany) {
@@ -89,26 +81,22 @@ TEST_F(Loaders, HalfDaysThatTheCompanyLacksAreNotRead) {
 }
 
 TEST_F(Loaders, FaultsOfTheSettingsAreTold) {
-    struct Case {
-        const char16_t* change;
-        const char16_t* fault;
-    };
-    for (const auto& [change, fault] :
-         {Case{u"M01_CorpInfo SET F_RoundLeave = Null", u"時間計算方法設定に不備があります。\r\n管理者に勤務形態設定"},
-          Case{u"M01_CorpInfo SET F_CountUnit = Null", u"時間計算方法設定に不備があります。"},
-          Case{u"M01_CorpInfo SET F_AmFlex = True, F_AmFlexStandard = Null", u"勤務形態設定に不備があります。"},
-          Case{u"M01_CorpInfo SET F_WorkStyle = Null", u"勤務形態設定に不備があります。\r\n管理者に勤務形態設定"},
-          Case{u"M01_CorpInfo SET F_RoundUnit = 0", u"端数処理単位が設定されていません。"},
-          Case{u"M02_StaffInfo SET F_CloseDay = Null", u"社員設定に不備があります。\r\n管理者に社員設定"},
-          Case{u"M02_StaffInfo SET F_CloseDay = 28", u"タイムカード締日に不正な日付"},
-          Case{u"M02_StaffInfo SET F_Weekday = 99", u"平日勤務時間設定に不備があります。\r\n管理者に勤務時間設定"},
-          Case{u"M03_WeekdayStyle SET F_EndWork0 = Null", u"平日勤務時間で就業時間が設定されていません。"},
-          Case{u"M03_WeekdayStyle SET F_EndWork0 = '08:00'", u"勤務終了時刻が開始時刻より前"},
-          Case{u"M06_PmHolidayStyle SET F_StartWork0 = Null", u"午後休日勤務時間で就業時間が設定されていません。"}}) {
+    for (const QStringList& row : rowsOf(R"(
+M01_CorpInfo SET F_RoundLeave = Null         | 時間計算方法設定に不備があります。/n管理者に勤務形態設定
+M01_CorpInfo SET F_AmFlex = True, F_AmFlexStandard = Null | 勤務形態設定に不備があります。
+M01_CorpInfo SET F_WorkStyle = Null          | 勤務形態設定に不備があります。/n管理者に勤務形態設定
+M01_CorpInfo SET F_RoundUnit = 0             | 端数処理単位が設定されていません。
+M02_StaffInfo SET F_CloseDay = Null          | 社員設定に不備があります。/n管理者に社員設定
+M02_StaffInfo SET F_CloseDay = 28            | タイムカード締日に不正な日付
+M02_StaffInfo SET F_Weekday = 99             | 平日勤務時間設定に不備があります。/n管理者に勤務時間設定
+M03_WeekdayStyle SET F_EndWork0 = Null       | 平日勤務時間で就業時間が設定されていません。
+M03_WeekdayStyle SET F_EndWork0 = '08:00'    | 勤務終了時刻が開始時刻より前
+M06_PmHolidayStyle SET F_StartWork0 = Null   | 午後休日勤務時間で就業時間が設定されていません。
+)")) {
         const Transaction undone(connection);
-        run(u"UPDATE "_q + QString::fromUtf16(change));
-        desk.prompts.expect(QString::fromUtf16(fault));
-        EXPECT_FALSE(load()) << QString::fromUtf16(change);
+        run(u"UPDATE "_q + row[0]);
+        desk.prompts.expect(row[1]);
+        EXPECT_FALSE(load()) << row[0];
     }
     run(u"UPDATE M01_CorpInfo SET F_WorkStyle = 1"_q);
     run(u"UPDATE M03_WeekdayStyle SET F_StartFlex0 = Null"_q);

@@ -29,11 +29,14 @@ class NewSite : public ::testing::Test {
         desk.prompts.expect(u"2026 年のカレンダーが作成されていません。"_q).expect(u"氏名に ADMIN、"_q);
         window.greet();
     }
-    // The screen that a menu entry opens.
-    QWidget* open(const char* menu, Screen screen) {
+    // The screen that a menu entry opens; none where a message refuses it.
+    QWidget* open(const char* menu, Screen screen, const QString& refusal = {}) {
+        if (!refusal.isEmpty()) desk.prompts.expect(refusal);
         named<QAction>(window, menu).trigger();
         QCoreApplication::processEvents();
-        return window.screens().window(screen);
+        QWidget* const form = window.screens().window(screen);
+        EXPECT_EQ(form == nullptr, !refusal.isEmpty()) << menu;
+        return form;
     }
     static void press(const QWidget* form, const char* button) { named<QPushButton>(*form, button).click(); }
     static void fill(const QWidget* form, const Texts& texts) {
@@ -64,162 +67,131 @@ class NewSite : public ::testing::Test {
         ASSERT_TRUE(window.isLoggedIn());
     }
 
-    void enterCompany();
-    void enterSections();
-    void enterPeople();
-    void setWorkStyle();
-    void setWorkTimes();
-    void setRights();
-    void setPeople();
-    void setCalendar();
+    void enterCompany() {
+        desk.prompts.expect(u"設定メニューの表示順序に従い、会社情報登録から順次設定を行って下さい。"_q);
+        QWidget* const form = open("mnuCorp", Screen::Corp);
+        fill(form, {{"txtCorp", u"新設商事"_q}, {"txtTel", u"03-1234-5678"_q}});
+        update(form);
+        close(form);
+    }
+
+    void enterSections() {
+        QWidget* const form = open("mnuSection", Screen::Section);
+        for (const auto& [code, name] : {std::pair{u"S1"_q, u"総務部"_q}, {u"S2"_q, u"製造部"_q}}) {
+            chooseNew(form, "dtsSection");
+            fill(form, {{"txtName", name}, {"txtCode", code}, {"cboDB", u"カレントデータベース"_q}});
+            tick(form, {"chkDisplay"});
+            update(form);
+        }
+        close(form);
+    }
+
+    void enterPeople() {
+        QWidget* const form = open("mnuStaff", Screen::Staff);
+        for (const auto& [code, name, section] : {std::tuple{u"11"_q, u"青木"_q, u"総務部"_q},
+                                                  {u"12"_q, u"石田"_q, u"総務部"_q},
+                                                  {u"21"_q, u"上野"_q, u"製造部"_q}}) {
+            chooseNew(form, "dtsStaff");
+            fill(form, {{"txtName", name}, {"txtKana", u"ｶﾅ"_q}, {"txtCode", code}, {"dcbSection", section}});
+            tick(form, {"chkDisplay"});
+            update(form);
+        }
+        close(form);
+    }
+
+    void setWorkStyle() {
+        QWidget* const form = open("mnuWorkStyle", Screen::WorkStyle);
+        typeInto(&named<QWidget>(*form, "txtUnit"), u"15"_q);
+        update(form);
+        close(form);
+    }
+
+    void setWorkTimes() {
+        QWidget* const form = open("mnuWorkTime", Screen::WorkTime);
+        auto* const tab = &named<QTabWidget>(*form, "tabTime");
+        auto& weekday = named<Grid>(*form, "vfgWeekday");
+        typeInto(&named<QWidget>(*form, "txtWeekday"), u"日勤"_q);
+        const QStringList times{u"0900"_q, u"1200"_q, u"1300"_q, u"1800"_q};
+        for (int slot = 0; slot < times.size(); ++slot) typeCell(weekday, 2, slot + 1, times[slot]);
+        typeCell(weekday, 5, 1, u"1800"_q);
+        typeCell(weekday, 5, 2, u"2200"_q);
+        update(form, "cmdUpdateWeekday");
+        tab->setCurrentIndex(1);
+        typeInto(&named<QWidget>(*form, "txtHoliday"), u"休日"_q);
+        typeCell(named<Grid>(*form, "vfgHoliday"), 2, 1, u"0500"_q);
+        typeCell(named<Grid>(*form, "vfgHoliday"), 2, 2, u"2200"_q);
+        update(form, "cmdUpdateHoliday");
+        tab->setCurrentIndex(4);
+        typeInto(&named<QWidget>(*form, "txtAdjust"), u"上限45時間"_q);
+        typeCell(named<Grid>(*form, "vfgAdjust"), 2, 1, u"45:00"_q);
+        update(form, "cmdUpdateAdjust");
+        close(form);
+    }
+
+    void setRights() {
+        QWidget* const form = open("mnuAccess", Screen::Access);
+        auto& grid = named<Grid>(*form, "vfgAccess");
+        typeInto(&named<QWidget>(*form, "txtAccess"), u"一般"_q);
+        typeCell(grid, firstAccessRow, static_cast<int>(AccessColumn::Section), u"所属部課"_q);
+        grid.Select(firstAccessRow, static_cast<int>(AccessColumn::FirstRight));
+        QTest::keyClick(&grid, Qt::Key_Space);
+        update(form);
+        close(form);
+    }
+
+    void setPeople() {
+        QWidget* const form = open("mnuUser", Screen::Asign);
+
+        const auto set = [&](int row) {
+            named<DataList>(*form, "dtsStaff").setCurrentRow(row);
+            QCoreApplication::processEvents();
+            named<QTabWidget>(*form, "tabStaff").setCurrentIndex(0);
+            fill(form, {{"txtPassword", u"pass1"_q}, {"txtCloseDay", u"31"_q}, {"txtPaid", u"10"_q}});
+            named<QTabWidget>(*form, "tabStaff").setCurrentIndex(1);
+            fill(form, {{"dcbWeekday", u"日勤"_q},
+                        {"dcbHoliday", u"休日"_q},
+                        {"dcbAdjust", u"上限45時間"_q},
+                        {"dcbAccess", u"一般"_q}});
+            update(form);
+        };
+        set(0);
+        set(1);
+        typeInto(&named<QWidget>(*form, "dcbSection"), u"製造部"_q);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        set(0);
+        close(form);
+    }
+
+    void setCalendar() {
+        QWidget* const calendar = open("mnuCalendar", Screen::Calendar);
+        press(calendar, "cmdHoliday");
+        QCoreApplication::processEvents();
+        QWidget* const form = onScreen<frmHoliday>();
+        ASSERT_TRUE(form);
+        auto& rules = named<Grid>(*form, "vfgHoliday");
+        typeCell(rules, 1, 1, u"毎週"_q);
+        typeCell(rules, 1, 2, u"日曜日"_q);
+        typeCell(rules, 1, 5, u"定休日"_q);
+        typeCell(rules, 1, 6, u"全日"_q);
+        desk.prompts.expect(u"2026年の祝日ファイルを作成して"_q, Answer::Yes);
+        press(form, "cmdHoliday");
+        desk.prompts.expect(u"指定された休日をカレンダーに設定します。"_q);
+        press(form, "cmdWrite");
+        update(calendar);
+        close(calendar);
+    }
 
     Desk desk;
     Client client{desk.context};
     frmLogin window{client};
 };
 
-void NewSite::enterCompany() {
-    desk.prompts.expect(u"設定メニューの表示順序に従い、会社情報登録から順次設定を行って下さい。"_q);
-    QWidget* const form = open("mnuCorp", Screen::Corp);
-    ASSERT_TRUE(form);
-    fill(form, {{"txtCorp", u"新設商事"_q}, {"txtTel", u"03-1234-5678"_q}});
-    update(form);
-    close(form);
-}
-
-void NewSite::enterSections() {
-    QWidget* const form = open("mnuSection", Screen::Section);
-    ASSERT_TRUE(form);
-    for (const auto& [code, name] : {std::pair{u"S1"_q, u"総務部"_q}, {u"S2"_q, u"製造部"_q}}) {
-        chooseNew(form, "dtsSection");
-        fill(form, {{"txtName", name}, {"txtCode", code}, {"cboDB", u"カレントデータベース"_q}});
-        tick(form, {"chkDisplay"});
-        update(form);
-    }
-    close(form);
-}
-
-void NewSite::enterPeople() {
-    QWidget* const form = open("mnuStaff", Screen::Staff);
-    ASSERT_TRUE(form);
-    for (const auto& [code, name, section] : {std::tuple{u"11"_q, u"青木"_q, u"総務部"_q},
-                                              {u"12"_q, u"石田"_q, u"総務部"_q},
-                                              {u"21"_q, u"上野"_q, u"製造部"_q}}) {
-        chooseNew(form, "dtsStaff");
-        fill(form, {{"txtName", name}, {"txtKana", u"ｶﾅ"_q}, {"txtCode", code}, {"dcbSection", section}});
-        tick(form, {"chkDisplay"});
-        update(form);
-        EXPECT_TRUE(form->findChild<QStatusBar*>()->currentMessage().contains(u"社員設定"_q));
-    }
-    close(form);
-}
-
-void NewSite::setWorkStyle() {
-    QWidget* const form = open("mnuWorkStyle", Screen::WorkStyle);
-    ASSERT_TRUE(form);
-    for (const char* const item : {"chkDisplay_2", "chkDisplay_5", "chkDisplay_10"})
-        EXPECT_TRUE(named<QCheckBox>(*form, item).isChecked()) << item;
-    typeInto(&named<QWidget>(*form, "txtUnit"), u"15"_q);
-    update(form);
-    close(form);
-}
-
-void NewSite::setWorkTimes() {
-    QWidget* const form = open("mnuWorkTime", Screen::WorkTime);
-    ASSERT_TRUE(form);
-    auto* const tab = &named<QTabWidget>(*form, "tabTime");
-    auto& weekday = named<Grid>(*form, "vfgWeekday");
-    typeInto(&named<QWidget>(*form, "txtWeekday"), u"日勤"_q);
-    const QStringList times{u"0900"_q, u"1200"_q, u"1300"_q, u"1800"_q};
-    for (int slot = 0; slot < times.size(); ++slot) typeCell(weekday, 2, slot + 1, times[slot]);
-    typeCell(weekday, 5, 1, u"1800"_q);
-    typeCell(weekday, 5, 2, u"2200"_q);
-    update(form, "cmdUpdateWeekday");
-    tab->setCurrentIndex(1);
-    typeInto(&named<QWidget>(*form, "txtHoliday"), u"休日"_q);
-    typeCell(named<Grid>(*form, "vfgHoliday"), 2, 1, u"0500"_q);
-    typeCell(named<Grid>(*form, "vfgHoliday"), 2, 2, u"2200"_q);
-    update(form, "cmdUpdateHoliday");
-    tab->setCurrentIndex(4);
-    typeInto(&named<QWidget>(*form, "txtAdjust"), u"上限45時間"_q);
-    typeCell(named<Grid>(*form, "vfgAdjust"), 2, 1, u"45:00"_q);
-    update(form, "cmdUpdateAdjust");
-    close(form);
-}
-
-void NewSite::setRights() {
-    QWidget* const form = open("mnuAccess", Screen::Access);
-    ASSERT_TRUE(form);
-    auto& grid = named<Grid>(*form, "vfgAccess");
-    typeInto(&named<QWidget>(*form, "txtAccess"), u"一般"_q);
-    typeCell(grid, firstAccessRow, static_cast<int>(AccessColumn::Section), u"所属部課"_q);
-    grid.Select(firstAccessRow, static_cast<int>(AccessColumn::FirstRight));
-    QTest::keyClick(&grid, Qt::Key_Space);
-    update(form);
-    close(form);
-}
-
-void NewSite::setPeople() {
-    QWidget* const form = open("mnuUser", Screen::Asign);
-    ASSERT_TRUE(form);
-
-    // Who keeps the changes there keeps the session: the window would be left to the next person.
-    typeInto(&named<QWidget>(*form, "txtPaid"), u"11"_q);
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    desk.prompts.expect(u"変更を破棄しますか？"_q, Answer::No);
-    named<QWidget>(window, "txtPassWord").setFocus();
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(form->isVisible() && window.isLoggedIn());
-
-    const auto set = [&](int row) {
-        named<DataList>(*form, "dtsStaff").setCurrentRow(row);
-        QCoreApplication::processEvents();
-        named<QTabWidget>(*form, "tabStaff").setCurrentIndex(0);
-        fill(form, {{"txtPassword", u"pass1"_q}, {"txtCloseDay", u"31"_q}, {"txtPaid", u"10"_q}});
-        named<QTabWidget>(*form, "tabStaff").setCurrentIndex(1);
-        fill(form, {{"dcbWeekday", u"日勤"_q},
-                    {"dcbHoliday", u"休日"_q},
-                    {"dcbAdjust", u"上限45時間"_q},
-                    {"dcbAccess", u"一般"_q}});
-        update(form);
-    };
-    set(0);
-    set(1);
-    typeInto(&named<QWidget>(*form, "dcbSection"), u"製造部"_q);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    set(0);
-    close(form);
-}
-
-void NewSite::setCalendar() {
-    QWidget* const calendar = open("mnuCalendar", Screen::Calendar);
-    ASSERT_TRUE(calendar);
-    press(calendar, "cmdHoliday");
-    QCoreApplication::processEvents();
-    QWidget* const form = onScreen<frmHoliday>();
-    ASSERT_TRUE(form);
-    auto& rules = named<Grid>(*form, "vfgHoliday");
-    typeCell(rules, 1, 1, u"毎週"_q);
-    typeCell(rules, 1, 2, u"日曜日"_q);
-    typeCell(rules, 1, 5, u"定休日"_q);
-    typeCell(rules, 1, 6, u"全日"_q);
-    desk.prompts.expect(u"2026年の祝日ファイルを作成して"_q, Answer::Yes);
-    press(form, "cmdHoliday");
-    desk.prompts.expect(u"指定された休日をカレンダーに設定します。"_q);
-    press(form, "cmdWrite");
-    update(calendar);
-    close(calendar);
-}
-
 TEST_F(NewSite, IsSetUpThroughTheWindowsInTheirOrder) {
     logIn({}, u"admin"_q, u"ADMIN"_q);
-    desk.prompts.expect(u"部課情報が登録されていません。"_q);
-    EXPECT_FALSE(open("mnuStaff", Screen::Staff));
+    open("mnuStaff", Screen::Staff, u"部課情報が登録されていません。"_q);
     enterCompany();
     enterSections();
-    desk.prompts.expect(u"社員情報が登録されていません。"_q);
-    EXPECT_FALSE(open("mnuWorkStyle", Screen::WorkStyle));
+    open("mnuWorkStyle", Screen::WorkStyle, u"社員情報が登録されていません。"_q);
     enterPeople();
     setWorkStyle();
     setWorkTimes();
@@ -240,14 +212,13 @@ TEST_F(NewSite, IsSetUpThroughTheWindowsInTheirOrder) {
     QWidget* const card = window.screens().window(Screen::Kurbo);
     ASSERT_TRUE(card);
     const GridModel& cells = *named<Grid>(*card, "vfgKurbo").grid();
-    const int today = firstCardDay + 14;
-    EXPECT_EQ(cells.CellText(today, static_cast<int>(CardColumn::Enter)), u"09:00"_q);
-    EXPECT_EQ(cells.CellText(today, static_cast<int>(CardColumn::Leave)), u"19:40"_q);
-    EXPECT_EQ(cells.CellText(today, static_cast<int>(CardColumn::Over)), u"1:30"_q);
+    QStringList today;
+    for (const CardColumn column : {CardColumn::Enter, CardColumn::Leave, CardColumn::Over})
+        today.append(cardText(cells, firstCardDay + 14, column));
+    EXPECT_EQ(today.join(u' '), u"09:00 19:40 1:30"_q);
     // Sunday, Wednesday the 15th and the 29th, a public holiday.
     for (const auto& [day, type] : {std::pair{5, u"0"_q}, {15, QString()}, {29, u"0"_q}})
         EXPECT_EQ(cells.TextMatrix(firstCardDay + day - 1, static_cast<int>(CardColumn::Holiday)), type) << day;
-    close(card);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "shell/login/frmLogin.h"
 #include "support/sample_company.h"
 
-#include <QFile>
 #include <QTest>
 
 namespace kurbo::test {
@@ -25,9 +24,9 @@ TEST_F(SampleCompany, AWindowThatCouldNotLoadOnlyCloses) {
 }
 
 TEST_F(SampleCompany, MoreThanAYearOfRowsIsTold) {
-    connection.execute(u"INSERT INTO T01_Calendar (F_DateID, F_Date) VALUES ('20251119', #2025/11/19#)"_q);
-    connection.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (1, '20251119', '1001')"_q);
-    connection.execute(u"INSERT INTO T02_Kurbo (F_KurboID, F_DateID, F_User) VALUES (2, '20261120', '1001')"_q);
+    insert("T01_Calendar", "DateID, Date", u"'20251119', #2025/11/19#"_q);
+    addCard(1, *makeDay(2025, 11, 19), {}, {});
+    addCard(2, *makeDay(2026, 11, 20), {}, {});
     frmLogin window(client);
     window.load();
     desk.prompts.expect(u"レコード数が１年分を超えています。"_q);

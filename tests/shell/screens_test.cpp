@@ -2,8 +2,6 @@
 
 #include "support/window.h"
 
-#include <QTabWidget>
-
 namespace kurbo::test {
 namespace {
 
@@ -54,26 +52,6 @@ TEST_F(ScreensTest, TheCardClosesForTheTotalsUnlessTheyAreRefused) {
     desk.prompts.expect(u"カレンダーが作成されていません。"_q);
     EXPECT_FALSE(opened(Screen::Kurbo));
     EXPECT_TRUE(screens.window(Screen::Total) && screens.window(Screen::Asign));
-    EXPECT_TRUE(screens.closeAll());
-}
-
-// The page of the button that was pressed.
-TEST_F(ScreensTest, TheButtonsOfThePeopleLeadToTheirPages) {
-    logInWithAllRights();
-    QWidget* const people = opened(Screen::Asign);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(people));
-    named<QTabWidget>(*people, "tabStaff").setCurrentIndex(1);
-    for (const auto& [button, page] : {std::pair{"cmdWorkTime_1", 1}, {"cmdWorkTime_4", 4}}) {
-        named<QWidget>(*people, button).setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QWidget* const workTime = screens.window(Screen::WorkTime);
-        ASSERT_TRUE(workTime) << button;
-        EXPECT_EQ(named<QTabWidget>(*workTime, "tabTime").currentIndex(), page);
-        workTime->close();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(people));
-    }
-    named<QPushButton>(*people, "cmdAccess").click();
-    EXPECT_EQ(screens.window(Screen::Access), QApplication::activeModalWidget());
     EXPECT_TRUE(screens.closeAll());
 }
 

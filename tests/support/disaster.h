@@ -32,8 +32,10 @@ inline void failEverywhere(const Desk& desk, const Disaster& disaster, int fewes
                 ToldPrompts prompts;
                 NoProgress progress;
                 if (disaster.write({prompts, desk.clock, desk.paths, progress})) return Written;
-                const QString told = prompts.messages.value(prompts.messages.size() - 1).text;
-                return told.contains(u"ディスクの空き容量が不足しているため"_q) ? NoRoom : OtherRefusal;
+                const bool noRoom = std::ranges::any_of(prompts.messages, [](const Message& told) {
+                    return told.text.contains(u"ディスクの空き容量が不足しているため"_q);
+                });
+                return noRoom ? NoRoom : OtherRefusal;
             }));
             const bool written = disaster.isWritten();
             ASSERT_FALSE(::testing::Test::HasFailure()) << "call " << call;

@@ -1,12 +1,6 @@
-#include "card/card_cells.h"
-#include "demo/demo_company.h"
-#include "month/loaders.h"
-#include "store/file/database_file.h"
 #include "support/sample_company.h"
 #include "totals/total_lines.h"
 #include "totals/total_sheet.h"
-
-#include <set>
 
 using namespace std::chrono_literals;
 using std::chrono::year_month;
@@ -27,27 +21,14 @@ QStringList texts(const GridModel& grid, int row) {
 class ClosedAt final : public Progress {
   public:
     explicit ClosedAt(int step) : left_(step) {}
-    void begin(const QString& text, int maximum) override {
-        said = text;
-        most_ = maximum;
-        ++open;
-    }
-    void step(int value) override {
-        EXPECT_LE(last_, value);
-        EXPECT_LE(value, most_);
-        last_ = value;
-        --left_;
-    }
+    void begin(const QString& /*text*/, int /*maximum*/) override { ++open; }
+    void step(int /*value*/) override { --left_; }
     void end() override { --open; }
     bool stopped() override { return left_ < 0; }
-
-    QString said;
     int open = 0;
 
   private:
     int left_;
-    int last_ = 0;
-    int most_ = 0;
 };
 
 class TotalsTest : public SampleCompany {
@@ -55,14 +36,14 @@ class TotalsTest : public SampleCompany {
     // 1001 has worked on the 1st of April from 9:00 to 17:30, and 1002 has saved it with 100:00 hours.
     TotalsTest() {
         addCard(1, *makeDay(2026, 4, 1), u"09:00"_q, u"17:30"_q);
-        save(u"1002"_q, u"202604"_q, 6000, 12.5);
+        save(u"1002"_q, u"202604"_q, u"6000"_q, u"12.5"_q);
     }
 
-    void save(const QString& staff, const QString& month, const Value& minutes, const Value& paidLeft,
+    void save(const QString& staff, const QString& month, const QString& minutes, const QString& paidLeft,
               const QString& section = u"S01"_q) {
-        connection.execute(u"INSERT INTO T05_Approved (F_Staff, F_Section, F_Year, F_Month, F_WorkDay, F_Work, "
-                           "F_PaidTotal, F_PersonalApproval, F_Term) VALUES (?, ?, ?, ?, 15, ?, ?, True, 'saved')"_q,
-                           {staff, section, month.left(4), month.mid(4), minutes, paidLeft});
+        insert("T05_Approved", "Staff, Section, Year, Month, WorkDay, Work, PaidTotal, PersonalApproval, Term",
+               u"'%1', '%2', '%3', '%4', 15, %5, %6, True, 'saved'"_q.arg(staff, section, month.left(4), month.mid(4),
+                                                                          minutes, paidLeft));
     }
 
     // Lines as "column 1|column 2|work|paid leave left".
@@ -85,7 +66,7 @@ class TotalsTest : public SampleCompany {
 
 TEST_F(TotalsTest, HaveSubTotalsByStaffAndByMonth) {
     connection.execute(u"UPDATE C03_Staff SET F_Display = False WHERE (F_StaffCode = '1003')"_q);
-    save(u"1002"_q, u"202605"_q, {}, {});
+    save(u"1002"_q, u"202605"_q, u"Null"_q, u"Null"_q);
     everybody.to = 2026y / 5;
     EXPECT_EQ(shown(everybody),
               QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎|2026年 05月|0:00|20.0"_q,
@@ -96,12 +77,6 @@ TEST_F(TotalsTest, HaveSubTotalsByStaffAndByMonth) {
               QStringList({u"2026年 04月|山田太郎|8:30|20.0"_q, u"2026年 04月|鈴木花子|100:00|12.5"_q,
                            u"2026年 04月 小計||108:30|32.5"_q, u"2026年 05月|山田太郎|0:00|20.0"_q,
                            u"2026年 05月|鈴木花子||"_q, u"2026年 05月 小計||0:00|20.0"_q, u"合計||108:30|52.5"_q}));
-    // Over the turn of a year as well; without a calendar a month is a row of zeros.
-    everybody.from = 2026y / 12;
-    everybody.to = 2027y / 1;
-    EXPECT_EQ(shown(everybody).first(4),
-              QStringList({u"2026年 12月|山田太郎|0:00|20.0"_q, u"2026年 12月|鈴木花子|0:00|20.0"_q,
-                           u"2026年 12月 小計||0:00|40.0"_q, u"2027年 01月|山田太郎|0:00|20.0"_q}));
 }
 
 TEST_F(TotalsTest, CarryAShiftOverTheStartOfAMonth) {
@@ -115,12 +90,10 @@ TEST_F(TotalsTest, CarryAShiftOverTheStartOfAMonth) {
         return shown(everybody).filter(u"山田太郎|2026年 04月"_q);
     };
     const QStringList carried{u"山田太郎|2026年 04月|2:00|20.0"_q};
-    for (const year_month from : {april(), year_month(2026y / 3), year_month(2026y / 2)}) {
-        EXPECT_EQ(ofApril(from, {}), carried);
-        EXPECT_EQ(ofApril(from, u"1001"_q), carried);
-    }
+    for (const year_month from : {april(), year_month(2026y / 3)})
+        for (const QString& staff : {QString(), u"1001"_q}) EXPECT_EQ(ofApril(from, staff), carried);
     // The row before the month lies in a month that is saved.
-    save(u"1001"_q, u"202603"_q, 60, 1);
+    save(u"1001"_q, u"202603"_q, u"60"_q, u"1"_q);
     EXPECT_EQ(ofApril(2026y / 2, {}), carried);
     // It is the last row that counts, with or without a leave.
     addCard(3, *makeDay(2026, 3, 31), {}, {});
@@ -151,7 +124,6 @@ TEST_F(TotalsTest, FillTheGridWithRecordsAndCalculatedMonths) {
     TotalSheet sheet;
     const GridModel& grid = sheet.grid;
     ASSERT_TRUE(ShowTotal(desk.context, connection, everybody, sheet));
-    ASSERT_EQ(grid.Cols(), 27);
     EXPECT_EQ(texts(grid, 0).join(u'|'),
               u"|氏名|年月|出勤日数|実働時間|有給残数|法内残業|普通残業|深夜残業|早出勤務|休日出勤|休日深夜|法休出勤|"
               u"法休深夜|"
@@ -162,21 +134,18 @@ TEST_F(TotalsTest, FillTheGridWithRecordsAndCalculatedMonths) {
     const QStringList saved = texts(grid, 3);
     EXPECT_EQ(saved.mid(18, 6).join(u'|'), u"|||-1|0|saved"_q);
     EXPECT_EQ(grid.CellText(3, 21) + grid.CellText(3, 22) + grid.CellText(4, 21), u"済未"_q);
-    EXPECT_TRUE(grid.CellChecked(3, 21));
-    for (const int column : {6, 12, 13, 24, 25, 26}) EXPECT_TRUE(grid.ColHidden(column)) << column;
-    for (const int column : {5, 7, 14, 20, 23}) EXPECT_FALSE(grid.ColHidden(column)) << column;
-    EXPECT_FALSE(grid.RowBackColor(1));
-    EXPECT_TRUE(grid.RowBackColor(2) && grid.RowBackColor(grid.Rows() - 1));
-    EXPECT_EQ(grid.TextMatrix(grid.Rows() - 1, 25), QString());
+    QList<int> hidden;
+    for (int column = 0; column < grid.Cols(); ++column)
+        if (grid.ColHidden(column)) hidden.append(column);
+    EXPECT_EQ(hidden, QList({6, 8, 9, 10, 11, 12, 13, 15, 16, 17, 18, 19, 24, 25, 26}));
+    EXPECT_TRUE(!grid.RowBackColor(1) && grid.RowBackColor(2) && grid.RowBackColor(grid.Rows() - 1));
 }
 
 TEST_F(TotalsTest, RecordsBelongToTheirSectionAndCalculatedMonthsToItsPeopleOfToday) {
-    connection.execute(
-        u"INSERT INTO C02_Section (F_SectionCode, F_SectionName, F_Display) VALUES ('S02', 'x', True)"_q);
     connection.execute(u"UPDATE C03_Staff SET F_Section = 'S02' WHERE (F_StaffCode IN ('1002', '1003'))"_q);
     connection.execute(u"UPDATE C03_Staff SET F_Display = True WHERE (F_StaffCode = '1004')"_q);
-    save(u"1004"_q, u"202604"_q, 60, 1);
-    save(u"1004"_q, u"202605"_q, 120, 1, u"S02"_q);
+    save(u"1004"_q, u"202604"_q, u"60"_q, u"1"_q);
+    save(u"1004"_q, u"202605"_q, u"120"_q, u"1"_q, u"S02"_q);
     EXPECT_EQ(shown(everybody).filter(u"年"_q),
               QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"鈴木花子|2026年 04月|100:00|12.5"_q,
                            u"高橋三郎|2026年 04月|1:00|1.0"_q}));
@@ -185,9 +154,6 @@ TEST_F(TotalsTest, RecordsBelongToTheirSectionAndCalculatedMonthsToItsPeopleOfTo
     EXPECT_EQ(shown(everybody).filter(u"高橋三郎|"_q), QStringList{u"高橋三郎|2026年 05月|0:00|20.0"_q});
     everybody.staff = u"1004"_q;
     EXPECT_EQ(shown(everybody).filter(u"年"_q), QStringList{u"高橋三郎|2026年 05月|2:00|1.0"_q});
-    // Nobody, and no month.
-    EXPECT_EQ(shown({u"S09"_q, {}, april(), april(), true}), QStringList());
-    EXPECT_EQ(shown({u"S01"_q, {}, 2026y / 5, april(), true}), QStringList());
 }
 
 TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
@@ -202,18 +168,13 @@ TEST_F(TotalsTest, ThatFailOrAreStoppedLeaveTheOldGrid) {
     for (const int step : {0, 1, 2}) {
         ClosedAt progress(step);
         EXPECT_FALSE(ShowTotal({desk.prompts, desk.clock, desk.paths, progress}, connection, other, sheet));
-        EXPECT_TRUE(isOld()) << step;
-        EXPECT_EQ(progress.open, 0);
-        EXPECT_EQ(progress.said, u"処理中です・・・");
+        EXPECT_TRUE(isOld() && progress.open == 0) << step;
     }
     // A leave before its enter is told by the calculation itself.
     connection.execute(u"UPDATE T02_Kurbo SET F_Leave = #2026/04/01 08:00:00#"_q);
     desk.prompts.expect(u"退社時刻が出社時刻より前に設定されています。"_q);
     EXPECT_FALSE(ShowTotal(desk.context, connection, other, sheet));
     EXPECT_EQ(desk.prompts.last().title, u"clsWorkTime－ShowTotal"_q);
-    connection.execute(u"UPDATE M01_CorpInfo SET F_RoundUnit = Null"_q);
-    desk.prompts.expect(u"時間計算方法設定に不備があります。"_q);
-    EXPECT_FALSE(ShowTotal(desk.context, connection, other, sheet));
     EXPECT_TRUE(isOld());
 }
 
@@ -221,10 +182,10 @@ TEST_F(TotalsTest, NameThoseWhoseRulesAreAtFaultAndShowTheOthers) {
     // Those of a person whose months are all saved are not asked for.
     connection.execute(u"UPDATE M02_StaffInfo SET F_Weekday = Null WHERE (F_StaffCode IN ('1002', '1003'))"_q);
     desk.prompts.expect(u"次の社員の月次集計は計算できません。\r\n\r\n佐藤次郎 (1003)\r\n平日勤務時間設定に不備が"_q);
-    const QStringList rows = shown(everybody);
-    EXPECT_EQ(rows, QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎 小計||8:30|20.0"_q,
-                                 u"鈴木花子|2026年 04月|100:00|12.5"_q, u"鈴木花子 小計||100:00|12.5"_q,
-                                 u"佐藤次郎|2026年 04月||"_q, u"佐藤次郎 小計|||"_q, u"合計||108:30|32.5"_q}));
+    EXPECT_EQ(shown(everybody),
+              QStringList({u"山田太郎|2026年 04月|8:30|20.0"_q, u"山田太郎 小計||8:30|20.0"_q,
+                           u"鈴木花子|2026年 04月|100:00|12.5"_q, u"鈴木花子 小計||100:00|12.5"_q,
+                           u"佐藤次郎|2026年 04月||"_q, u"佐藤次郎 小計|||"_q, u"合計||108:30|32.5"_q}));
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = Null WHERE (F_StaffCode = '1001')"_q);
     connection.execute(u"UPDATE M02_StaffInfo SET F_CloseDay = 29 WHERE (F_StaffCode = '1003')"_q);
     everybody.to = 2026y / 5;
@@ -240,10 +201,8 @@ TEST_F(TotalsTest, KeepPeopleOfOneNameApart) {
                        "WHERE (F_StaffCode IN ('1001', '1002'))"_q);
     connection.execute(u"UPDATE C03_Staff SET F_Display = False WHERE (F_StaffCode = '1003')"_q);
     everybody.to = 2026y / 5;
-    EXPECT_EQ(shown(everybody),
-              QStringList({u"山田太郎 (1001)|2026年 04月|8:30|20.0"_q, u"山田太郎 (1001)|2026年 05月|0:00|20.0"_q,
-                           u"山田太郎 (1001) 小計||8:30|40.0"_q, u"山田太郎 (1002)|2026年 04月|100:00|12.5"_q,
-                           u"山田太郎 (1002)|2026年 05月|0:00|20.0"_q, u"山田太郎 (1002) 小計||100:00|32.5"_q,
+    EXPECT_EQ(shown(everybody).filter(u"計"_q),
+              QStringList({u"山田太郎 (1001) 小計||8:30|40.0"_q, u"山田太郎 (1002) 小計||100:00|32.5"_q,
                            u"合計||108:30|72.5"_q}));
 }
 
