@@ -166,7 +166,6 @@ double readSavedMonth(Connection& connection, const QString& staff, Day end, Car
     Rows month = connection.rows(statement, {staff, id.left(4), id.mid(4, 2)});
     if (!month.next()) return 0;
     figures = readMonthFigures(month);
-    for (std::size_t i = 0; i < quantityCount; ++i) card.finals[i] = month.value(static_cast<int>(i));
     constexpr int behind = quantityCount;
     card.saved = true;
     card.personalApproval = month.yes(behind);
@@ -216,6 +215,9 @@ void writeSums(Card& card, const CellWriter& cells, const clsWorkTime& rules, co
     card.sums = monthFigures(sum, hundredths(balance));
     card.summary = {cells.captions(), cells.sums(QStringLiteral("合計(実働)"), card.sums),
                     cells.sums(QStringLiteral("合計(最終)"), finals)};
+    for (const QuantityFacts& facts : quantities)
+        card.finals[placeOf(facts.id)] =
+            readFigure(facts, card.summary[2][index(cardColumnOf(facts.id))], rules.plngCountUnit);
     if (rules.pbleFlexTime) card.summary[1][index(CardColumn::LegalOver)] = cells.difference(sum.difference);
 }
 

@@ -21,7 +21,8 @@ struct Card {
     QList<QStringList> days;
     std::vector<CardEntry> entries; // of the days
     FigureList sums;                // what the days add up to
-    SavedFigures finals;            // what counts for the month, as saved
+    // What counts for the month, as it is shown: that is approved and saved.
+    std::array<FigureEntry, quantityCount> finals;
     std::array<bool, cardColumns> hidden{};
     // Set when the span is a whole card period that has ended; a saved month then gives the last summary row.
     bool wholePeriod = false;

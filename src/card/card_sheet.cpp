@@ -8,7 +8,7 @@ void CardSheet::show(Card card) {
     fillCardGrid(grid, card);
     days = std::move(card.entries);
     sums = card.sums;
-    for (std::size_t i = 0; i < quantityCount; ++i) finals[i] = {.value = card.finals[i], .fault = {}};
+    finals = card.finals;
     drawn();
 }
 

@@ -75,8 +75,8 @@ void adjust(CardSheet& sheet, const QuantityFacts& facts, const Values& limits, 
     if (!isDifference(facts.id, rules)) {
         const auto place = placeOf(facts.id);
         const MonthFigure figure = limited(sheet.sums[place], limits[static_cast<qsizetype>(place)]);
-        sheet.finals[place] = {.value = storedFigure(figure), .fault = {}};
         text = figureText(figure, rules.plngCountUnit);
+        sheet.finals[place] = readFigure(facts, text, rules.plngCountUnit);
     }
     sheet.grid.TextMatrix(finalSumRow, static_cast<int>(column), text);
 }

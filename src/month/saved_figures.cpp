@@ -16,13 +16,6 @@ Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
     return static_cast<double>(singleOf(*number));
 }
 
-Value storedFigure(const MonthFigure& figure) {
-    if (!isKnown(figure)) return {};
-    if (const auto* const days = std::get_if<DayHundredths>(&figure))
-        return static_cast<double>(singleOf(days->count() / 100.0));
-    return countOf(figure);
-}
-
 const Value& FigureEntry::stored() const {
     if (fault) throw Fault(*fault);
     return value;

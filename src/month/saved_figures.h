@@ -10,11 +10,6 @@ namespace kurbo {
 // of a text that is no such figure, or too large for its field.
 [[nodiscard]] Value figureOf(const QuantityFacts& facts, const QString& cell, int unit);
 
-// What is stored of each quantity of a month, in their places; Null where nothing is.
-using SavedFigures = std::array<Value, quantityCount>;
-// A figure as it is stored: days in single precision.
-[[nodiscard]] Value storedFigure(const MonthFigure& figure);
-
 // A figure as a person has typed it, read once.
 struct FigureEntry {
     Value value;

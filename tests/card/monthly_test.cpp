@@ -245,6 +245,12 @@ TEST_F(MonthlyScreen, ASavedMonthsLeaveIsDeductedOnce) {
         .expect(u"タイムカードの表示後に変更されています。"_q)
         .expect(u"更新できませんでした。"_q);
     EXPECT_FALSE(screen.month().update()) << "somebody else has changed the balance";
+    connection.execute(u"UPDATE T05_Approved SET F_PaidTotal = 8.96"_q);
+    ASSERT_TRUE(screen.chooseMonth(3));
+    edit(finalSumRow, CardColumn::Over, u"1:00"_q);
+    desk.prompts.expect(saving);
+    EXPECT_TRUE(screen.month().update());
+    EXPECT_EQ(asked(u"SELECT F_PaidTotal FROM T05_Approved"_q), u"9"_q) << "as it was shown";
 }
 
 } // namespace kurbo::test

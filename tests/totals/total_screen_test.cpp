@@ -89,7 +89,13 @@ TEST_F(TotalScreenTest, CorrectsSavedMonthsAndWithdrawsTheirApprovals) {
     type(rowOf(u"1001"_q, u"2026年 05月"_q), 5, u"11"_q);
     desk.prompts.expect(u"追加・変更を更新します。"_q);
     EXPECT_TRUE(screen.update());
-    EXPECT_EQ(asked(u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q), u"11"_q);
+    const QString balance = u"SELECT F_PaidTotal FROM M02_StaffInfo WHERE (F_StaffCode = '1001')"_q;
+    EXPECT_EQ(asked(balance), u"11"_q);
+    connection.execute(u"UPDATE M02_StaffInfo SET F_PaidTotal = 21 WHERE (F_StaffCode = '1001')"_q);
+    type(rowOf(u"1001"_q, u"2026年 05月"_q), 7, u"1:00"_q);
+    desk.prompts.expect(u"追加・変更を更新します。"_q);
+    EXPECT_TRUE(screen.update());
+    EXPECT_EQ(asked(balance), u"21"_q) << "leave that was granted since stays";
 }
 
 TEST_F(TotalScreenTest, RefusesFiguresByTheirColumn) {

@@ -12,40 +12,40 @@
 namespace kurbo {
 namespace {
 
-enum class Form { Code, Year, Month, Count, Minutes, Balance, Days, Mark, Term };
+enum class Kind { Code, Year, Month, Count, Minutes, Balance, Days, Mark, Term };
 
 // A figure has neither member.
 struct Field {
     const char16_t* title = nullptr;
-    Form form = Form::Code;
+    Kind kind = Kind::Code;
     QString MonthRecord::*text = nullptr;
     bool MonthRecord::*mark = nullptr;
 };
 
 constexpr std::array before{
-    Field{.title = u"社員ｺｰﾄﾞ", .form = Form::Code, .text = &MonthRecord::staff},
-    Field{.title = u"部課ｺｰﾄﾞ", .form = Form::Code, .text = &MonthRecord::section},
-    Field{.title = u"年", .form = Form::Year, .text = &MonthRecord::year},
-    Field{.title = u"月", .form = Form::Month, .text = &MonthRecord::month},
+    Field{.title = u"社員ｺｰﾄﾞ", .kind = Kind::Code, .text = &MonthRecord::staff},
+    Field{.title = u"部課ｺｰﾄﾞ", .kind = Kind::Code, .text = &MonthRecord::section},
+    Field{.title = u"年", .kind = Kind::Year, .text = &MonthRecord::year},
+    Field{.title = u"月", .kind = Kind::Month, .text = &MonthRecord::month},
 };
 constexpr std::array behind{
-    Field{.title = u"本人", .form = Form::Mark, .mark = &MonthRecord::personalApproval},
-    Field{.title = u"所長", .form = Form::Mark, .mark = &MonthRecord::superiorApproval},
-    Field{.title = u"集計期間", .form = Form::Term, .text = &MonthRecord::term},
+    Field{.title = u"本人", .kind = Kind::Mark, .mark = &MonthRecord::personalApproval},
+    Field{.title = u"所長", .kind = Kind::Mark, .mark = &MonthRecord::superiorApproval},
+    Field{.title = u"集計期間", .kind = Kind::Term, .text = &MonthRecord::term},
 };
 
 // The balance is the one number without quotes.
-constexpr Form formOf(const QuantityFacts& facts) {
-    if (facts.id == Quantity::PaidTotal) return Form::Balance;
-    if (facts.unit() == Unit::Days) return Form::Days;
-    return facts.unit() == Unit::Time ? Form::Minutes : Form::Count;
+constexpr Kind kindOf(const QuantityFacts& facts) {
+    if (facts.id == Quantity::PaidTotal) return Kind::Balance;
+    if (facts.unit() == Unit::Days) return Kind::Days;
+    return facts.unit() == Unit::Time ? Kind::Minutes : Kind::Count;
 }
 
 constexpr auto fields = [] {
     std::array<Field, before.size() + quantityCount + behind.size()> all{};
     auto place = std::ranges::copy(before, all.begin()).out;
     for (const QuantityFacts& facts : quantities)
-        *place++ = {.title = facts.heading, .form = formOf(facts), .text = nullptr, .mark = nullptr};
+        *place++ = {.title = facts.heading, .kind = kindOf(facts), .text = nullptr, .mark = nullptr};
     std::ranges::copy(behind, place);
     return all;
 }();
@@ -79,10 +79,10 @@ std::optional<Value> wholeOfText(const QString& text, int low, int high) {
     return number;
 }
 
-std::optional<Value> figureOfText(Form form, const QString& text) {
-    if (form == Form::Count)
+std::optional<Value> figureOfText(Kind kind, const QString& text) {
+    if (kind == Kind::Count)
         return wholeOfText(text, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max());
-    if (form == Form::Minutes) return wholeOfText(text, Minutes::min().count(), Minutes::max().count());
+    if (kind == Kind::Minutes) return wholeOfText(text, Minutes::min().count(), Minutes::max().count());
     return singleOfText(text);
 }
 
@@ -93,13 +93,13 @@ bool isTerm(const QString& text) {
     return from && to && *from <= *to && slashDate(*from) + u'-' + slashDate(*to) == text;
 }
 
-bool isText(Form form, const QString& text) {
-    switch (form) {
-    case Form::Code:
+bool isText(Kind kind, const QString& text) {
+    switch (kind) {
+    case Kind::Code:
         return !text.isEmpty() && text == text.trimmed() && byteLength(text) <= maxCodeLength;
-    case Form::Year:
+    case Kind::Year:
         return parseDateId(text + QStringLiteral("0101")).has_value();
-    case Form::Month:
+    case Kind::Month:
         return parseDateId(QStringLiteral("2000") + text + QStringLiteral("01")).has_value();
     default:
         return text.isEmpty() || isTerm(text);
@@ -114,22 +114,22 @@ std::optional<bool> markOf(const QString& text) {
 }
 
 // Text fields stand in quotes, the one number without them, unless it takes the place of an empty cell.
-bool isQuotedRight(Form form, const CsvCell& cell) {
-    if (form != Form::Balance) return cell.quoted;
+bool isQuotedRight(Kind kind, const CsvCell& cell) {
+    if (kind != Kind::Balance) return cell.quoted;
     return !cell.quoted || cell.text == u"0";
 }
 
-// Puts a cell into its place; false when it isn't of the field's form.
+// Puts a cell into its place; false when it isn't of the field's kind.
 bool put(MonthRecord& record, std::size_t place, const CsvCell& cell) {
     const Field& field = fields[place];
-    if (!isQuotedRight(field.form, cell)) return false;
+    if (!isQuotedRight(field.kind, cell)) return false;
     const auto isForeign = [](QChar sign) {
         return sign == QChar::ReplacementCharacter || sign.category() == QChar::Other_Control;
     };
     if (std::ranges::any_of(cell.text, isForeign)) return false;
     if (field.text) {
         record.*field.text = cell.text;
-        return isText(field.form, cell.text);
+        return isText(field.kind, cell.text);
     }
     if (field.mark) {
         const auto mark = markOf(cell.text);
@@ -137,8 +137,8 @@ bool put(MonthRecord& record, std::size_t place, const CsvCell& cell) {
         return mark.has_value();
     }
     // A balance in quotes is the sign of an empty cell, and no balance of 0.
-    if (field.form == Form::Balance && cell.quoted) return true;
-    const auto figure = figureOfText(field.form, cell.text);
+    if (field.kind == Kind::Balance && cell.quoted) return true;
+    const auto figure = figureOfText(field.kind, cell.text);
     record.figures[place - firstFigure] = figure.value_or(Value());
     return figure.has_value();
 }
@@ -160,8 +160,8 @@ QString cellText(const MonthRecord& record, std::size_t place) {
     if (field.mark) return csvQuoted(record.*field.mark ? QStringLiteral("True") : QStringLiteral("False"));
     const Value& figure = record.figures[place - firstFigure];
     if (figure.isNull()) return csvQuoted(QStringLiteral("0"));
-    if (field.form == Form::Balance) return singleText(figure.real());
-    return csvQuoted(field.form == Form::Days ? singleText(figure.real()) : QString::number(figure.integer()));
+    if (field.kind == Kind::Balance) return singleText(figure.real());
+    return csvQuoted(field.kind == Kind::Days ? singleText(figure.real()) : QString::number(figure.integer()));
 }
 
 [[noreturn]] void refuseToWrite(const MonthRecord& record, const QString& why) {
