@@ -25,7 +25,8 @@ class Amount final {
     [[nodiscard]] friend constexpr Amount operator-(Amount one, Amount other) {
         return Amount(one.count_ - other.count_);
     }
-    [[nodiscard]] friend constexpr auto operator<=>(Amount one, Amount other) = default;
+    [[nodiscard]] friend constexpr bool operator==(Amount one, Amount other) = default;
+    [[nodiscard]] friend constexpr auto operator<=>(Amount one, Amount other) { return one.count_ <=> other.count_; }
 
   private:
     std::int32_t count_ = 0;

@@ -1,5 +1,7 @@
 #include "month/quantities.h"
 
+#include <QStringList>
+
 namespace kurbo {
 
 QString quantityFields(QStringView table) {
