@@ -215,9 +215,6 @@ void writeSums(Card& card, const CellWriter& cells, const clsWorkTime& rules, co
     card.sums = monthFigures(sum, hundredths(balance));
     card.summary = {cells.captions(), cells.sums(QStringLiteral("合計(実働)"), card.sums),
                     cells.sums(QStringLiteral("合計(最終)"), finals)};
-    for (const QuantityFacts& facts : quantities)
-        card.finals[placeOf(facts.id)] =
-            readFigure(facts, card.summary[2][index(cardColumnOf(facts.id))], rules.plngCountUnit);
     if (rules.pbleFlexTime) card.summary[1][index(CardColumn::LegalOver)] = cells.difference(sum.difference);
 }
 
@@ -228,6 +225,7 @@ Card cardOf(const Context& context, Connection& connection, clsWorkTime& rules, 
     const CardFigures figures = figuresOf(connection, rules, staff, read, today);
     Card card;
     card.headings = headingsFor(rules.pbleFlexTime);
+    card.countUnit = rules.plngCountUnit;
     card.wholePeriod = isWholePeriod(rules, span, today);
     double balance = rules.psngPaidTotal;
     FigureList finals;

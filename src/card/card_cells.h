@@ -21,8 +21,7 @@ struct Card {
     QList<QStringList> days;
     std::vector<CardEntry> entries; // of the days
     FigureList sums;                // what the days add up to
-    // What counts for the month, as it is shown: that is approved and saved.
-    std::array<FigureEntry, quantityCount> finals;
+    int countUnit = 1;              // of its hours: 0 decimal, 1 h:mm
     std::array<bool, cardColumns> hidden{};
     // Set when the span is a whole card period that has ended; a saved month then gives the last summary row.
     bool wholePeriod = false;

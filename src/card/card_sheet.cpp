@@ -8,7 +8,10 @@ void CardSheet::show(Card card) {
     fillCardGrid(grid, card);
     days = std::move(card.entries);
     sums = card.sums;
-    finals = card.finals;
+    // As they are shown: that is approved and saved.
+    for (const QuantityFacts& facts : quantities)
+        finals[placeOf(facts.id)] =
+            readFigure(facts, cardText(grid, finalSumRow, cardColumnOf(facts.id)), card.countUnit);
     drawn();
 }
 
