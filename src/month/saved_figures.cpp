@@ -6,6 +6,7 @@
 #include "store/engine_fault.h"
 
 namespace kurbo {
+namespace {
 
 Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
     if (cell.isEmpty()) return {};
@@ -15,6 +16,8 @@ Value figureOf(const QuantityFacts& facts, const QString& cell, int unit) {
     if (facts.unit() == Unit::Number) return wholeOf<std::int16_t>(*number);
     return static_cast<double>(singleOf(*number));
 }
+
+} // namespace
 
 const Value& FigureEntry::stored() const {
     if (fault) throw Fault(*fault);

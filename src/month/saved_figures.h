@@ -6,10 +6,6 @@
 
 namespace kurbo {
 
-// What is stored of a cell's text; Null for an empty one. `unit` 0 is decimal hours, any other h:mm. Throws the fault
-// of a text that is no such figure, or too large for its field.
-[[nodiscard]] Value figureOf(const QuantityFacts& facts, const QString& cell, int unit);
-
 // A figure as a person has typed it, read once.
 struct FigureEntry {
     Value value;
@@ -19,6 +15,8 @@ struct FigureEntry {
     // Throws that fault.
     [[nodiscard]] const Value& stored() const;
 };
+// `unit` 0 is decimal hours, any other h:mm; an empty cell is stored as Null. A text that is no such figure, or too
+// large for its field, keeps that fault.
 [[nodiscard]] FigureEntry readFigure(const QuantityFacts& facts, const QString& cell, int unit);
 
 // Whether a later month than "yyyymm" has been saved for the person with a balance of paid leave. Throws a Fault.
